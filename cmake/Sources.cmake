@@ -1,0 +1,44 @@
+# nempdf_sources(CORE a.cpp ... WINDOWS b.cpp ...)  adds the units of the current folder to the two libraries:
+#   NemPdfCore     window-free, builds for Windows and natively
+#   NemPdfWindows  everything that needs <windows.h> (only where that exists)
+function(nempdf_sources)
+  cmake_parse_arguments(arg "" "" "CORE;WINDOWS" ${ARGN})
+  list(TRANSFORM arg_CORE PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+  list(TRANSFORM arg_WINDOWS PREPEND ${CMAKE_CURRENT_SOURCE_DIR}/)
+  target_sources(NemPdfCore PRIVATE ${arg_CORE})
+  if(WIN32)
+    target_sources(NemPdfWindows PRIVATE ${arg_WINDOWS})
+  endif()
+endfunction()
+
+# The flags that every unit of the project is compiled with.
+add_library(NemPdfFlags INTERFACE)
+target_include_directories(NemPdfFlags INTERFACE ${PROJECT_SOURCE_DIR}/src ${PROJECT_SOURCE_DIR}/include
+                                                 ${PROJECT_BINARY_DIR}/generated)
+target_compile_options(NemPdfFlags INTERFACE -Wall -Wextra -Werror $<$<COMPILE_LANGUAGE:CXX>:-Woverloaded-virtual
+                                             -Wnon-virtual-dtor -Wsuggest-override> -fstack-protector-strong)
+target_compile_definitions(NemPdfFlags INTERFACE $<$<CONFIG:RelWithDebInfo,Debug>:_GLIBCXX_ASSERTIONS>)
+if(WIN32)
+  target_compile_definitions(NemPdfFlags INTERFACE UNICODE _UNICODE STRICT NOMINMAX WINVER=0x0A00
+                                                   _WIN32_WINNT=0x0A00 NTDDI_VERSION=0x0A000000 _WIN32_IE=0x0A00)
+  target_link_options(NemPdfFlags INTERFACE -fstack-protector-strong)  # links the protector's own small library
+  target_compile_options(NemPdfFlags INTERFACE -ffunction-sections -fdata-sections -Wno-cast-function-type)
+else()
+  # 16-bit wide characters, as on Windows. libc's wide functions must not be called then: tests/support/ShortWide.cpp
+  # stands in for the few that the standard library itself needs.
+  target_compile_options(NemPdfFlags INTERFACE -fshort-wchar -fno-builtin)
+  target_compile_definitions(NemPdfFlags INTERFACE _GLIBCXX_EXTERN_TEMPLATE=0)
+  if(NEMPDF_SANITIZE)
+    target_compile_options(NemPdfFlags INTERFACE -fsanitize=${NEMPDF_SANITIZE} -fno-sanitize-recover=all
+                                                 -fno-omit-frame-pointer)
+    target_link_options(NemPdfFlags INTERFACE -fsanitize=${NEMPDF_SANITIZE})
+  endif()
+endif()
+
+add_library(NemPdfCore STATIC)
+target_link_libraries(NemPdfCore PUBLIC NemPdfFlags)
+if(WIN32)
+  add_library(NemPdfWindows STATIC)
+  target_link_libraries(NemPdfWindows PUBLIC NemPdfCore)
+  target_precompile_headers(NemPdfWindows PRIVATE ${PROJECT_SOURCE_DIR}/src/window/Windows.h)
+endif()
