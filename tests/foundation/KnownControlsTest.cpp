@@ -1,0 +1,101 @@
+// Controls and English captions of the templates that are known outside by number, and how the pages need them.
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <tuple>
+
+#include "resources/ResourceIds.h"
+#include "support/ModuleResources.h"
+
+namespace {
+
+using namespace module_resources;
+
+struct KnownControl {
+  WORD dialog;
+  DWORD id;
+  const wchar_t* className;
+  const wchar_t* text;
+};
+
+class KnownEnglishControl : public testing::TestWithParam<KnownControl> {};
+
+constexpr KnownControl kKnownControls[] = {
+    {141, 1141, L"Button", L"&PDF file size"},
+    {141, 1146, L"msctls_trackbar32", L""},
+    {141, 1142, L"Button", L"&Userdefined setting"},
+    {141, 1050, L"ComboBox", L""},
+    {141, 1147, L"ScrollBar", L""},
+    {141, 1020, L"ComboBox", L""},
+    {141, 1049, L"ComboBox", L""},
+    {141, 1148, L"ScrollBar", L""},
+    {141, 1107, L"ComboBox", L""},
+    {141, 1149, L"Static", L""},
+    {141, 1150, L"Static", L""},
+    {141, 1151, L"Static", L""},
+    {141, 1152, L"Static", L""},
+    {141, 1153, L"Static", L""},
+    {141, 1154, L"Static", L"File size:"},
+    {141, 1155, L"Static", L""},
+    {141, 1156, L"Static", L"Graphic quality:"},
+    {141, 1157, L"Static", L""},
+    {141, 1158, L"Static", L"Optimized for:"},
+    {141, 1159, L"Static", L""},
+    {141, 1160, L"Static", L""},
+    {141, 1161, L"Static", L""},
+    {141, 1162, L"Static", L""},
+    {141, 1144, L"Static", L"Help: Tips && tricks for small PDF files"},
+    {141, 1145, L"Static", L"Online Video"},
+    {141, IDC_GRAPHIC_RESOLUTION_LABEL, L"Static", L"&Resolution:"},
+    {141, IDC_GRAPHIC_COMPRESSION_LABEL, L"Static", L"&Compression:"},
+    {141, IDC_GRAPHIC_QUALITY_LABEL, L"Static", L"&Quality:"},
+    {141, IDC_GRAPHIC_COLOR_DEPTH_LABEL, L"Static", L"Color &depth:"},
+    {191, IDC_NO_DOC_SETTINGS_WHEN, L"Static",
+     L"These settings are only available when generating a new PDF or e.pdf document."},
+    {191, IDC_NO_DOC_SETTINGS_WHERE, L"Static",
+     L"For generating a new document please change to the tab page Basic Settings."},
+    {191, 1254, L"Static", L"What is the difference between Basic Settings and e.pdf Document Properties?"},
+};
+
+}  // namespace
+
+TEST_P(KnownEnglishControl, HasItsClassAndText) {
+  const Dialog dialog = ReadDialog(GetParam().dialog, kEnglish);
+  const Control* control = FindControl(dialog, GetParam().id);
+  ASSERT_TRUE(control);
+  EXPECT_EQ(control->className, GetParam().className);
+  EXPECT_EQ(control->text, GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(DialogTemplates, KnownEnglishControl, testing::ValuesIn(kKnownControls));
+
+// Each group of pictures on the graphic page stands in one place, and the page shows one of them.
+TEST(GraphicPageTemplate, PicturesOfAGroupShareTheirPlaceAndAreHidden) {
+  const Dialog dialog = ReadDialog(IDD_GRAPHIC_PAGE, kEnglish);
+  const auto place = [&](DWORD id) -> std::optional<std::tuple<int, int, int, int>> {
+    const Control* control = FindControl(dialog, id);
+    if (!control || (control->style & WS_VISIBLE)) return std::nullopt;
+    return std::tuple{control->x, control->y, control->width, control->height};
+  };
+  ASSERT_TRUE(place(1149) && place(1161));
+  for (const DWORD id : {1150, 1151, 1152, 1153}) EXPECT_EQ(place(id), place(1149)) << id;
+  EXPECT_EQ(place(1162), place(1161));
+}
+
+// Both combos with a number can be typed into, the others are lists.
+TEST(GraphicPageTemplate, CombosWithANumberHaveAnEdit) {
+  const Dialog dialog = ReadDialog(IDD_GRAPHIC_PAGE, kEnglish);
+  for (const DWORD id : {1050, 1049}) EXPECT_EQ(FindControl(dialog, id)->style & 3, DWORD{CBS_DROPDOWN}) << id;
+  for (const DWORD id : {1020, 1107}) EXPECT_EQ(FindControl(dialog, id)->style & 3, DWORD{CBS_DROPDOWNLIST}) << id;
+}
+
+// Without a group of their own, the arrow keys would lead from a radio into the settings below it.
+TEST(GraphicPageTemplate, TheRadiosAreAGroupOfTheirOwn) {
+  const std::vector<Control> controls = ReadDialog(IDD_GRAPHIC_PAGE, kEnglish).controls;
+  ASSERT_GT(controls.size(), 2u);
+  EXPECT_EQ(controls[0].id, DWORD{IDC_GRAPHIC_BY_FILE_SIZE});
+  EXPECT_TRUE(controls[0].style & WS_GROUP);
+  EXPECT_EQ(controls[1].id, DWORD{IDC_GRAPHIC_USER_DEFINED});
+  EXPECT_FALSE(controls[1].style & WS_GROUP);
+  EXPECT_TRUE(controls[2].style & WS_GROUP);
+}

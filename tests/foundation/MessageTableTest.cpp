@@ -1,0 +1,282 @@
+// The message table as it lies in the library: ids, languages, notation, and the English texts that others know by
+// number.
+#include <gtest/gtest.h>
+
+#include "support/ModuleResources.h"
+
+namespace {
+
+using namespace module_resources;
+
+constexpr uint32_t kLanguageNumber = 0x400003E8;
+constexpr uint32_t kVideoAddress = 0x4001087C;
+
+std::wstring Format(uint32_t id, WORD language) {
+  wchar_t buffer[2048] = {};
+  DWORD_PTR inserts[9] = {};
+  for (DWORD_PTR& insert : inserts) insert = reinterpret_cast<DWORD_PTR>(L"text");
+  const DWORD length =
+      FormatMessageW(FORMAT_MESSAGE_FROM_HMODULE | FORMAT_MESSAGE_ARGUMENT_ARRAY, GetModuleHandleW(nullptr), id,
+                     language, buffer, std::size(buffer), reinterpret_cast<va_list*>(inserts));
+  return {buffer, length};
+}
+
+// The entry without the mark that every one ends in.
+std::wstring Text(const Texts& table, uint32_t id) {
+  const auto entry = table.find(id);
+  if (entry == table.end() || !entry->second.ends_with(L"%0")) return L"(no entry)";
+  return entry->second.substr(0, entry->second.size() - 2);
+}
+
+// The inserts as they are written, such as "1!s!"; an escape that the notation does not have becomes "?".
+std::multiset<std::wstring> Inserts(const std::wstring& text) {
+  std::multiset<std::wstring> inserts;
+  for (size_t i = text.find(L'%'); i != std::wstring::npos; i = text.find(L'%', i)) {
+    const wchar_t next = i + 1 < text.size() ? text[i + 1] : 0;
+    if (next >= L'1' && next <= L'9') {
+      const size_t end = text.find(L'!', i + 3);
+      const bool formatted = i + 2 < text.size() && text[i + 2] == L'!' && end != std::wstring::npos;
+      inserts.insert(formatted ? text.substr(i + 1, end - i) : L"?");
+    } else if (next != L'n' && next != L'%' && next != L'0') {
+      inserts.insert(L"?");
+    }
+    i += 2;
+  }
+  return inserts;
+}
+
+}  // namespace
+
+TEST(MessageTable, ComesInExactlyFourLanguages) {
+  EXPECT_EQ(Names(RT_MESSAGETABLE), std::set<WORD>{1});
+  EXPECT_EQ(Languages(RT_MESSAGETABLE, 1), kLanguages);
+}
+
+TEST(MessageTable, TellsItsOwnLanguage) {
+  EXPECT_EQ(Format(kLanguageNumber, kGerman), L"7");
+  EXPECT_EQ(Format(kLanguageNumber, kEnglish), L"9");
+  EXPECT_EQ(Format(kLanguageNumber, kFrench), L"12");
+  EXPECT_EQ(Format(kLanguageNumber, kArabic), L"1");
+}
+
+TEST(MessageTable, HasTheSameIdsInEachLanguage) {
+  const Texts english = MessageTable(kEnglish);
+  ASSERT_GT(english.size(), 100u);
+  for (const WORD language : kTranslations) {
+    const Texts table = MessageTable(language);
+    EXPECT_EQ(table.size(), english.size()) << language;
+    for (const auto& [id, text] : english) EXPECT_TRUE(table.contains(id)) << language << std::hex << " " << id;
+  }
+}
+
+TEST(MessageTable, EveryMessageCanBeFormattedInEachLanguage) {
+  for (const WORD language : kLanguages) {
+    for (const auto& [id, text] : MessageTable(language)) {
+      const std::wstring formatted = Format(id, language);
+      EXPECT_FALSE(formatted.empty()) << language << std::hex << " " << id;
+      EXPECT_NE(formatted.back(), L'\n') << language << std::hex << " " << id;
+    }
+  }
+}
+
+TEST(MessageTable, EveryMessageEndsInTheMarkAgainstALineBreak) {
+  for (const WORD language : kLanguages) {
+    for (const auto& [id, text] : MessageTable(language)) {
+      EXPECT_EQ(text.find(L"%0"), text.size() - 2) << language << std::hex << " " << id;
+    }
+  }
+}
+
+TEST(MessageTable, TranslationsHaveTheInsertsOfTheEnglishText) {
+  const Texts english = MessageTable(kEnglish);
+  for (const WORD language : kLanguages) {
+    const Texts table = MessageTable(language);
+    for (const auto& [id, text] : english) {
+      const std::multiset<std::wstring> inserts = Inserts(Text(table, id));
+      EXPECT_EQ(inserts, Inserts(text)) << language << std::hex << " " << id;
+      EXPECT_FALSE(inserts.contains(L"?")) << language << std::hex << " " << id;
+    }
+  }
+}
+
+TEST(MessageTable, OnlyTheGermanVideoAddressLeavesItsEntryOpenInOtherLanguages) {
+  for (const WORD language : kLanguages) {
+    for (const auto& [id, text] : MessageTable(language)) {
+      const bool isOpen = text == L"XX%0";
+      EXPECT_EQ(isOpen, id == kVideoAddress && language != kGerman) << language << std::hex << " " << id;
+    }
+  }
+  EXPECT_TRUE(Format(kVideoAddress, kGerman).starts_with(L"https://www.nem-software.example/"));
+}
+
+TEST(MessageTable, NumbersLeadTheRowsOfResolutionsAndQualitiesInEachLanguage) {
+  const Texts english = MessageTable(kEnglish);
+  for (const WORD language : kLanguages) {
+    const Texts table = MessageTable(language);
+    for (uint32_t id = 0x400108C1; id <= 0x400108D3; ++id) {
+      if (!english.contains(id)) continue;
+      EXPECT_EQ(_wtoi(Text(table, id).c_str()), _wtoi(Text(english, id).c_str())) << language << std::hex << " " << id;
+    }
+  }
+}
+
+// Words that are the same in that language. Any other text that equals the English one has been forgotten.
+TEST(MessageTable, TranslationsDifferFromTheEnglishText) {
+  const std::map<WORD, std::set<std::wstring>> same = {
+      {kGerman,
+       {L"Cockpit", L"Layout", L"Info", L"E-Mail", L"Links", L"Update", L"Internet", L"JPEG", L"ZUGFeRD", L"PDF/A-1b",
+        L"50 dpi", L"150 dpi", L"450 dpi", L"900 dpi", L"2400 dpi", L"%1!d! dpi"}},
+      {kFrench, {L"Page", L"Actions", L"Internet", L"JPEG", L"ZUGFeRD", L"PDF/A-1b", L"XX"}},
+      {kArabic,
+       {L"JPEG", L"ZUGFeRD", L"PDF/A-1b", L"50 dpi", L"150 dpi", L"450 dpi", L"900 dpi", L"2400 dpi", L"%1!d! dpi",
+        L"%1!d!%%", L"XX"}},
+  };
+  const Texts english = MessageTable(kEnglish);
+  for (const WORD language : kTranslations) {
+    const Texts table = MessageTable(language);
+    for (const auto& [id, raw] : english) {
+      const std::wstring text = Text(english, id);
+      if (Text(table, id) != text) continue;
+      EXPECT_TRUE(same.at(language).contains(text)) << language << std::hex << " " << id;
+    }
+  }
+}
+
+namespace {
+
+struct KnownText {
+  uint32_t id;
+  const wchar_t* text;
+};
+
+class KnownEnglishText : public testing::TestWithParam<KnownText> {};
+
+constexpr KnownText kKnownTexts[] = {
+    {0xC0000000, L"There was no error"},
+    {0xC0000002, L"Cannot read property"},
+    {0xC0000003, L"Cannot change property"},
+    {0xC0000009, L"No input file or corrupt input file"},
+    {0xC000000A, L"Not enough memory to create the necessary resources"},
+    {0xC000000F, L"The input file is locked by another application"},
+    {0xC000001C, L"Internal software error. Please report to NEM Support"},
+    {0xC000001D, L"Invalid function argument"},
+    {0xC000002F, L"The buffer provided is too small"},
+    {0xC0000036, L"Invalid path"},
+    {0xC0000063, L"Invalid property name"},
+    {0xC00002EE, L"The unique print-ID cannot be created"},
+    {0xC00002EF, L"The default printer could not be determined"},
+    {0xC00002F0, L"The default printer could not be set"},
+    {0xC00002F1, L"The printer settings could not be read"},
+    {0xC00002F2, L"The printer settings could not be set"},
+    {0xC00002F3, L"Missing or corrupt print link"},
+    {0xC00002F4, L"Missing or invalid printer name"},
+    {0xC00002F5, L"The application specific printer settings could not be set"},
+    {0xC00002F6, L"The transaction state could not be set"},
+    {0xC00002F7, L"The application specific printer settings cannot be used because of missing settings"},
+    {0xC00002F8, L"The print job could not be deleted"},
+    {0xC00002F9, L"The printer driver could not be initialized"},
+    {0xC00002FA, L"Missing or invalid printer"},
+    {0xC00002FB, L"All files(*.*)|*.*||"},
+    {0xC00002FC, L"Error while printing"},
+    {0x400107D7, L"Info"},
+    {0x4001082D, L"The help file '%1!s!' cannot be found."},
+    {0x4001082E, L"Stationery Paper"},
+    {0x4001083A, L"Basic Settings"},
+    {0x4001083B, L"e.pdf Document Properties"},
+    {0x4001083C, L"File size"},
+    {0x4001083D, L"Layout"},
+    {0x4001083F, L"Cockpit"},
+    {0x40010843, L"Form"},
+    {0x40010844, L"Security"},
+    {0x40010878, L"Output"},
+    {0xC0010BB9, L"Invalid data was made."},
+    {0xC0011139, L"There was an error in the admin configuration file in line \"%1!s!\"."},
+    {0xC0011965, L"PDF size"},
+    {0xC0011966, L"Page size"},
+    {0xC0011967, L"Page orientationa"},
+    {0xC0011968, L"Scaling"},
+    {0xC0011969, L"Margins"},
+    {0xC001196A, L"PDF opening appearance"},
+    {0xC001196B, L"Reader opening appearance"},
+    {0xC001196C, L"Fontembedding"},
+    {0xC001196F, L"Watermark"},
+    {0xC0011970, L"Stationary"},
+    {0xC0011971, L"Textlink recognition"},
+    {0xC0011972, L"File attachment"},
+    {0xC0011973, L"Bookmarks"},
+    {0xC0011974, L"Saving action"},
+    {0xC0011975, L"PDF version"},
+    {0xC0011976, L"PDF/A-1b"},
+    {0xC0011977, L"PDF format"},
+    {0xC0011978, L"ZUGFeRD"},
+    {0xC001197A, L"Conversion engine"},
+    {0xC001197C, L"Default PDF reader"},
+    {0xC001197D, L"Additonal program"},
+    {0xC001197E, L"E-Mail"},
+    {0xC001197F, L"Colorspace"},
+    {0xC0011980, L"ZUGFeRD invoice"},
+    {0xC0011981, L"Form fields"},
+    {0xC0011982, L"Textboxes"},
+    {0xC0011983, L"Checkboxes"},
+    {0xC0011984, L"Dropdown elements"},
+    {0xC0011985, L"Password for changing PDF Security"},
+    {0xC0011986, L"Password for opening PDF"},
+    {0xC0011987, L"Password options for editing e.pdf"},
+    {0xC0011988, L"Document informations"},
+    {0xC0011989, L"Changed: "},
+    {0x40010898, L"loss-free, ZIP only"},
+    {0x40010899, L"JPEG"},
+    {0x4001089A, L"JPEG automatically"},
+    {0x4001089B, L"JPEG and ZIP"},
+    {0x4001089C, L"JPEG automatically and ZIP"},
+    {0x400108A2, L"Do not change"},
+    {0x400108A3, L"Reduce, if loss-free"},
+    {0x400108C1, L"50%% low"},
+    {0x400108C2, L"60%% low - medium"},
+    {0x400108C4, L"75%% medium (Default)"},
+    {0x400108C5, L"80%% medium - high"},
+    {0x400108C6, L"85%% high"},
+    {0x400108C8, L"100%% maximum"},
+    {0x400108CA, L"Do not change"},
+    {0x400108CB, L"50 dpi"},
+    {0x400108CC, L"96 dpi (Screen)"},
+    {0x400108CD, L"150 dpi"},
+    {0x400108CE, L"300 dpi (Printer, low)"},
+    {0x400108CF, L"450 dpi"},
+    {0x400108D0, L"600 dpi (Printer, medium) - Default"},
+    {0x400108D1, L"900 dpi"},
+    {0x400108D2, L"1200 dpi (Printer, high)"},
+    {0x400108D3, L"2400 dpi"},
+    {0x400108FC, L"minimum"},
+    {0x400108FD, L"small"},
+    {0x400108FE, L"Display, e-mail"},
+    {0x400108FF, L"small"},
+    {0x40010900, L"sufficiently"},
+    {0x40010901, L"Internet"},
+    {0x40010902, L"compact"},
+    {0x40010903, L"satified"},
+    {0x40010904, L"Printer, low"},
+    {0x40010905, L"big"},
+    {0x40010906, L"good"},
+    {0x40010907, L"Printer, medium"},
+    {0x40010908, L"maximum"},
+    {0x40010909, L"optimum"},
+    {0x4001090A, L"max. quality"},
+    {0x4001090B, L"userdefined"},
+    {0x4001087C, L"XX"},
+    {0xC0010FBE, L"No styles could be read from the document. Perhaps the document protection type is too high."},
+    {0x4001086E,
+     L"You can adjust the standard formats by pressing 'Edit'. Please press 'New' or 'Copy' to create a "
+     L"user defined format."},
+    {0x40010870,
+     L"In the summary window all styles included in Word are shown. To change the format of a style please "
+     L"navigate in Microsoft\u00AE Word to: menu Format|Styles and Formatting."},
+};
+
+}  // namespace
+
+TEST_P(KnownEnglishText, StandsUnderItsNumber) {
+  EXPECT_EQ(Text(MessageTable(kEnglish), GetParam().id), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(MessageTable, KnownEnglishText, testing::ValuesIn(kKnownTexts));
