@@ -1,0 +1,32 @@
+#include "ui/PageCatalogue.h"
+
+#include "MessageIds.h"
+#include "pages/CNemUINoDocSettingsPage.h"
+#include "pages/CNemUIPdfGraphicPage.h"
+#include "resources/ResourceIds.h"
+
+namespace {
+
+template <class Page>
+std::unique_ptr<CNemUIPage> Make(SheetServices* sheet, const PageDescription& description, int settingsIndex) {
+  return std::make_unique<Page>(sheet, description, settingsIndex);
+}
+
+// On the document tab a placeholder stands in for a page that has settings of new documents only. It has the page's
+// caption, images and number, and a template of its own.
+constexpr PageFactory kPlaceholder = Make<CNemUINoDocSettingsPage>;
+
+// A page that is not built yet has no row of its own class; its entry in the bar does nothing.
+constexpr PageCatalogueRow kPages[] = {
+    {{IDD_GRAPHIC_PAGE, 0, MSG_PAGE_GRAPHICAL_OPTIMIZATION, 108, 251, 252},
+     Make<CNemUIPdfGraphicPage>,
+     Make<CNemUIPdfGraphicPage>},
+    {{IDD_ACTION_PAGE, 0, MSG_PAGE_ACTIONS, 102, 237, 238}, nullptr, kPlaceholder},
+    {{IDD_MAIL_PAGE, 0, MSG_PAGE_MAIL, 104, 243, 244}, nullptr, kPlaceholder},
+    {{IDD_SAVING_PAGE, 0, MSG_PAGE_SAVING, 103, 255, 256}, nullptr, kPlaceholder},
+    {{IDD_INFO_PAGE, 0, MSG_PAGE_INFO, 106, 257, 258}, nullptr, kPlaceholder},
+};
+
+}  // namespace
+
+PageCatalogue AllPages() { return kPages; }
