@@ -1,0 +1,52 @@
+#include "window/CDataExchange.h"
+
+#include "DriverLIB/MessageText.h"
+#include "DriverLIB/Numbers.h"
+
+void CDataExchange::Fail(int controlId) {
+  if (failed_) return;
+  failed_ = true;
+  failedControl_ = controlId;
+}
+
+bool CDataExchange::IsChecked(int id) const { return CButton(dialog_.Item(id)).IsChecked(); }
+
+void CDataExchange::SetChecked(int id, bool checked) const { CButton(dialog_.Item(id)).SetCheck(checked); }
+
+void CDataExchange::SetNumber(int id, long value) const {
+  CUString text;
+  text.Format(L"%ld", value);
+  dialog_.Item(id).SetText(text.Text());
+}
+
+long CDataExchange::NumberIn(int id) const { return ParseDecimal(dialog_.Item(id).Text().Text()); }
+
+void CDataExchange::MoveRadio(int firstId, int lastId, int& index) {
+  if (IsLoading()) ::CheckRadioButton(dialog_.Handle(), firstId, lastId, firstId + index);
+  if (!IsSaving()) return;
+  for (int id = firstId; id <= lastId; ++id)
+    if (IsChecked(id)) {
+      index = id - firstId;
+      return;
+    }
+  Fail(firstId);
+}
+
+void CDataExchange::Text(int id, CUString& value) {
+  if (IsLoading()) dialog_.Item(id).SetText(value.Text());
+  if (IsSaving()) value = dialog_.Item(id).Text();
+}
+
+void CDataExchange::MoveChoice(int id, const ValueRow* table, int32_t& value) {
+  const CComboBox combo(dialog_.Item(id));
+  if (IsLoading()) combo.Select(RowOfValue(table, value));
+  if (!IsSaving()) return;
+  const int row = combo.Selection();
+  value = table[row < 0 ? 0 : row].value;
+  if (row < 0) Fail(id);
+}
+
+void FillFromTable(const CComboBox& combo, const ValueRow* table) {
+  combo.Reset();
+  for (int row = 0; row < RowCount(table); ++row) combo.AddString(MessageText(table[row].messageId).Text());
+}

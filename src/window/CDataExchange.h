@@ -1,0 +1,71 @@
+// One control exchange of a dialog, in either direction: loading fills the controls from the members, saving brings
+// the controls' contents back. The dialog's DoDataExchange names each control in one line that serves both.
+//
+// The first step that fails ends the exchange: the steps behind it do nothing, and the dialog puts the focus on the
+// control of the failed step.
+#pragma once
+
+#include "window/Controls.h"
+#include "window/ValueTable.h"
+
+class CDataExchange {
+ public:
+  CDataExchange(CWnd dialog, bool saving) : dialog_(dialog), saving_(saving) {}
+
+  bool IsSaving() const { return saving_ && !failed_; }
+  bool IsLoading() const { return !saving_ && !failed_; }
+  bool HasFailed() const { return failed_; }
+  // The control that the user has to correct; 0 when none is named.
+  int FailedControl() const { return failedControl_; }
+  void Fail(int controlId);
+
+  // A check box and a member that is 0 or 1.
+  template <class T>
+  void Check(int id, T& value) {
+    if (IsLoading()) SetChecked(id, value != 0);
+    if (IsSaving()) value = static_cast<T>(IsChecked(id) ? 1 : 0);
+  }
+
+  // The radio buttons `firstId` to `lastId` and a member that counts from 0 which of them is on; none on fails.
+  template <class T>
+  void Radio(int firstId, int lastId, T& index) {
+    int chosen = static_cast<int>(index);
+    MoveRadio(firstId, lastId, chosen);
+    if (IsSaving()) index = static_cast<T>(chosen);
+  }
+
+  // An edit, a static or a combo's edit field, and a text.
+  void Text(int id, CUString& value);
+
+  // The same with a decimal number. A text without a number counts as 0.
+  template <class T>
+  void Number(int id, T& value) {
+    if (IsLoading()) SetNumber(id, static_cast<long>(value));
+    if (IsSaving()) value = static_cast<T>(NumberIn(id));
+  }
+
+  // A combo that was filled from a value table, and the stored value. Loading selects the value's row, or the first;
+  // saving with no row selected stores the first row's value and fails.
+  template <class T>
+  void Choice(int id, const ValueRow* table, T& value) {
+    int32_t stored = static_cast<int32_t>(value);
+    MoveChoice(id, table, stored);
+    if (saving_) value = static_cast<T>(stored);
+  }
+
+ private:
+  bool IsChecked(int id) const;
+  void SetChecked(int id, bool checked) const;
+  void SetNumber(int id, long value) const;
+  long NumberIn(int id) const;
+  void MoveRadio(int firstId, int lastId, int& index);
+  void MoveChoice(int id, const ValueRow* table, int32_t& value);
+
+  CWnd dialog_;
+  bool saving_;
+  bool failed_ = false;
+  int failedControl_ = 0;
+};
+
+// Fills a combo with the texts of a value table, in its order.
+void FillFromTable(const CComboBox& combo, const ValueRow* table);

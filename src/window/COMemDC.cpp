@@ -1,0 +1,29 @@
+#include "window/COMemDC.h"
+
+COMemDC::COMemDC(HDC target) : target_(target), dc_(target) {
+  const int technology = ::GetDeviceCaps(target, TECHNOLOGY);
+  if (technology == DT_RASPRINTER || technology == DT_PLOTTER || technology == DT_METAFILE) return;
+  ::GetClipBox(target, &area_);
+  const HDC memory = ::CreateCompatibleDC(target);
+  if (!memory) return;
+  bitmap_ = GdiBitmap(::CreateCompatibleBitmap(target, area_.right - area_.left, area_.bottom - area_.top));
+  if (!bitmap_) {
+    ::DeleteDC(memory);
+    return;
+  }
+  dc_ = memory;
+  // A mirrored window is drawn mirrored, and copied back the same way.
+  ::SetLayout(dc_, ::GetLayout(target));
+  previous_ = ::SelectObject(dc_, bitmap_.Get());
+  ::SetWindowOrgEx(dc_, area_.left, area_.top, nullptr);
+  // What the caller selected stays selected.
+  ::SelectObject(dc_, ::GetCurrentObject(target, OBJ_FONT));
+}
+
+COMemDC::~COMemDC() {
+  if (!IsBuffered()) return;
+  ::BitBlt(target_, area_.left, area_.top, area_.right - area_.left, area_.bottom - area_.top, dc_, area_.left,
+           area_.top, SRCCOPY);
+  ::SelectObject(dc_, previous_);
+  ::DeleteDC(dc_);
+}

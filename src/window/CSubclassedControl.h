@@ -1,0 +1,54 @@
+// A control whose messages this object sees first. The object must outlive neither the control nor itself by trust: it
+// lets go when the control dies, and when the object dies before the control.
+//
+//   class CMyHyperLink : public CSubclassed<CStatic> { ... };
+//   link_.Attach(*this, IDC_HELP);
+#pragma once
+
+#include "window/Controls.h"
+#include "window/MessageMap.h"
+
+class CSubclassedControl : public CMessageTarget {
+ public:
+  // The object that is attached to `control`, or null.
+  static CSubclassedControl* FromHandle(HWND control);
+
+  // What the control's parent was sent on the control's behalf: scrolling, owner-drawing, colours, a WM_COMMAND or
+  // WM_NOTIFY of the control. True when the control answered it for good; false lets the parent handle it as well.
+  virtual bool OnReflected(WindowMessage&) { return false; }
+
+ protected:
+  ~CSubclassedControl() override;
+
+  bool AttachTo(HWND control);
+  void Detach();
+  // What the control itself does with the message.
+  LRESULT DefaultHandling(const WindowMessage& message);
+
+  virtual void OnAttached() {}
+  virtual void OnDestroyed() {}
+  // The CWnd of the derived class follows the attached handle.
+  virtual void SetHandle(HWND control) = 0;
+
+ private:
+  static LRESULT CALLBACK SubclassProcedure(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
+
+  void Release();
+
+  HWND attached_ = nullptr;
+};
+
+// A control view with identity: it cannot be copied.
+template <class View>
+class CSubclassed : public View, public CSubclassedControl {
+ public:
+  CSubclassed() = default;
+  CSubclassed(const CSubclassed&) = delete;
+  CSubclassed& operator=(const CSubclassed&) = delete;
+
+  // False when the dialog has no such control.
+  bool Attach(const CWnd& dialog, int id) { return this->AttachTo(::GetDlgItem(dialog.Handle(), id)); }
+
+ private:
+  void SetHandle(HWND control) final { this->window_ = control; }
+};

@@ -1,0 +1,113 @@
+// The plain control views: a handle as a value with the control's own operations. They own nothing.
+#pragma once
+
+#include "window/CWnd.h"
+
+class CStatic : public CWnd {
+ public:
+  using CWnd::CWnd;
+  explicit CStatic(CWnd window) : CWnd(window) {}
+};
+
+class CButton : public CWnd {
+ public:
+  using CWnd::CWnd;
+  explicit CButton(CWnd window) : CWnd(window) {}
+
+  bool IsChecked() const { return Send(BM_GETCHECK) == BST_CHECKED; }
+  void SetCheck(bool check) const { Send(BM_SETCHECK, check ? BST_CHECKED : BST_UNCHECKED); }
+};
+
+class CEdit : public CWnd {
+ public:
+  using CWnd::CWnd;
+  explicit CEdit(CWnd window) : CWnd(window) {}
+
+  // The most characters that the user can type; a text set by code may be longer.
+  void LimitText(int characters) const { Send(EM_SETLIMITTEXT, static_cast<WPARAM>(characters)); }
+  void SelectAll() const { Send(EM_SETSEL, 0, -1); }
+  void SetReadOnly(bool readOnly) const { Send(EM_SETREADONLY, readOnly); }
+};
+
+class CComboBox : public CWnd {
+ public:
+  using CWnd::CWnd;
+  explicit CComboBox(CWnd window) : CWnd(window) {}
+
+  void Reset() const { Send(CB_RESETCONTENT); }
+  int AddString(const wchar_t* text) const {
+    return static_cast<int>(Send(CB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)));
+  }
+  int Count() const { return static_cast<int>(Send(CB_GETCOUNT)); }
+  // The selected row, or -1.
+  int Selection() const { return static_cast<int>(Send(CB_GETCURSEL)); }
+  void Select(int row) const { Send(CB_SETCURSEL, static_cast<WPARAM>(row)); }
+  void LimitText(int characters) const { Send(CB_LIMITTEXT, static_cast<WPARAM>(characters)); }
+  CUString RowText(int row) const;
+  // The text of the selected row, empty when there is none. While a selection is being announced (CBN_SELCHANGE) the
+  // edit field still holds the text before it; while the user types, the selection is the one before the typing.
+  CUString SelectedRowText() const { return RowText(Selection()); }
+};
+
+class CListBox : public CWnd {
+ public:
+  using CWnd::CWnd;
+  explicit CListBox(CWnd window) : CWnd(window) {}
+
+  void Reset() const { Send(LB_RESETCONTENT); }
+  int AddString(const wchar_t* text) const {
+    return static_cast<int>(Send(LB_ADDSTRING, 0, reinterpret_cast<LPARAM>(text)));
+  }
+  int Count() const { return static_cast<int>(Send(LB_GETCOUNT)); }
+  int Selection() const { return static_cast<int>(Send(LB_GETCURSEL)); }
+  void Select(int row) const { Send(LB_SETCURSEL, static_cast<WPARAM>(row)); }
+  void Delete(int row) const { Send(LB_DELETESTRING, static_cast<WPARAM>(row)); }
+  CUString RowText(int row) const;
+};
+
+class CScrollBar : public CWnd {
+ public:
+  using CWnd::CWnd;
+  explicit CScrollBar(CWnd window) : CWnd(window) {}
+
+  // A bar stands between `minimum` and its highest position, which is `maximum` - `page` + 1.
+  void SetRange(int minimum, int maximum, int page) const;
+  int Position() const { return ::GetScrollPos(window_, SB_CTL); }
+  void SetPosition(int position) const { ::SetScrollPos(window_, SB_CTL, position, TRUE); }
+  int Minimum() const { return Info().nMin; }
+  int Highest() const;
+  int Page() const { return static_cast<int>(Info().nPage); }
+
+ private:
+  SCROLLINFO Info() const;
+};
+
+class CSliderCtrl : public CWnd {
+ public:
+  using CWnd::CWnd;
+  explicit CSliderCtrl(CWnd window) : CWnd(window) {}
+
+  void SetRange(int minimum, int maximum) const { Send(TBM_SETRANGE, TRUE, MAKELPARAM(minimum, maximum)); }
+  int Position() const { return static_cast<int>(Send(TBM_GETPOS)); }
+  void SetPosition(int position) const { Send(TBM_SETPOS, TRUE, position); }
+};
+
+class CTabCtrl : public CWnd {
+ public:
+  using CWnd::CWnd;
+  explicit CTabCtrl(CWnd window) : CWnd(window) {}
+
+  int Count() const { return static_cast<int>(Send(TCM_GETITEMCOUNT)); }
+  int Selection() const { return static_cast<int>(Send(TCM_GETCURSEL)); }
+  void Select(int item) const { Send(TCM_SETCURSEL, static_cast<WPARAM>(item)); }
+  int InsertItem(int item, const wchar_t* text) const;
+  void SetItemSize(int width, int height) const { Send(TCM_SETITEMSIZE, 0, MAKELPARAM(width, height)); }
+};
+
+class CListCtrl : public CWnd {
+ public:
+  using CWnd::CWnd;
+  explicit CListCtrl(CWnd window) : CWnd(window) {}
+
+  int Count() const { return static_cast<int>(Send(LVM_GETITEMCOUNT)); }
+};
