@@ -1,0 +1,32 @@
+#include "controls/CIntScrollBar.h"
+
+#include <algorithm>
+
+int CIntScrollBar::PositionAfter(int code, int given) const {
+  const int position = Position();
+  switch (code) {
+    case SB_LINEUP:
+      return std::max(position - 1, Minimum());
+    case SB_LINEDOWN:
+      return std::min(position + 1, Highest());
+    case SB_PAGEUP:
+      return std::max(position - Page(), Minimum());
+    case SB_PAGEDOWN:
+      return std::min(position + Page(), Highest());
+    case SB_THUMBPOSITION:
+    case SB_THUMBTRACK:
+      return given;
+    case SB_TOP:
+      return Minimum();
+    case SB_BOTTOM:
+      return Highest();
+    default:
+      return position;
+  }
+}
+
+bool CIntScrollBar::OnReflected(WindowMessage& message) {
+  if (message.message == WM_HSCROLL || message.message == WM_VSCROLL)
+    SetPosition(PositionAfter(LOWORD(message.wParam), HIWORD(message.wParam)));
+  return false;  // the parent goes on with the new position
+}

@@ -1,0 +1,20 @@
+#pragma once
+
+#include "controls/CMyHyperLink.h"
+#include "sheet/CNemUIPage.h"
+
+// Stands in for a page that has settings of new documents only: two texts and a link to the help.
+class CNoDocSettingsPage : public CNemUIPage {
+ public:
+  // The placeholder has a template of its own and remembers the one of the page it stands for.
+  explicit CNoDocSettingsPage(const PageDescription& standsFor);
+
+ protected:
+  BOOL OnInitDialog() override;
+  // No topic of its own: only its link leads to the help.
+  DWORD ContextHelpId() const override { return 0; }
+
+ private:
+  const uint32_t replacedTemplateId_;
+  CMyHyperLink difference_;
+};

@@ -1,0 +1,59 @@
+// The base of all settings pages. Two exchanges move a page's values, and they must not be confused: UpdateData moves
+// them between the page's members and its controls, UpdateDataSuper between the members and the properties of the
+// sheet. A page that was never shown has no window, and its properties keep the host's values.
+#pragma once
+
+#include "DriverLIB/CUString.h"
+#include "sheet/PageDescription.h"
+#include "window/CPropertyPage.h"
+
+// A link or another control of a page asks for help on the control with the id in the first argument. It is sent to
+// the page alone: to a sheet the same number means something else.
+constexpr UINT kShowHelpForControlMessage = 0x465;
+
+class CNemUIPage : public CPropertyPage {
+ public:
+  explicit CNemUIPage(const PageDescription& description);
+
+  // Moves the properties into the members (once in the page's life) or, saving, the members into the properties. No
+  // exception leaves it: one is traced and told the user.
+  virtual bool UpdateDataSuper(bool save);
+  virtual CUString GetHelpFilename() = 0;
+  virtual CUString GetMsgBoxTitle() = 0;
+  virtual int GetPageId() const { return description_.pageId; }
+  virtual bool ActivatePage(int) { return false; }
+  virtual CNemUIPage* FindPage(int) { return nullptr; }
+  virtual LRESULT ShowHelpForControl(WPARAM controlId, LPARAM);
+  virtual bool ExchangeProperties(CDataExchange& exchange) = 0;
+
+  // The property exchange of a settings page. Reading does nothing after the first time; writing may run several times
+  // during one OK and gives the same result each time.
+  virtual void ReadProperties() {}
+  virtual void WriteProperties() {}
+
+  bool OnSetActive() override;
+  bool OnKillActive() override;
+  bool OnApply() override;
+  bool OnHelpInfo(const HELPINFO& help) override;
+
+  const CUString& Title() const { return title_; }
+  const PageDescription& Description() const { return description_; }
+  bool IsLoaded() const { return loaded_; }
+  bool IsInitialized() const { return initialized_; }
+
+ protected:
+  BOOL OnInitDialog() override;
+  bool OnWindowMessage(WindowMessage& message) override;
+  const wchar_t* TabCaption() const override { return title_.Text(); }
+  UINT TabIconId() const override { return description_.iconId; }
+  // Key of the help topic for controls without one of their own.
+  virtual DWORD ContextHelpId() const { return description_.templateId; }
+  void SetLoaded() { loaded_ = true; }
+
+ private:
+  const PageDescription description_;
+  const CUString title_;
+  bool loaded_ = false;
+  bool initialized_ = false;
+  bool shownBefore_ = false;
+};

@@ -1,0 +1,58 @@
+// What all glue classes share: they sit on a page's logic and connect it with the sheet and with the properties of one
+// settings set. A glue class adds its table of bindings, and what the table cannot say.
+#pragma once
+
+#include <span>
+
+#include "sheet/CNemUIPage.h"
+#include "sheet/PropertyBinding.h"
+#include "sheet/SheetServices.h"
+
+template <class Logic>
+class CNemUISettingsPage : public Logic {
+ public:
+  // Without a sheet the page has no properties, and its property exchange fails.
+  CNemUISettingsPage(SheetServices* sheet, const PageDescription& description, int settingsIndex)
+      : Logic(description), sheet_(sheet), settingsIndex_(settingsIndex) {}
+
+  CUString GetHelpFilename() override { return sheet_ ? sheet_->GetHelpFilename() : CUString(); }
+  CUString GetMsgBoxTitle() override { return sheet_ ? sheet_->GetMsgBoxTitle() : CUString(); }
+  bool ActivatePage(int pageId) override { return sheet_ && sheet_->ActivatePage(pageId); }
+  CNemUIPage* FindPage(int pageId) override { return sheet_ ? sheet_->FindPage(pageId) : nullptr; }
+
+  bool ExchangeProperties(CDataExchange& exchange) override {
+    if (!sheet_) return false;
+    if (exchange.IsSaving())
+      this->WriteProperties();
+    else
+      this->ReadProperties();
+    return true;
+  }
+
+  void ReadProperties() override {
+    if (!sheet_ || this->IsLoaded()) return;
+    for (const PropertyBinding<Logic>& binding : Bindings()) binding.read(*this, sheet_->Properties(), settingsIndex_);
+    OnPropertiesRead();
+    this->SetLoaded();
+  }
+
+  void WriteProperties() override {
+    if (!sheet_) return;
+    for (const PropertyBinding<Logic>& binding : Bindings())
+      if (binding.write) binding.write(*this, sheet_->Properties(), settingsIndex_);
+    OnPropertiesWritten();
+  }
+
+ protected:
+  virtual std::span<const PropertyBinding<Logic>> Bindings() const = 0;
+  // What the table cannot say; both run with a sheet.
+  virtual void OnPropertiesRead() {}
+  virtual void OnPropertiesWritten() {}
+
+  SheetServices* Sheet() const { return sheet_; }
+  int SettingsIndex() const { return settingsIndex_; }
+
+ private:
+  SheetServices* const sheet_;
+  const int settingsIndex_;
+};

@@ -1,0 +1,64 @@
+#include "sheet/CNemUISheet.h"
+
+#include "DriverLIB/MessageText.h"
+#include "MessageIds.h"
+#include "resources/ResourceIds.h"
+#include "window/CenterWindow.h"
+
+namespace {
+
+constexpr PageDescription kGlobalPage{IDD_HOST_PAGE, IDI_BASIC_SETTINGS, MSG_TAB_BASIC_SETTINGS};
+constexpr PageDescription kDocumentPage{IDD_HOST_PAGE, IDI_DOCUMENT_PROPERTIES, MSG_TAB_DOCUMENT_PROPERTIES};
+
+}  // namespace
+
+CNemUISheet::CNemUISheet(PageCatalogue catalogue)
+    : globalPage_(this, kGlobalPage, 0, catalogue), documentPage_(this, kDocumentPage, 1, catalogue) {}
+
+INT_PTR CNemUISheet::Run(HWND owner) {
+  AddPage(globalPage_);
+  if (OffersDocumentProperties()) AddPage(documentPage_);
+  return DoModal(owner, properties_.SheetTitle.GetString().Text());
+}
+
+CNemUIGlobalSettingsPage* CNemUISheet::CurrentHost() const {
+  return static_cast<CNemUIGlobalSettingsPage*>(CurrentPage());
+}
+
+bool CNemUISheet::ActivatePage(int pageId) {
+  CNemUIGlobalSettingsPage* host = CurrentHost();
+  return host && host->ActivatePage(pageId);
+}
+
+CNemUIPage* CNemUISheet::FindPage(int pageId) {
+  CNemUIGlobalSettingsPage* host = CurrentHost();
+  return host ? host->FindPage(pageId) : nullptr;
+}
+
+BOOL CNemUISheet::OnInitDialog(WindowMessage& message) {
+  // Before the first page exists: pages take an administrator's values when they read theirs.
+  ReadAdministratorSettings();
+  const BOOL result = CNemUISheetBase::OnInitDialog(message);
+  const HANDLE icon = ::LoadImageW(static_cast<HINSTANCE>(ModuleInstance()), MAKEINTRESOURCEW(IDI_PRODUCT), IMAGE_ICON,
+                                   ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED);
+  Send(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+  if (OffersDocumentProperties()) SetActivePage(documentPage_);
+  CenterWindow(*this);
+  return result;
+}
+
+// The files that lie beside the driver of GetPrinterName() are read here, into properties_.adminSettings. Nothing
+// reads them yet: no value is fixed.
+void CNemUISheet::ReadAdministratorSettings() {}
+
+bool CNemUISheet::OnTabChanging() {
+  CNemUIGlobalSettingsPage* host = CurrentHost();
+  if (!host || !host->IsWindow()) return true;
+  // The other tab's pages compare against fresh values, so what was changed here goes into the properties first.
+  return host->OnKillActive() && host->UpdateDataSuper(true);
+}
+
+void CNemUISheet::OnTabChanged() {
+  CNemUIGlobalSettingsPage* host = CurrentHost();
+  if (host && host->IsWindow()) host->UpdateDataSuper(false);
+}

@@ -1,0 +1,593 @@
+#include <gtest/gtest.h>
+
+#include "driver/SheetDriver.h"
+#include "MessageIds.h"
+#include "pages/CNemUIPdfGraphicPage.h"
+#include "resources/ResourceIds.h"
+#include "support/FakeSheet.h"
+#include "support/HostDialog.h"
+
+namespace {
+
+constexpr int kPageId = 108;
+constexpr PageDescription kDescription{IDD_GRAPHIC_PAGE, 0, MSG_PAGE_GRAPHICAL_OPTIMIZATION, kPageId, 251, 252};
+
+constexpr wchar_t kHintReduced[] =
+    L"Graphics data with a higher resolution than 300 dpi will be permanently reduced. The graphics qualtity might be "
+    L"worse in some circumstances.";
+constexpr wchar_t kHintOriginal[] =
+    L"To enable a loss-free reprocessing in Word, original graphics data will be embedded in the e.pdf file. Thus the "
+    L"e.pdf file will be larger.";
+
+// The page alone, on a sheet without a window.
+class GraphicPage : public testing::Test {
+ protected:
+  GraphicPage() { Store(600, 4, 85, 1, 0); }
+
+  void Store(int resolution, int compression, int quality, int colors, int replacements) {
+    properties().GraphicResolution[0].SetLong(resolution);
+    properties().GraphicCompressMethod[0].SetLong(compression);
+    properties().GraphicJpegQuality[0].SetLong(quality);
+    properties().GraphicColorReduction[0].SetLong(colors);
+    properties().EnhancedPdfReplacements[0].SetLong(replacements);
+  }
+  void Open() {
+    ASSERT_TRUE(page_.Create(parent_.Window()));
+    page_.Show(true);
+  }
+  void OpenWith(int resolution, int compression, int quality, int colors, int replacements = 0) {
+    Store(resolution, compression, quality, colors, replacements);
+    Open();
+  }
+
+  CDialogProperties& properties() { return sheet_.properties; }
+  AdminSettings& admin() { return sheet_.properties.adminSettings; }
+  ControlRef Control(int id, ControlRef::Location where = ControlRef::Location::current()) {
+    return {GetDlgItem(page_.Handle(), id), id, where};
+  }
+  bool IsShown(int id) { return CWnd(page_.Handle()).Item(id).IsShown(); }
+  void ChooseUserDefined() { Control(IDC_GRAPHIC_USER_DEFINED).Click(); }
+  // OK: what the controls hold goes into the properties.
+  bool Save() { return page_.UpdateData(true) && page_.UpdateDataSuper(true); }
+  void MoveMouse(int id) {
+    const RECT area = CWnd(page_.Handle()).Item(id).RectIn(page_);
+    page_.Send(WM_MOUSEMOVE, 0, MAKELPARAM((area.left + area.right) / 2, (area.top + area.bottom) / 2));
+  }
+  std::vector<int> EnabledControls() {
+    std::vector<int> enabled;
+    for (const int id : {IDC_GRAPHIC_BY_FILE_SIZE, IDC_GRAPHIC_USER_DEFINED, IDC_GRAPHIC_SLIDER, IDC_GRAPHIC_RESOLUTION,
+                         IDC_GRAPHIC_RESOLUTION_BAR, IDC_GRAPHIC_COMPRESSION, IDC_GRAPHIC_QUALITY,
+                         IDC_GRAPHIC_QUALITY_BAR, IDC_GRAPHIC_COLOR_DEPTH})
+      if (Control(id).IsEnabled()) enabled.push_back(id);
+    return enabled;
+  }
+
+  LanguageScope english_{kEnglish};
+  FakeSheet sheet_;
+  PageParent parent_;
+  CNemUIPdfGraphicPage page_{&sheet_, kDescription, 0};
+};
+
+// --- Value tables --------------------------------------------------------------------------------------------------
+
+TEST_F(GraphicPage, CompressionRowsStoreTheirValues) {
+  const std::pair<const wchar_t*, int> rows[] = {{L"loss-free, ZIP only", 0},
+                                                 {L"JPEG", 1},
+                                                 {L"JPEG and ZIP", 3},
+                                                 {L"JPEG automatically", 2},
+                                                 {L"JPEG automatically and ZIP", 4}};
+  OpenWith(600, 0, 33, 1);
+  ASSERT_EQ(std::size(rows), static_cast<size_t>(Control(IDC_GRAPHIC_COMPRESSION).RowCount()));
+  for (size_t row = 0; row < std::size(rows); ++row) {
+    EXPECT_EQ(rows[row].first, Control(IDC_GRAPHIC_COMPRESSION).Row(static_cast<int>(row)));
+    Control(IDC_GRAPHIC_COMPRESSION).Select(static_cast<int>(row));
+    ASSERT_TRUE(Save());
+    EXPECT_EQ(rows[row].second, properties().GraphicCompressMethod[0].GetLong()) << row;
+  }
+}
+
+TEST_F(GraphicPage, ResolutionRowsStoreTheirValues) {
+  const std::pair<const wchar_t*, int> rows[] = {{L"Do not change", 0},
+                                                 {L"50 dpi", 50},
+                                                 {L"96 dpi (Screen)", 96},
+                                                 {L"150 dpi", 150},
+                                                 {L"300 dpi (Printer, low)", 300},
+                                                 {L"450 dpi", 450},
+                                                 {L"600 dpi (Printer, medium) - Default", 600},
+                                                 {L"900 dpi", 900},
+                                                 {L"1200 dpi (Printer, high)", 1200},
+                                                 {L"2400 dpi", 2400}};
+  OpenWith(601, 1, 33, 1);
+  ASSERT_EQ(std::size(rows), static_cast<size_t>(Control(IDC_GRAPHIC_RESOLUTION).RowCount()));
+  for (size_t row = 0; row < std::size(rows); ++row) {
+    EXPECT_EQ(rows[row].first, Control(IDC_GRAPHIC_RESOLUTION).Row(static_cast<int>(row)));
+    Control(IDC_GRAPHIC_RESOLUTION).Select(static_cast<int>(row));
+    EXPECT_EQ(rows[row].second, Control(IDC_GRAPHIC_RESOLUTION_BAR).Position()) << row;
+    ASSERT_TRUE(Save());
+    EXPECT_EQ(rows[row].second, properties().GraphicResolution[0].GetLong()) << row;
+  }
+}
+
+TEST_F(GraphicPage, QualityRowsStoreTheirValues) {
+  const std::pair<const wchar_t*, int> rows[] = {
+      {L"50% low", 50},           {L"60% low - medium", 60}, {L"75% medium (Default)", 75},
+      {L"80% medium - high", 80}, {L"85% high", 85},         {L"100% maximum", 100}};
+  OpenWith(601, 1, 33, 1);
+  ASSERT_EQ(std::size(rows), static_cast<size_t>(Control(IDC_GRAPHIC_QUALITY).RowCount()));
+  for (size_t row = 0; row < std::size(rows); ++row) {
+    EXPECT_EQ(rows[row].first, Control(IDC_GRAPHIC_QUALITY).Row(static_cast<int>(row)));
+    Control(IDC_GRAPHIC_QUALITY).Select(static_cast<int>(row));
+    EXPECT_EQ(rows[row].second, Control(IDC_GRAPHIC_QUALITY_BAR).Position()) << row;
+    ASSERT_TRUE(Save());
+    EXPECT_EQ(rows[row].second, properties().GraphicJpegQuality[0].GetLong()) << row;
+  }
+}
+
+TEST_F(GraphicPage, ColorRowsStoreTheirValues) {
+  OpenWith(601, 1, 33, 1);
+  EXPECT_EQ((std::vector<std::wstring>{L"Do not change", L"Reduce, if loss-free"}),
+            Control(IDC_GRAPHIC_COLOR_DEPTH).Rows());
+  EXPECT_EQ(1, Control(IDC_GRAPHIC_COLOR_DEPTH).SelectedRow());
+  Control(IDC_GRAPHIC_COLOR_DEPTH).Select(0);
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(0, properties().GraphicColorReduction[0].GetLong());
+}
+
+TEST_F(GraphicPage, ValuesThatNoRowHasFallToTheFirstRow) {
+  OpenWith(601, 77, 33, 9);
+  EXPECT_EQ(0, Control(IDC_GRAPHIC_COMPRESSION).SelectedRow());
+  EXPECT_EQ(0, Control(IDC_GRAPHIC_COLOR_DEPTH).SelectedRow());
+}
+
+TEST_F(GraphicPage, ListsWithoutASelectionFailTheSaveAndStoreTheFirstRow) {
+  for (const int list : {IDC_GRAPHIC_COMPRESSION, IDC_GRAPHIC_COLOR_DEPTH}) {
+    page_.Destroy();
+    Open();
+    SendMessageW(Control(list).Window(), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    EXPECT_FALSE(page_.UpdateData(true));
+    EXPECT_EQ(0, list == IDC_GRAPHIC_COMPRESSION ? page_.compressMethod : page_.colorReduction);
+  }
+}
+
+// --- Presets -------------------------------------------------------------------------------------------------------
+
+struct PresetCase {
+  int number, picture;
+  const wchar_t *fileSize, *quality, *optimizedFor;
+  int resolution, compression, jpegQuality, colors;
+};
+
+const PresetCase kPresets[] = {
+    {1, 1153, L"minimum", L"small", L"Display, e-mail", 96, 4, 50, 1},
+    {2, 1152, L"small", L"sufficiently", L"Internet", 150, 4, 60, 1},
+    {3, 1151, L"compact", L"satified", L"Printer, low", 300, 4, 75, 1},
+    {4, 1149, L"big", L"good", L"Printer, medium", 600, 4, 85, 1},
+    {5, 1150, L"maximum", L"optimum", L"max. quality", 0, 0, 100, 0},
+};
+
+class GraphicPresetPage : public GraphicPage, public testing::WithParamInterface<PresetCase> {
+ protected:
+  void ExpectPresetShown(const PresetCase& preset) {
+    EXPECT_EQ(preset.fileSize, Control(1155).Text());
+    EXPECT_EQ(preset.quality, Control(1157).Text());
+    EXPECT_EQ(preset.optimizedFor, Control(1159).Text());
+    for (int picture = 1149; picture <= 1153; ++picture)
+      EXPECT_EQ(picture == preset.picture, IsShown(picture)) << picture;
+    EXPECT_TRUE(Control(1141).IsChecked());
+    EXPECT_FALSE(Control(1142).IsChecked());
+    EXPECT_EQ(preset.number, Control(1146).Position());
+  }
+};
+
+TEST_P(GraphicPresetPage, IsRecognisedByItsValues) {
+  const PresetCase& preset = GetParam();
+  OpenWith(preset.resolution, preset.compression, preset.jpegQuality, preset.colors);
+  ExpectPresetShown(preset);
+}
+
+TEST_P(GraphicPresetPage, SliderStoresItsValues) {
+  const PresetCase& preset = GetParam();
+  const PresetCase& other = kPresets[preset.number % 5];
+  OpenWith(other.resolution, other.compression, other.jpegQuality, other.colors);
+  SendMessageW(Control(1146).Window(), TBM_SETPOS, TRUE, preset.number);
+  page_.Send(WM_HSCROLL, MAKEWPARAM(TB_THUMBTRACK, preset.number), reinterpret_cast<LPARAM>(Control(1146).Window()));
+  ExpectPresetShown(preset);
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(preset.resolution, properties().GraphicResolution[0].GetLong());
+  EXPECT_EQ(preset.compression, properties().GraphicCompressMethod[0].GetLong());
+  EXPECT_EQ(preset.jpegQuality, properties().GraphicJpegQuality[0].GetLong());
+  EXPECT_EQ(preset.colors, properties().GraphicColorReduction[0].GetLong());
+  EXPECT_EQ(0, properties().EnhancedPdfReplacements[0].GetLong());
+}
+
+INSTANTIATE_TEST_SUITE_P(AllPresets, GraphicPresetPage, testing::ValuesIn(kPresets),
+                         [](const auto& info) { return "Preset" + std::to_string(info.param.number); });
+
+TEST_F(GraphicPage, EveryValueTakesPartInRecognition) {
+  for (int changed = 0; changed < 5; ++changed) {
+    const int delta[] = {changed == 0, changed == 1, changed == 2, changed == 3, changed == 4};
+    EXPECT_EQ(kUserDefinedPreset,
+              FindGraphicPreset({static_cast<uint16_t>(600 + delta[0]), static_cast<uint16_t>(4 - delta[1]),
+                                 static_cast<uint16_t>(85 + delta[2]), static_cast<uint16_t>(1 - delta[3]),
+                                 static_cast<uint16_t>(delta[4])}))
+        << changed;
+  }
+  EXPECT_EQ(4, FindGraphicPreset({600, 4, 85, 1, 0}));
+}
+
+TEST_F(GraphicPage, OtherValuesAreUserDefined) {
+  OpenWith(600, 4, 86, 1);
+  EXPECT_TRUE(Control(IDC_GRAPHIC_USER_DEFINED).IsChecked());
+  EXPECT_FALSE(Control(IDC_GRAPHIC_BY_FILE_SIZE).IsChecked());
+  EXPECT_EQ(3, Control(IDC_GRAPHIC_SLIDER).Position());
+  for (const int caption : {1155, 1157, 1159}) EXPECT_EQ(L"userdefined", Control(caption).Text());
+  EXPECT_TRUE(IsShown(1151));
+  EXPECT_EQ(L"86%", Control(IDC_GRAPHIC_QUALITY).Text());
+  EXPECT_EQ(-1, Control(IDC_GRAPHIC_QUALITY).SelectedRow());
+  EXPECT_EQ(86, Control(IDC_GRAPHIC_QUALITY_BAR).Position());
+}
+
+TEST_F(GraphicPage, EnhancedReplacementsMatchNoPresetAndAreLost) {
+  OpenWith(600, 4, 85, 1, 1);
+  EXPECT_TRUE(Control(IDC_GRAPHIC_USER_DEFINED).IsChecked());
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(0, properties().EnhancedPdfReplacements[0].GetLong());
+}
+
+TEST_F(GraphicPage, UserDefinedStaysChosenThoughTheValuesEqualAPreset) {
+  Open();
+  ChooseUserDefined();
+  EXPECT_TRUE(Control(IDC_GRAPHIC_USER_DEFINED).IsChecked());
+  EXPECT_EQ(L"userdefined", Control(1155).Text());
+  EXPECT_TRUE(Control(IDC_GRAPHIC_QUALITY).IsEnabled());
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(85, properties().GraphicJpegQuality[0].GetLong());
+}
+
+TEST_F(GraphicPage, PresetModeTakesTheSlidersPreset) {
+  OpenWith(601, 1, 33, 0);
+  Control(IDC_GRAPHIC_BY_FILE_SIZE).Click();
+  EXPECT_EQ(L"compact", Control(1155).Text());  // the slider stood on the middle
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(300, properties().GraphicResolution[0].GetLong());
+  EXPECT_EQ(75, properties().GraphicJpegQuality[0].GetLong());
+}
+
+TEST_F(GraphicPage, SliderMovedInTheUserDefinedStateChoosesPresets) {
+  OpenWith(601, 1, 33, 0);
+  MoveMouse(IDC_GRAPHIC_SLIDER);
+  SendMessageW(Control(IDC_GRAPHIC_SLIDER).Window(), TBM_SETPOS, TRUE, 5);
+  page_.Send(WM_HSCROLL, MAKEWPARAM(TB_THUMBTRACK, 5), reinterpret_cast<LPARAM>(Control(IDC_GRAPHIC_SLIDER).Window()));
+  EXPECT_TRUE(Control(IDC_GRAPHIC_BY_FILE_SIZE).IsChecked());
+  EXPECT_EQ(5, Control(IDC_GRAPHIC_SLIDER).Position());
+  EXPECT_EQ(L"maximum", Control(1155).Text());
+  EXPECT_EQ(L"Do not change", Control(IDC_GRAPHIC_RESOLUTION).Text());
+  EXPECT_FALSE(Control(IDC_GRAPHIC_RESOLUTION).IsEnabled());
+}
+
+TEST_F(GraphicPage, ThumbPositionAndEndOfScrollApplyNothing) {
+  for (const int code : {TB_THUMBPOSITION, TB_ENDTRACK}) {
+    page_.Destroy();
+    Open();
+    SendMessageW(Control(IDC_GRAPHIC_SLIDER).Window(), TBM_SETPOS, TRUE, 1);
+    page_.Send(WM_HSCROLL, MAKEWPARAM(code, 1), reinterpret_cast<LPARAM>(Control(IDC_GRAPHIC_SLIDER).Window()));
+    EXPECT_EQ(L"big", Control(1155).Text()) << code;
+  }
+}
+
+// --- Edits and bars ------------------------------------------------------------------------------------------------
+
+TEST_F(GraphicPage, BarsEndAtTheirHighestValue) {
+  Open();
+  EXPECT_EQ(0, Control(IDC_GRAPHIC_RESOLUTION_BAR).Minimum());
+  EXPECT_EQ(2400, Control(IDC_GRAPHIC_RESOLUTION_BAR).Maximum());
+  EXPECT_EQ(0, Control(IDC_GRAPHIC_QUALITY_BAR).Minimum());
+  EXPECT_EQ(100, Control(IDC_GRAPHIC_QUALITY_BAR).Maximum());
+  EXPECT_EQ(1, Control(IDC_GRAPHIC_SLIDER).Minimum());
+  EXPECT_EQ(5, Control(IDC_GRAPHIC_SLIDER).Maximum());
+}
+
+struct TypedCase {
+  int combo;
+  const wchar_t* typed;
+  const wchar_t* shown;  // when the combo has lost the focus
+  int position;
+};
+
+TEST_F(GraphicPage, LeavingAComboNormalisesWhatWasTyped) {
+  const TypedCase cases[] = {
+      {IDC_GRAPHIC_RESOLUTION, L"700", L"700 dpi", 700},
+      {IDC_GRAPHIC_RESOLUTION, L"300", L"300 dpi (Printer, low)", 300},
+      {IDC_GRAPHIC_RESOLUTION, L"9999", L"2400 dpi", 2400},
+      {IDC_GRAPHIC_RESOLUTION, L"abc", L"Do not change", 0},
+      {IDC_GRAPHIC_RESOLUTION, L"", L"Do not change", 0},
+      {IDC_GRAPHIC_RESOLUTION, L"-5", L"Do not change", 0},
+      {IDC_GRAPHIC_QUALITY, L"86", L"86%", 86},
+      {IDC_GRAPHIC_QUALITY, L"60", L"60% low - medium", 60},
+      {IDC_GRAPHIC_QUALITY, L"150", L"100% maximum", 100},
+      {IDC_GRAPHIC_QUALITY, L"x", L"0%", 0},
+  };
+  OpenWith(601, 1, 33, 1);
+  for (const TypedCase& typed : cases) {
+    Control(typed.combo).Focus();
+    Control(typed.combo).SetText(typed.typed);
+    const int bar = typed.combo == IDC_GRAPHIC_RESOLUTION ? IDC_GRAPHIC_RESOLUTION_BAR : IDC_GRAPHIC_QUALITY_BAR;
+    EXPECT_EQ(typed.position, Control(bar).Position()) << "the bar follows the typing: " << typed.typed;
+    Control(IDC_GRAPHIC_COLOR_DEPTH).Focus();
+    EXPECT_EQ(typed.shown, Control(typed.combo).Text()) << typed.typed;
+    EXPECT_EQ(typed.position, Control(bar).Position()) << typed.typed;
+  }
+}
+
+TEST_F(GraphicPage, TypingIsLimitedToFourAndThreeCharacters) {
+  OpenWith(601, 1, 33, 1);
+  Control(IDC_GRAPHIC_RESOLUTION).SetText(L"12345");
+  EXPECT_EQ(L"1234", Control(IDC_GRAPHIC_RESOLUTION).Text());
+  Control(IDC_GRAPHIC_QUALITY).SetText(L"9876");
+  EXPECT_EQ(L"987", Control(IDC_GRAPHIC_QUALITY).Text());
+}
+
+TEST_F(GraphicPage, SavingStoresTheNumberAsItStands) {
+  OpenWith(601, 1, 33, 1);
+  Control(IDC_GRAPHIC_RESOLUTION).SetText(L"9999");
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(9999, properties().GraphicResolution[0].GetLong());
+  Control(IDC_GRAPHIC_QUALITY).SetText(L"150");
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(150, properties().GraphicJpegQuality[0].GetLong());
+  EXPECT_EQ(2400, properties().GraphicResolution[0].GetLong()) << "left in between, so normalised";
+}
+
+TEST_F(GraphicPage, TypingOverASelectedRowCountsMoreThanTheRow) {
+  OpenWith(600, 1, 33, 1);
+  Control(IDC_GRAPHIC_RESOLUTION).Focus();
+  Control(IDC_GRAPHIC_RESOLUTION).Select(L"300 dpi (Printer, low)");
+  Control(IDC_GRAPHIC_RESOLUTION).SetText(L"77");
+  Control(IDC_GRAPHIC_COLOR_DEPTH).Focus();
+  EXPECT_EQ(L"77 dpi", Control(IDC_GRAPHIC_RESOLUTION).Text());
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(77, properties().GraphicResolution[0].GetLong());
+}
+
+TEST_F(GraphicPage, BarsWriteTheirPosition) {
+  OpenWith(601, 1, 84, 1);
+  Control(IDC_GRAPHIC_RESOLUTION_BAR).Scroll(SB_LINEUP);
+  EXPECT_EQ(L"600 dpi (Printer, medium) - Default", Control(IDC_GRAPHIC_RESOLUTION).Text());
+  Control(IDC_GRAPHIC_RESOLUTION_BAR).Scroll(SB_PAGEDOWN);
+  EXPECT_EQ(L"700 dpi", Control(IDC_GRAPHIC_RESOLUTION).Text());
+  Control(IDC_GRAPHIC_QUALITY_BAR).Scroll(SB_LINEDOWN);
+  EXPECT_EQ(L"85% high", Control(IDC_GRAPHIC_QUALITY).Text());
+  Control(IDC_GRAPHIC_QUALITY_BAR).Scroll(SB_PAGEUP);
+  EXPECT_EQ(L"80% medium - high", Control(IDC_GRAPHIC_QUALITY).Text());
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(700, properties().GraphicResolution[0].GetLong());
+  EXPECT_EQ(80, properties().GraphicJpegQuality[0].GetLong());
+}
+
+TEST_F(GraphicPage, HintFollowsTheResolution) {
+  OpenWith(301, 1, 84, 1);
+  Control(IDC_GRAPHIC_RESOLUTION_BAR).Scroll(SB_LINEUP);
+  EXPECT_EQ(kHintReduced, Control(IDC_GRAPHIC_HINT).Text());
+  EXPECT_TRUE(IsShown(IDC_GRAPHIC_SIGN_WARNING));
+  EXPECT_FALSE(IsShown(IDC_GRAPHIC_SIGN_INFORMATION));
+  Control(IDC_GRAPHIC_RESOLUTION).Select(0);
+  EXPECT_EQ(kHintOriginal, Control(IDC_GRAPHIC_HINT).Text());
+  EXPECT_FALSE(IsShown(IDC_GRAPHIC_SIGN_WARNING));
+  EXPECT_TRUE(IsShown(IDC_GRAPHIC_SIGN_INFORMATION));
+  Control(IDC_GRAPHIC_RESOLUTION).SetText(L"300");
+  EXPECT_EQ(kHintReduced, Control(IDC_GRAPHIC_HINT).Text());
+}
+
+TEST_F(GraphicPage, ResolutionZeroShowsDoNotChange) {
+  OpenWith(0, 1, 84, 1);
+  EXPECT_EQ(L"Do not change", Control(IDC_GRAPHIC_RESOLUTION).Text());
+  EXPECT_EQ(0, Control(IDC_GRAPHIC_RESOLUTION_BAR).Position());
+  EXPECT_EQ(kHintOriginal, Control(IDC_GRAPHIC_HINT).Text());
+}
+
+// --- What is enabled -----------------------------------------------------------------------------------------------
+
+TEST_F(GraphicPage, PresetModeEnablesTheSliderAlone) {
+  Open();
+  EXPECT_EQ((std::vector<int>{IDC_GRAPHIC_BY_FILE_SIZE, IDC_GRAPHIC_USER_DEFINED, IDC_GRAPHIC_SLIDER}),
+            EnabledControls());
+}
+
+TEST_F(GraphicPage, UserDefinedModeEnablesTheValues) {
+  Open();
+  ChooseUserDefined();
+  EXPECT_EQ((std::vector<int>{IDC_GRAPHIC_BY_FILE_SIZE, IDC_GRAPHIC_USER_DEFINED, IDC_GRAPHIC_RESOLUTION,
+                              IDC_GRAPHIC_RESOLUTION_BAR, IDC_GRAPHIC_COMPRESSION, IDC_GRAPHIC_QUALITY,
+                              IDC_GRAPHIC_QUALITY_BAR, IDC_GRAPHIC_COLOR_DEPTH}),
+            EnabledControls());
+}
+
+TEST_F(GraphicPage, OnlyJpegHasAQuality) {
+  OpenWith(601, 1, 86, 1);
+  for (int row = 0; row < 5; ++row) {
+    Control(IDC_GRAPHIC_COMPRESSION).Select(row);
+    EXPECT_EQ(row != 0, Control(IDC_GRAPHIC_QUALITY).IsEnabled()) << row;
+    EXPECT_EQ(row != 0, Control(IDC_GRAPHIC_QUALITY_BAR).IsEnabled()) << row;
+    EXPECT_EQ(L"86%", Control(IDC_GRAPHIC_QUALITY).Text()) << row;
+  }
+}
+
+TEST_F(GraphicPage, MouseOverTheSliderOpensItInTheUserDefinedState) {
+  OpenWith(601, 1, 86, 1);
+  EXPECT_FALSE(Control(IDC_GRAPHIC_SLIDER).IsEnabled());
+  MoveMouse(IDC_GRAPHIC_SLIDER);
+  EXPECT_TRUE(Control(IDC_GRAPHIC_SLIDER).IsEnabled());
+  MoveMouse(IDC_GRAPHIC_HINT);
+  EXPECT_FALSE(Control(IDC_GRAPHIC_SLIDER).IsEnabled());
+}
+
+TEST_F(GraphicPage, MouseElsewhereLeavesTheSliderOfPresetModeAlone) {
+  Open();
+  MoveMouse(IDC_GRAPHIC_HINT);
+  EXPECT_TRUE(Control(IDC_GRAPHIC_SLIDER).IsEnabled());
+}
+
+struct OverrideCase {
+  const char* name;
+  void (*fix)(AdminSettings&);
+  std::vector<int> disabled;
+};
+
+TEST_F(GraphicPage, OverridesDisableTheirControlsAndPresetMode) {
+  const OverrideCase cases[] = {
+      {"resolution",
+       [](AdminSettings& admin) { admin.GraphicResolution_Override = 0; },
+       {IDC_GRAPHIC_RESOLUTION, IDC_GRAPHIC_RESOLUTION_BAR}},
+      {"quality",
+       [](AdminSettings& admin) { admin.GraphicJpegQuality_Override = 50; },
+       {IDC_GRAPHIC_QUALITY, IDC_GRAPHIC_QUALITY_BAR}},
+      {"compression",
+       [](AdminSettings& admin) { admin.GraphicCompressMethod_Override = 1; },
+       {IDC_GRAPHIC_COMPRESSION}},
+      {"colours", [](AdminSettings& admin) { admin.GraphicColorReduction_Override = 0; }, {IDC_GRAPHIC_COLOR_DEPTH}},
+  };
+  for (const OverrideCase& fixed : cases) {
+    FakeSheet sheet;
+    sheet.properties.GraphicResolution[0].SetLong(601);
+    sheet.properties.GraphicCompressMethod[0].SetLong(1);
+    fixed.fix(sheet.properties.adminSettings);
+    CNemUIPdfGraphicPage page(&sheet, kDescription, 0);
+    ASSERT_TRUE(page.Create(parent_.Window()));
+    const CWnd dialog(page.Handle());
+    for (const int id : {IDC_GRAPHIC_RESOLUTION, IDC_GRAPHIC_RESOLUTION_BAR, IDC_GRAPHIC_COMPRESSION,
+                         IDC_GRAPHIC_QUALITY, IDC_GRAPHIC_QUALITY_BAR, IDC_GRAPHIC_COLOR_DEPTH}) {
+      const bool disabled = std::find(fixed.disabled.begin(), fixed.disabled.end(), id) != fixed.disabled.end();
+      EXPECT_EQ(!disabled, dialog.Item(id).IsEnabled()) << fixed.name << ' ' << id;
+    }
+    EXPECT_FALSE(dialog.Item(IDC_GRAPHIC_BY_FILE_SIZE).IsEnabled()) << fixed.name;
+    EXPECT_TRUE(dialog.Item(IDC_GRAPHIC_USER_DEFINED).IsEnabled()) << fixed.name;
+    // The property's value is shown, not the administrator's.
+    EXPECT_EQ(601, CScrollBar(dialog.Item(IDC_GRAPHIC_RESOLUTION_BAR)).Position()) << fixed.name;
+  }
+}
+
+TEST_F(GraphicPage, OverridesHoldThroughEveryEventThatEnables) {
+  admin().GraphicCompressMethod_Override = 1;
+  Open();
+  EXPECT_FALSE(Control(IDC_GRAPHIC_SLIDER).IsEnabled()) << "a preset would change the fixed value";
+  ChooseUserDefined();
+  EXPECT_FALSE(Control(IDC_GRAPHIC_COMPRESSION).IsEnabled());
+  EXPECT_TRUE(Control(IDC_GRAPHIC_RESOLUTION).IsEnabled());
+  MoveMouse(IDC_GRAPHIC_SLIDER);
+  EXPECT_FALSE(Control(IDC_GRAPHIC_SLIDER).IsEnabled());
+  page_.OnSetActive();
+  page_.OnSetActive();
+  EXPECT_FALSE(Control(IDC_GRAPHIC_COMPRESSION).IsEnabled());
+}
+
+// --- Properties and cockpit ----------------------------------------------------------------------------------------
+
+TEST_F(GraphicPage, PropertiesAreReadOnce) {
+  Open();
+  properties().GraphicJpegQuality[0].SetLong(10);
+  page_.ReadProperties();
+  EXPECT_EQ(85, page_.jpegQuality);
+}
+
+TEST_F(GraphicPage, WritesItsOwnSetOnlyAndTheSameEachTime) {
+  properties().GraphicJpegQuality[1].SetLong(11);
+  OpenWith(150, 3, 70, 0);
+  for (int i = 0; i < 3; ++i) {
+    ASSERT_TRUE(Save());
+    EXPECT_EQ(150, properties().GraphicResolution[0].GetLong());
+    EXPECT_EQ(3, properties().GraphicCompressMethod[0].GetLong());
+    EXPECT_EQ(70, properties().GraphicJpegQuality[0].GetLong());
+    EXPECT_EQ(0, properties().GraphicColorReduction[0].GetLong());
+  }
+  EXPECT_EQ(11, properties().GraphicJpegQuality[1].GetLong());
+}
+
+TEST_F(GraphicPage, DocumentTabWorksOnItsSet) {
+  properties().GraphicResolution[1].SetLong(450);
+  CNemUIPdfGraphicPage page(&sheet_, kDescription, 1);
+  page.ReadProperties();
+  EXPECT_EQ(450, page.resolution);
+  page.resolution = 50;
+  page.WriteProperties();
+  EXPECT_EQ(50, properties().GraphicResolution[1].GetLong());
+  EXPECT_EQ(600, properties().GraphicResolution[0].GetLong());
+}
+
+TEST_F(GraphicPage, WithoutASheetThePropertyExchangeFails) {
+  CNemUIPdfGraphicPage page(nullptr, kDescription, 0);
+  EXPECT_FALSE(page.UpdateDataSuper(false));
+  EXPECT_FALSE(page.UpdateDataSuper(true));
+  EXPECT_FALSE(page.Create(parent_.Window()));
+  EXPECT_FALSE(page.IsWindow());
+}
+
+TEST_F(GraphicPage, CockpitReadsAPageThatWasNeverShown) {
+  Store(300, 2, 44, 0, 0);
+  GraphicCockpitValues values;
+  page_.GetCockpitValues(values);
+  EXPECT_EQ(300, values.resolution);
+  EXPECT_EQ(2, values.compressMethod);
+  EXPECT_EQ(44, values.jpegQuality);
+  EXPECT_EQ(0, values.colorReduction);
+  EXPECT_FALSE(page_.IsWindow());
+}
+
+TEST_F(GraphicPage, CockpitSetsAllButWhatIsFixed) {
+  const GraphicCockpitValues values{1, 2, 3, 0};
+  struct Row {
+    void (*fix)(AdminSettings&);
+    GraphicCockpitValues expected;
+  };
+  const Row rows[] = {
+      {[](AdminSettings&) {}, {1, 2, 3, 0}},
+      {[](AdminSettings& admin) { admin.GraphicCompressMethod_Override = 4; }, {4, 2, 3, 0}},
+      {[](AdminSettings& admin) { admin.GraphicJpegQuality_Override = 85; }, {1, 85, 3, 0}},
+      {[](AdminSettings& admin) { admin.GraphicResolution_Override = 600; }, {1, 2, 600, 0}},
+      {[](AdminSettings& admin) { admin.GraphicColorReduction_Override = 1; }, {1, 2, 3, 1}},
+  };
+  for (const Row& row : rows) {
+    admin() = AdminSettings();
+    row.fix(admin());
+    CNemUIPdfGraphicPage page(&sheet_, kDescription, 0);
+    page.SetCockpitValues(values);
+    EXPECT_EQ(row.expected.compressMethod, page.compressMethod);
+    EXPECT_EQ(row.expected.jpegQuality, page.jpegQuality);
+    EXPECT_EQ(row.expected.resolution, page.resolution);
+    EXPECT_EQ(row.expected.colorReduction, page.colorReduction);
+  }
+}
+
+TEST_F(GraphicPage, CockpitShowsWhatItSets) {
+  Open();
+  page_.SetCockpitValues({4, 60, 150, 1});
+  EXPECT_EQ(L"small", Control(1155).Text());
+  EXPECT_EQ(2, Control(IDC_GRAPHIC_SLIDER).Position());
+}
+
+// --- Links and captions --------------------------------------------------------------------------------------------
+
+TEST_F(GraphicPage, CaptionsOfThePresetAreBold) {
+  Open();
+  for (const int caption : {1155, 1157, 1159}) {
+    LOGFONTW font{};
+    GetObjectW(CWnd(Control(caption).Window()).Font(), sizeof font, &font);
+    EXPECT_EQ(FW_BOLD, font.lfWeight) << caption;
+  }
+}
+
+TEST_F(GraphicPage, VideoLinkShowsInGermanOnly) {
+  for (const auto& [language, shown] : {std::pair{0x0409, false}, {0x0407, true}, {0x040C, false}, {0x0401, false}}) {
+    const LanguageScope scope(static_cast<uint16_t>(language));
+    CNemUIPdfGraphicPage page(&sheet_, kDescription, 0);
+    ASSERT_TRUE(page.Create(parent_.Window()));
+    EXPECT_EQ(shown, CWnd(page.Handle()).Item(IDC_GRAPHIC_VIDEO_LINK).IsShown()) << language;
+  }
+}
+
+TEST_F(GraphicPage, PicturesAreThere) {
+  Open();
+  for (const int id : {1149, 1150, 1151, 1152, 1153, 1161, 1162})
+    EXPECT_NE(nullptr, CSubclassedControl::FromHandle(Control(id).Window())) << id;
+}
+
+}  // namespace
