@@ -1,0 +1,17 @@
+// Pictures of all pages.
+#pragma once
+
+#include <string>
+#include <vector>
+
+#include "driver/Sheet.h"
+
+struct GalleryResult {
+  std::vector<std::wstring> written;  // files
+  std::vector<std::string> missing;   // pages that the sheet does not have, "formcolors" or "update (document)"
+};
+
+// Goes through all tabs and all entries of the navigation bar by mouse and writes a picture of the whole sheet for
+// each page: "<directory>\<language>-<number>-<name>.png", on the second tab with "-document" behind the name. The
+// sheet stays open.
+SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result);

@@ -1,0 +1,244 @@
+// NemPdfUIHost.exe as its user meets it: started as a process, its sheet closed from outside.
+#include <windows.h>
+// behind windows.h
+#include <commctrl.h>
+#include <prsht.h>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <functional>
+#include <optional>
+#include <string>
+
+#include "host/SettingsFile.h"
+#include "host/Text.h"
+
+namespace {
+
+constexpr DWORD kPatienceMilliseconds = 30000;
+
+std::wstring Widened(std::string_view text) { return host::DecodeText(text).text; }
+
+const std::wstring kProgram = Widened(NEMPDF_BINARY_DIR "/NemPdfUIHost.exe");
+const std::wstring kSample = Widened(NEMPDF_SOURCE_DIR "/host/sample.ini");
+
+// A file in the folder for temporary files, deleted when it goes.
+class CTempFile {
+ public:
+  explicit CTempFile(const std::wstring& name) {
+    wchar_t folder[MAX_PATH];
+    GetTempPathW(MAX_PATH, folder);
+    name_ = folder + name;
+    DeleteFileW(name_.c_str());
+  }
+  CTempFile(const std::wstring& name, std::string_view content) : CTempFile(name) {
+    const HANDLE file = CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
+    DWORD written = 0;
+    WriteFile(file, content.data(), static_cast<DWORD>(content.size()), &written, nullptr);
+    CloseHandle(file);
+  }
+  ~CTempFile() { DeleteFileW(name_.c_str()); }
+  CTempFile(const CTempFile&) = delete;
+  CTempFile& operator=(const CTempFile&) = delete;
+
+  const std::wstring& Name() const { return name_; }
+
+  std::optional<std::string> Content() const {
+    const HANDLE file = CreateFileW(name_.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
+                                    OPEN_EXISTING, 0, nullptr);
+    if (file == INVALID_HANDLE_VALUE) return {};
+    std::string content(GetFileSize(file, nullptr), '\0');
+    DWORD read = 0;
+    ReadFile(file, content.data(), static_cast<DWORD>(content.size()), &read, nullptr);
+    CloseHandle(file);
+    return content;
+  }
+
+ private:
+  std::wstring name_;
+};
+
+HWND FindSheet(DWORD process) {
+  HWND sheet = nullptr;
+  while ((sheet = FindWindowExW(nullptr, sheet, L"#32770", nullptr)) != nullptr) {
+    DWORD owner = 0;
+    GetWindowThreadProcessId(sheet, &owner);
+    if (owner == process && IsWindowVisible(sheet)) return sheet;
+  }
+  return nullptr;
+}
+
+struct HostRun {
+  bool opened = false;  // whether a sheet came up
+  DWORD exitCode = 0;
+  std::string output, errors;
+};
+
+// Runs the host until it ends; `withSheet` is called once with its sheet, when that stands.
+HostRun RunHost(const std::wstring& arguments, const std::function<void(HWND)>& withSheet = {}) {
+  SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
+  const CTempFile outputFile(L"nempdf-host-output.txt");
+  const CTempFile errorFile(L"nempdf-host-errors.txt");
+  const auto create = [&](const CTempFile& file) {
+    return CreateFileW(file.Name().c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
+  };
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdOutput = create(outputFile);
+  startup.hStdError = create(errorFile);
+
+  HostRun run;
+  std::wstring commandLine = L"\"" + kProgram + L"\" " + arguments;
+  PROCESS_INFORMATION process = {};
+  if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process)) {
+    ADD_FAILURE() << "the host cannot be started: error " << GetLastError();
+    return run;
+  }
+  const DWORD begin = GetTickCount();
+  while (WaitForSingleObject(process.hProcess, 10) == WAIT_TIMEOUT) {
+    if (const HWND sheet = run.opened ? nullptr : FindSheet(process.dwProcessId)) {
+      run.opened = true;
+      if (withSheet) withSheet(sheet);
+    }
+    if (GetTickCount() - begin > kPatienceMilliseconds) {
+      ADD_FAILURE() << "the host does not end";
+      TerminateProcess(process.hProcess, 99);
+      WaitForSingleObject(process.hProcess, INFINITE);
+    }
+  }
+  GetExitCodeProcess(process.hProcess, &run.exitCode);
+  for (HANDLE handle : {process.hThread, process.hProcess, startup.hStdOutput, startup.hStdError}) CloseHandle(handle);
+  run.output = outputFile.Content().value_or("(none)");
+  run.errors = errorFile.Content().value_or("(none)");
+  return run;
+}
+
+void PressOk(HWND sheet) { PostMessageW(sheet, PSM_PRESSBUTTON, PSBTN_OK, 0); }
+void PressCancel(HWND sheet) { PostMessageW(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0); }
+
+host::Settings ReadBack(const std::string& bytes) {
+  host::Settings settings;
+  EXPECT_TRUE(host::ParseSettings(bytes, settings).empty());
+  return settings;
+}
+
+TEST(HostProgram, PrintsItsUsage) {
+  const HostRun run = RunHost(L"--help");
+  EXPECT_EQ(run.exitCode, 0u);
+  EXPECT_NE(run.output.find("--document"), std::string::npos);
+  EXPECT_EQ(run.errors, "");
+}
+
+TEST(HostProgram, EndsWith2AndItsUsageForABadOption) {
+  const HostRun run = RunHost(L"--nothing");
+  EXPECT_EQ(run.exitCode, 2u);
+  EXPECT_FALSE(run.opened);
+  EXPECT_EQ(run.output, "");
+  EXPECT_TRUE(run.errors.starts_with("NemPdfUIHost: unknown option --nothing\n")) << run.errors;
+  EXPECT_NE(run.errors.find("--document"), std::string::npos);
+}
+
+TEST(HostProgram, EndsWith2AndTheLineOfEachProblemInAFile) {
+  const CTempFile file(L"nempdf \x0645.ini", "[0]\nScale = x\nNoName = 1\n");
+  const HostRun run = RunHost(L"\"" + file.Name() + L"\"");
+  const std::string name = host::EncodeUtf8(file.Name());
+  EXPECT_EQ(run.exitCode, 2u);
+  EXPECT_FALSE(run.opened);
+  EXPECT_EQ(run.output, "");
+  EXPECT_EQ(run.errors,
+            name + ":2: Scale: \"x\" is no 32-bit number\n" + name + ":3: section [0] has no setting \"NoName\"\n");
+}
+
+TEST(HostProgram, EndsWith2ForAFileThatCannotBeRead) {
+  const HostRun run = RunHost(L"C:\\no\\such.ini");
+  EXPECT_EQ(run.exitCode, 2u);
+  EXPECT_FALSE(run.opened);
+  EXPECT_TRUE(run.errors.starts_with("C:\\no\\such.ini: cannot be read: ")) << run.errors;
+}
+
+TEST(HostProgram, CancelChangesAndWritesNothing) {
+  const CTempFile written(L"nempdf-written.ini");
+  const HostRun run = RunHost(L"--write \"" + written.Name() + L"\"", PressCancel);
+  EXPECT_TRUE(run.opened);
+  EXPECT_EQ(run.exitCode, 0u);
+  EXPECT_EQ(run.output, "cancelled\n");
+  EXPECT_EQ(run.errors, "");
+  EXPECT_FALSE(written.Content());
+}
+
+TEST(HostProgram, OkOnAnUntouchedSheetChangesNothing) {
+  const CTempFile written(L"nempdf-written.ini");
+  const HostRun run = RunHost(L"\"" + kSample + L"\" --write \"" + written.Name() + L"\"", PressOk);
+  EXPECT_EQ(run.exitCode, 0u);
+  EXPECT_EQ(run.output, "no changes\n");
+  EXPECT_EQ(run.errors, "");
+
+  // Everything is written, with the values of the sample.
+  const host::Settings settings = ReadBack(written.Content().value_or(""));
+  EXPECT_EQ(settings.size(), 6u + 2 * 123);
+  const auto quality = std::ranges::find(settings, std::wstring_view(L"GraphicJpegQuality"),
+                                         [](const host::Setting& setting) { return setting.info->name; });
+  ASSERT_NE(quality, settings.end());
+  EXPECT_EQ(quality->value.number, 85);
+}
+
+TEST(HostProgram, WhatItWritesOpensAgainUnchanged) {
+  const CTempFile first(L"nempdf-first.ini", "[0]\nTitle = \"a;b\" ^n^s\nEncryptUserPassword = secret\nScale = -1\n");
+  const CTempFile second(L"nempdf-second.ini"), third(L"nempdf-third.ini");
+  RunHost(L"\"" + first.Name() + L"\" --write \"" + second.Name() + L"\"", PressOk);
+  const HostRun run = RunHost(L"\"" + second.Name() + L"\" --write \"" + third.Name() + L"\"", PressOk);
+  EXPECT_EQ(run.output, "no changes\n");
+  ASSERT_TRUE(second.Content());
+  EXPECT_EQ(second.Content(), third.Content());
+  EXPECT_NE(second.Content()->find("Title = \"a;b\" ^n^s\r\n"), std::string::npos);
+  EXPECT_NE(second.Content()->find("EncryptUserPassword = secret\r\n"), std::string::npos);
+}
+
+TEST(HostProgram, SaysWhenItCannotWrite) {
+  const HostRun run = RunHost(L"--write C:\\no\\such\\folder.ini", PressOk);
+  EXPECT_EQ(run.exitCode, 1u);
+  EXPECT_EQ(run.output, "no changes\n");
+  EXPECT_TRUE(run.errors.starts_with("NemPdfUIHost: C:\\no\\such\\folder.ini: cannot be written: ")) << run.errors;
+}
+
+TEST(HostProgram, DocumentOffersTheSecondTab) {
+  const auto countTabs = [](LRESULT& tabs) {
+    return [&tabs](HWND sheet) {
+      const HWND tabControl = reinterpret_cast<HWND>(SendMessageW(sheet, PSM_GETTABCONTROL, 0, 0));
+      tabs = SendMessageW(tabControl, TCM_GETITEMCOUNT, 0, 0);
+      PressCancel(sheet);
+    };
+  };
+  LRESULT without = 0, with = 0;
+  RunHost(L"", countTabs(without));
+  RunHost(L"--document", countTabs(with));
+  EXPECT_EQ(without, 1);
+  EXPECT_EQ(with, 2);
+}
+
+TEST(HostProgram, PrinterGoesOverThatOfTheFile) {
+  const CTempFile written(L"nempdf-written.ini");
+  RunHost(L"\"" + kSample + L"\" --printer \"Another printer\" --write \"" + written.Name() + L"\"", PressOk);
+  EXPECT_NE(written.Content().value_or("").find("PrinterName = Another printer\r\n"), std::string::npos);
+}
+
+TEST(HostProgram, ReadsUtf16) {
+  std::string bytes = "\xFF\xFE";
+  for (wchar_t unit : std::wstring(L"[general]\r\nSheetTitle=\x0645")) {
+    bytes += static_cast<char>(unit & 0xFF);
+    bytes += static_cast<char>(unit >> 8);
+  }
+  const CTempFile file(L"nempdf-utf16.ini", bytes);
+  std::wstring title;
+  RunHost(L"\"" + file.Name() + L"\"", [&](HWND sheet) {
+    wchar_t text[64] = L"";
+    GetWindowTextW(sheet, text, 64);
+    title = text;
+    PressCancel(sheet);
+  });
+  EXPECT_EQ(title, L"\x0645");
+}
+
+}  // namespace

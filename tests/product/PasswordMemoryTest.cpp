@@ -1,0 +1,134 @@
+// A password that was given to the library leaves no copy in the memory of the process: not when it is changed, not
+// when the set is put back, not when the dialog object is freed. The test looks at all memory that can be read.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <cstring>
+
+#include "NemPdfUI.h"
+
+namespace {
+
+// The password stands nowhere but where the test writes it: it is kept with every bit turned.
+constexpr unsigned char kTurned[] = {
+    0xFF & ~'c', 0xFF & ~'0', 0xFF & ~'r', 0xFF & ~'r', 0xFF & ~'e', 0xFF & ~'c', 0xFF & ~'t', 0xFF & ~'-',
+    0xFF & ~'h', 0xFF & ~'0', 0xFF & ~'r', 0xFF & ~'s', 0xFF & ~'e', 0xFF & ~'-', 0xFF & ~'b', 0xFF & ~'4',
+    0xFF & ~'t', 0xFF & ~'t', 0xFF & ~'e', 0xFF & ~'r', 0xFF & ~'y', 0xFF & ~'-', 0xFF & ~'s', 0xFF & ~'t',
+};
+constexpr size_t kLength = sizeof kTurned;
+
+// A copy of the password that is gone at the end of its scope.
+template <class Character>
+class Password {
+ public:
+  Password() {
+    for (size_t i = 0; i < kLength; ++i) text_[i] = static_cast<unsigned char>(~kTurned[i]);
+    text_[kLength] = 0;
+  }
+  ~Password() { SecureZeroMemory(text_, sizeof text_); }
+  Password(const Password&) = delete;
+  Password& operator=(const Password&) = delete;
+  const Character* Text() const { return text_; }
+
+ private:
+  Character text_[kLength + 1];
+};
+
+// A tail of the password at `bytes`, in characters of `width` bytes. Heaps write into the first bytes of what they
+// take back, so the head may be gone while the rest can still be read.
+bool StandsHere(const volatile unsigned char* bytes, size_t width) {
+  constexpr size_t kHead = 8;
+  for (size_t i = kHead; i < kLength; ++i) {
+    const volatile unsigned char* character = bytes + (i - kHead) * width;
+    if (*character != static_cast<unsigned char>(~kTurned[i])) return false;
+    if (width == 2 && character[1] != 0) return false;
+  }
+  return true;
+}
+
+bool IsReadable(const MEMORY_BASIC_INFORMATION& region) {
+  constexpr DWORD kWritable = PAGE_READWRITE | PAGE_EXECUTE_READWRITE;
+  return region.State == MEM_COMMIT && (region.Protect & kWritable) && !(region.Protect & PAGE_GUARD);
+}
+
+// Under Wine the registers that a thread had at its last system call lie in memory that can be read, and the vector
+// registers still hold what was copied through them last.
+void ClearVectorRegisters() {
+  asm volatile(
+      "pxor %%xmm0, %%xmm0\n\tpxor %%xmm1, %%xmm1\n\tpxor %%xmm2, %%xmm2\n\t"
+      "pxor %%xmm3, %%xmm3\n\tpxor %%xmm4, %%xmm4\n\tpxor %%xmm5, %%xmm5" ::
+          : "xmm0", "xmm1", "xmm2", "xmm3", "xmm4", "xmm5");
+}
+
+int CountCopies() {
+  ClearVectorRegisters();
+  int copies = 0;
+  MEMORY_BASIC_INFORMATION region;
+  for (const char* address = nullptr; VirtualQuery(address, &region, sizeof region);
+       address = static_cast<const char*>(region.BaseAddress) + region.RegionSize) {
+    if (!IsReadable(region)) continue;
+    const auto* begin = static_cast<const volatile unsigned char*>(region.BaseAddress);
+    const auto* end = begin + region.RegionSize - kLength * 2;
+    for (const auto* byte = begin; byte < end; ++byte)
+      if (StandsHere(byte, 1) || StandsHere(byte, 2)) ++copies;
+  }
+  return copies;
+}
+
+struct Form {
+  const char* narrowName;
+  const wchar_t* wideName;
+};
+
+class PasswordMemory : public testing::TestWithParam<Form> {
+ protected:
+  PasswordMemory() { NemPdfUICreateDialog(&handle_); }
+  ~PasswordMemory() override { NemPdfUIFreeDialog(&handle_); }
+
+  void SetInBothSets() {
+    {
+      const Password<char> narrow;
+      EXPECT_EQ(1, NemPdfUISetPropertyA(handle_, 0, GetParam().narrowName, narrow.Text()));
+    }
+    const Password<wchar_t> wide;
+    EXPECT_EQ(1, NemPdfUISetPropertyW(handle_, 1, GetParam().wideName, wide.Text()));
+  }
+
+  NemPdfUIHandle handle_ = nullptr;
+};
+
+INSTANTIATE_TEST_SUITE_P(Properties, PasswordMemory,
+                         testing::Values(Form{"EncryptUserPassword", L"EncryptUserPassword"},
+                                         Form{"EncryptOwnerPassword", L"EncryptOwnerPassword"},
+                                         Form{"EncryptEnhancedPdfPassword", L"EncryptEnhancedPdfPassword"},
+                                         Form{"StationeryInfos", L"StationeryInfos"}),
+                         [](const auto& info) { return info.param.narrowName; });
+
+TEST_P(PasswordMemory, HoldsOneCopyForEachSet) {
+  EXPECT_EQ(0, CountCopies());
+  SetInBothSets();
+  EXPECT_EQ(2, CountCopies());  // so the search does find them
+}
+
+TEST_P(PasswordMemory, IsCleanWhenThePasswordsHaveChanged) {
+  SetInBothSets();
+  EXPECT_EQ(1, NemPdfUISetPropertyW(handle_, 0, GetParam().wideName, L"x"));
+  EXPECT_EQ(1, NemPdfUISetPropertyW(handle_, 1, GetParam().wideName, nullptr));
+  EXPECT_EQ(0, CountCopies());
+}
+
+TEST_P(PasswordMemory, IsCleanWhenTheSetsHaveBeenPutBack) {
+  SetInBothSets();
+  EXPECT_EQ(1, NemPdfUISetPropertyW(handle_, 0, nullptr, nullptr));
+  EXPECT_EQ(1, NemPdfUISetPropertyW(handle_, 1, nullptr, nullptr));
+  EXPECT_EQ(0, CountCopies());
+}
+
+TEST_P(PasswordMemory, IsCleanWhenTheObjectIsFreed) {
+  SetInBothSets();
+  EXPECT_EQ(1, NemPdfUIFreeDialog(&handle_));
+  EXPECT_EQ(0, CountCopies());
+}
+
+}  // namespace
