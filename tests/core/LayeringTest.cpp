@@ -1,0 +1,85 @@
+// A folder includes only folders below it, and window-free units include nothing of the platform.
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <map>
+#include <set>
+#include <string>
+#include <vector>
+
+namespace {
+
+namespace fs = std::filesystem;
+
+const fs::path kSources = fs::path(NEMPDF_SOURCE_DIR) / "src";
+
+// Twice the floor; folders of one floor do not see each other. The cockpit's page is a page of the sheet's kind and
+// stands a stair above it.
+const std::map<std::string, int> kFloors = {{"DriverLIB", 0}, {"environment", 2}, {"window", 2},  {"ui", 4},
+                                            {"controls", 4},  {"sheet", 6},       {"cockpit", 7}, {"pages", 8}};
+constexpr int kRoof = 10;
+
+// The units of ui/ that stand on the roof.
+const std::set<std::string> kRoofUnits = {"NemUI.h",         "NemUI.cpp",         "NemUIDoModal.cpp",
+                                          "PageCatalogue.h", "PageCatalogue.cpp", "DllMain.cpp"};
+
+struct Include {
+  fs::path from;
+  std::string name;  // as it is written between the quotation marks
+};
+
+std::vector<Include> AllIncludes() {
+  std::vector<Include> includes;
+  for (const auto& entry : fs::recursive_directory_iterator(kSources)) {
+    const std::string extension = entry.path().extension().string();
+    if (extension != ".h" && extension != ".cpp") continue;
+    std::ifstream file(entry.path());
+    for (std::string line; std::getline(file, line);) {
+      if (line.rfind("#include \"", 0) != 0) continue;
+      const size_t end = line.find('"', 10);
+      includes.push_back({fs::relative(entry.path(), kSources), line.substr(10, end - 10)});
+    }
+  }
+  return includes;
+}
+
+int FloorOf(const fs::path& unit) {
+  const std::string folder = unit.begin()->string();
+  if (folder == "ui" && kRoofUnits.count(unit.filename().string())) return kRoof;
+  const auto found = kFloors.find(folder);
+  return found == kFloors.end() ? -1 : found->second;
+}
+
+TEST(Layering, NoFolderIncludesOneThatIsNotBelow) {
+  const std::vector<Include> includes = AllIncludes();
+  ASSERT_GT(includes.size(), 100u);
+  for (const Include& include : includes) {
+    const fs::path target(include.name);
+    if (!target.has_parent_path()) continue;  // generated, or public
+    const std::string folder = target.begin()->string();
+    if (folder == "resources") continue;  // numbers only
+    const int from = FloorOf(include.from), to = FloorOf(target);
+    ASSERT_GE(to, 0) << include.from << " includes " << include.name;
+    if (folder == include.from.begin()->string() && to != kRoof) continue;
+    EXPECT_TRUE(to < from || (from == kRoof && to == kRoof)) << include.from << " includes " << include.name;
+  }
+}
+
+TEST(Layering, NoPageIncludesAnotherOnesClass) {
+  // Shared models of pages have names without the class's C.
+  for (const Include& include : AllIncludes()) {
+    if (include.from.begin()->string() != "pages") continue;
+    const fs::path target(include.name);
+    const std::string name = target.stem().string();
+    if (target.begin()->string() != "pages" || name.rfind("C", 0) != 0) continue;
+    std::string own = include.from.stem().string();
+    std::string other = name;
+    for (std::string* unit : {&own, &other})
+      if (unit->rfind("CNemUI", 0) == 0) *unit = "C" + unit->substr(6);
+    const bool isPage = other.size() > 4 && other.substr(other.size() - 4) == "Page";
+    EXPECT_TRUE(!isPage || own == other) << include.from << " includes " << include.name;
+  }
+}
+
+}  // namespace
