@@ -26,6 +26,13 @@ void TakeOnce(CommandLine& line, std::optional<std::wstring>& target, std::wstri
   target = argument;
 }
 
+// --check-conf is a task of its own: nothing else goes with it.
+void CheckConfOption(CommandLine& line) {
+  if (line.offerDocument || line.printer || line.writeFile || line.settingsFile)
+    SetProblem(line, L"--check-conf takes configuration files and nothing else");
+  if (line.confFiles.empty()) SetProblem(line, L"--check-conf needs a file name");
+}
+
 const ValueOption* FindValueOption(std::wstring_view argument) {
   for (const ValueOption& option : kValueOptions)
     if (option.name == argument) return &option;
@@ -42,6 +49,8 @@ CommandLine ParseCommandLine(std::span<const wchar_t* const> arguments) {
       line.help = true;
     } else if (argument == L"--document") {
       line.offerDocument = true;
+    } else if (argument == L"--check-conf") {
+      line.checkConf = true;
     } else if (const ValueOption* option = FindValueOption(argument)) {
       const std::wstring name(option->name);
       const std::wstring_view value = i + 1 < arguments.size() ? arguments[i + 1] : L"";
@@ -55,10 +64,13 @@ CommandLine ParseCommandLine(std::span<const wchar_t* const> arguments) {
       SetProblem(line, L"unknown option " + std::wstring(argument));
     } else if (argument.empty()) {
       SetProblem(line, L"an empty file name");
+    } else if (line.checkConf) {
+      line.confFiles.emplace_back(argument);
     } else {
       TakeOnce(line, line.settingsFile, argument, L"the settings file");
     }
   }
+  if (line.checkConf) CheckConfOption(line);
   return line;
 }
 
@@ -66,6 +78,7 @@ const wchar_t* UsageText() {
   return L"Opens the settings sheet of NEM pdf vonder and prints what the user changed.\n"
          L"\n"
          L"  NemPdfUIHost [settings file] [options]\n"
+         L"  NemPdfUIHost --check-conf FILE...\n"
          L"\n"
          L"Without a settings file the built-in sample is taken.\n"
          L"\n"
@@ -74,7 +87,11 @@ const wchar_t* UsageText() {
          L"  --write FILE    after OK, write all settings to FILE, passwords included\n"
          L"  --help          print this text\n"
          L"\n"
-         L"Exit code: 0 after OK or Cancel, 1 when something failed, 2 for a bad command line or settings file.\n";
+         L"Exit code: 0 after OK or Cancel, 1 when something failed, 2 for a bad command line or settings file.\n"
+         L"\n"
+         L"With --check-conf no sheet is shown. The files are read as the administrator's configuration files of one\n"
+         L"printer, in the order given: the printer's own file first, then NEMpdf.conf. All that is wrong in them is\n"
+         L"printed. Exit code: 0 when all is well, 1 when not, 2 when a file cannot be read.\n";
 }
 
 }  // namespace host

@@ -4,6 +4,7 @@
 #include <optional>
 #include <span>
 #include <string>
+#include <vector>
 
 namespace host {
 
@@ -13,6 +14,8 @@ struct CommandLine {
   std::optional<std::wstring> printer;       // --printer NAME
   std::optional<std::wstring> writeFile;     // --write FILE
   std::optional<std::wstring> settingsFile;  // the one argument without dashes
+  bool checkConf = false;                    // --check-conf
+  std::vector<std::wstring> confFiles;       // the arguments without dashes behind it
   std::wstring problem;                      // why the line cannot be obeyed; empty for a good one
 };
 

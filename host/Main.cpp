@@ -5,6 +5,7 @@
 
 #include "Changes.h"
 #include "CommandLine.h"
+#include "ConfCheck.h"
 #include "CSettingsDialog.h"
 #include "SettingsFile.h"
 #include "SystemFiles.h"
@@ -77,6 +78,23 @@ int RunSheet(const CommandLine& line, const Settings& settings) {
   return kDone;
 }
 
+// A file that cannot be read hides none of the others.
+int CheckConfFiles(const std::vector<std::wstring>& names) {
+  AdminSettings record;
+  int code = kDone;
+  for (const std::wstring& name : names) {
+    const ConfReport report = CheckConfFile(name, record);
+    if (!report.readable) {
+      Print(Stream::Error, name + L": cannot be read: " + report.reason + L"\n");
+      code = kBadInput;
+      continue;
+    }
+    Print(Stream::Output, DescribeReport(name, report));
+    if (!report.findings.empty() && code == kDone) code = kFailed;
+  }
+  return code;
+}
+
 int Run(std::span<const wchar_t* const> arguments) {
   const CommandLine line = ParseCommandLine(arguments);
   if (line.help) {
@@ -88,6 +106,7 @@ int Run(std::span<const wchar_t* const> arguments) {
     Print(Stream::Error, std::wstring(L"\n") + UsageText());
     return kBadInput;
   }
+  if (line.checkConf) return CheckConfFiles(line.confFiles);
   Settings settings;
   if (!ReadSettings(line, settings)) return kBadInput;
   ApplyOptions(line, settings);

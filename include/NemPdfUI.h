@@ -34,6 +34,8 @@
  * Unless a function says otherwise, 1 is success and 0 is failure. The reason of a failure goes to the trace file of
  * the calling thread, if the machine has tracing switched on; no function hands it out.
  *
+ * Exhausted memory may also surface as a C++ exception: no function has a catch-all.
+ *
  * An error that no function has answered for yet is answered for by the thread's next call of a set or get function:
  * that call does nothing but return 0, and the calls behind it work again. Two events leave such an error behind:
  * NemPdfUIGetVersion with a null pointer, and a trace file that could not be opened when the thread came in.
@@ -100,8 +102,9 @@ NEMPDFUI_API int NemPdfUIFreeDialog(NemPdfUIHandle* handle);
 /* Shows the settings sheet of the dialog object and returns when the user has closed it.
  *
  * With OK the changed values have been stored in the object before the function returns; with Cancel the object is as
- * it was. Returns the result of the platform's property sheet: above 0 after OK, 0 after Cancel or if the sheet could
- * not be prepared or the thread cannot be taken up, -1 if the sheet failed or the handle is null or bad. */
+ * it was. Returns the result of the platform's property sheet: above 0 after OK; 0 after Cancel, or if the sheet could
+ * not be prepared, the sheet of this object is on the screen already, or the thread cannot be taken up; -1 if the
+ * sheet failed or the handle is null or bad. */
 NEMPDFUI_API int NemPdfUIDoModal(NemPdfUIHandle handle);
 
 /* Shows the version dialog, which lists the versions of all components of the product, and returns its result when

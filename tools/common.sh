@@ -6,6 +6,9 @@ build=$root/build
 logs=$build/logs
 mkdir -p "$logs"
 
+# What ccache asks for where precompiled headers are used; else it keeps nothing that includes one.
+export CCACHE_SLOPPINESS=pch_defines,time_macros,include_file_mtime,include_file_ctime
+
 say() { printf '%s\n' "$*"; }
 
 # one_at_a_time ARGUMENT...: starts the script again under the lock of this tree. The lock is held by the waiting flock
@@ -23,11 +26,13 @@ seconds_since() {
   printf '%d.%d s' $((tenths / 10)) $((tenths % 10))
 }
 
-# explain_failure TITLE LOG: which step failed, and the end of its log.
+# explain_failure TITLE LOG: which step failed, and why: ninja's first failure, or else the end of the log.
 explain_failure() {
+  local from
+  from=$(grep -n -m 1 '^FAILED: ' "$2" | cut -d : -f 1)
   say "FAILED: $1"
-  say "  The last lines of ${2#"$root/"}:"
-  tail -n 30 "$2" | sed 's/^/  | /'
+  say "  From ${2#"$root/"}:"
+  if [ -n "$from" ]; then tail -n "+$from" "$2" | head -n 30; else tail -n 30 "$2"; fi | cut -c 1-400 | sed 's/^/  | /'
 }
 
 # step TITLE LOGNAME COMMAND...: runs the command with its output in build/logs/LOGNAME.log and says how long it took.

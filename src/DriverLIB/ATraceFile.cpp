@@ -47,6 +47,12 @@ void FormatTimeStamp(wchar_t (&stamp)[kTimeStampSize]) {
          now.second);
 }
 
+CUString InsertInTraceName(const CUString& name, WideView infix) {
+  const int dot = name.ReverseFind(L'.');
+  const int stem = dot >= 0 ? dot : name.Length();
+  return name.Left(stem) + infix + (name.Text() + stem);
+}
+
 ATraceFile::~ATraceFile() {
   try {
     CloseTrace();
@@ -61,14 +67,9 @@ bool ATraceFile::OpenTrace(const wchar_t* name, uint32_t thread, wchar_t threadK
   configuredName.Assign(name);
   if (configuredName.IsEmpty()) return true;
 
-  // The last dot anywhere is taken, also one in a folder's name.
-  const int dot = configuredName.ReverseFind(L'.');
-  const int stem = dot >= 0 ? dot : configuredName.Length();
-  fileName.Assign(configuredName.Left(stem).Text());
   CUString infix;
   infix.Format(L"-%c%lu", kind, static_cast<unsigned long>(threadId));
-  fileName.Append(infix.Text());
-  fileName.Append(configuredName.Text() + stem);
+  fileName = InsertInTraceName(configuredName, infix);
 
   lineCount = 0;
   warningCount = 0;

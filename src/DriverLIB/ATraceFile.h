@@ -12,6 +12,9 @@
 constexpr int kTimeStampSize = 32;  // characters, with the terminator
 void FormatTimeStamp(wchar_t (&stamp)[kTimeStampSize]);
 
+// The trace file name with `infix` put before its last dot, also one in a folder's name, or at its end.
+CUString InsertInTraceName(const CUString& name, WideView infix);
+
 // A file of 16-bit text without a byte-order mark; each line is its number, the time and a message, and one write.
 // Formats are those of the platform's run-time: "%s" is wide text, "%hs" narrow. Nothing is formatted or counted
 // while the file is closed.

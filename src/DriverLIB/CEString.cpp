@@ -8,7 +8,6 @@
 
 namespace {
 
-// The wide classification and the narrow one agree on bytes.
 bool IsSpace(char character) { return platform::IsNarrowSpace(static_cast<unsigned char>(character)); }
 
 }  // namespace
@@ -35,7 +34,7 @@ int CEString::Reset() {
 }
 
 CEString& CEString::operator=(const CEString& other) {
-  Assign(other);
+  if (this != &other) Assign(other);
   return *this;
 }
 

@@ -43,7 +43,8 @@ class CEString {
 
   // A pointer into the text: null for a negative index, the terminator for one over the length.
   const char* CharPtr(int index) const;
-  bool Equals(NarrowView text) const { return View() == text; }
+  // Comparing ends at a terminator inside the text.
+  bool Equals(NarrowView text) const { return NarrowView(*this).Terminated() == text.Terminated(); }
 
   void Assign(NarrowView text);  // an empty text clears the bytes in use and keeps the buffer
   // Converts to the ANSI code page, into at most as many bytes as `text` has characters: in a double-byte code page
@@ -68,7 +69,13 @@ class CEString {
   void TrimBoth();
   CEString Left(int count) const;
 
-  // Makes room for `count` bytes, all zero behind the text. A negative count adds 8. Always returns 1.
+  // Hidden friends: found for strings of this library only, not for what merely converts to one.
+  friend bool operator==(const CEString& left, const CEString& right) { return left.Equals(right); }
+  friend bool operator==(const CEString& left, const char* right) { return left.Equals(right); }
+  friend bool operator==(const CEString& left, std::string_view right) { return left.Equals(right); }
+  friend void swap(CEString& left, CEString& right) noexcept { left.Swap(right); }
+
+  // Makes room for `count` bytes; a new block is zero behind the text. A negative count adds 8. Always returns 1.
   int EnsureCapacity(int count);
   void SetLength(int count);           // and terminates there
   void ReleaseBuffer(int count = -1);  // a negative count counts the text anew
@@ -83,9 +90,3 @@ class CEString {
   std::unique_ptr<char[]> Reallocate(int64_t capacity);
   void FreeBuffer();
 };
-
-inline bool operator==(const CEString& left, const CEString& right) { return left.View() == right.View(); }
-inline bool operator==(const CEString& left, const char* right) { return left.Equals(right); }
-inline bool operator==(const CEString& left, std::string_view right) { return left.View() == right; }
-
-inline void swap(CEString& left, CEString& right) noexcept { left.Swap(right); }

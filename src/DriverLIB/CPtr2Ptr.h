@@ -8,7 +8,7 @@
 // memory back and starts afresh.
 class CPtr2Ptr {
  public:
-  // A place in an iteration: kStart at the beginning, null at the end. Changing the map ends an iteration.
+  // A place in an iteration: StartPosition() at the beginning, null at the end. Changing the map ends an iteration.
   using Position = void*;
   static Position StartPosition() { return reinterpret_cast<Position>(UINTPTR_MAX); }
 

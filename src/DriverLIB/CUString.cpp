@@ -28,7 +28,7 @@ int CUString::Reset() {
 }
 
 CUString& CUString::operator=(const CUString& other) {
-  Assign(other);
+  if (this != &other) Assign(other);
   return *this;
 }
 
@@ -62,7 +62,7 @@ const wchar_t* CUString::CharPtr(int index) const {
 }
 
 bool CUString::EqualsNoCase(WideView text) const {
-  return std::ranges::equal(View(), text, {}, platform::ToLower, platform::ToLower);
+  return std::ranges::equal(WideView(*this).Terminated(), text.Terminated(), {}, platform::ToLower, platform::ToLower);
 }
 
 // --- Assigning and appending ---------------------------------------------------------------------------------------
@@ -85,7 +85,7 @@ void CUString::AssignNarrow(NarrowView text) {
   if (text.empty()) return;
   const int count = text::CheckedLength(text.size(), kMaxLength);
   EnsureCapacity(count);
-  const int converted = platform::NarrowToWide(text.data(), count, buffer_, count);
+  const int converted = platform::NarrowToWide(text.data(), count, buffer_);
   std::fill(buffer_ + converted, buffer_ + count, L'\0');
   SetLength(count);
 }

@@ -52,7 +52,9 @@ class CUString {
   // A pointer into the text: null for a negative index, the terminator for one over the length.
   const wchar_t* CharPtr(int index) const;
 
-  bool Equals(WideView text) const { return View() == text; }
+  // Comparing ends at a terminator inside the text: behind it may lie what a double-byte code page left over, or the
+  // rest of raw bytes.
+  bool Equals(WideView text) const { return WideView(*this).Terminated() == text.Terminated(); }
   bool EqualsNoCase(WideView text) const;
 
   // --- Assigning and appending -----------------------------------------------------------------------------------
@@ -94,10 +96,20 @@ class CUString {
   CUString Left(int count) const;
   CUString Mid(int start, int count = -1) const;  // a negative count means the rest
 
+  // Hidden friends: found for strings of this library only, not for what merely converts to one.
+  friend bool operator==(const CUString& left, const CUString& right) { return left.Equals(right); }
+  friend bool operator==(const CUString& left, const wchar_t* right) { return left.Equals(right); }
+  friend bool operator==(const CUString& left, std::wstring_view right) { return left.Equals(right); }
+  friend CUString operator+(CUString left, WideView right) {
+    left.Append(right);
+    return left;
+  }
+  friend void swap(CUString& left, CUString& right) noexcept { left.Swap(right); }
+
   // --- Direct access to the buffer -----------------------------------------------------------------------------------
 
-  // Makes room for `count` characters, all zero behind the text. A negative count forces a growth by one step.
-  // Always returns 1.
+  // Makes room for `count` characters; a new block is zero behind the text. A negative count forces a growth by one
+  // step. Always returns 1.
   int EnsureCapacity(int count);
   void SetLength(int count);           // and terminates there
   void ReleaseBuffer(int count = -1);  // a negative count counts the text anew
@@ -115,14 +127,3 @@ class CUString {
   std::unique_ptr<wchar_t[]> Reallocate(int64_t capacity);
   void FreeBuffer();
 };
-
-inline bool operator==(const CUString& left, const CUString& right) { return left.View() == right.View(); }
-inline bool operator==(const CUString& left, const wchar_t* right) { return left.Equals(right); }
-inline bool operator==(const CUString& left, std::wstring_view right) { return left.View() == right; }
-
-inline CUString operator+(CUString left, WideView right) {
-  left.Append(right);
-  return left;
-}
-
-inline void swap(CUString& left, CUString& right) noexcept { left.Swap(right); }

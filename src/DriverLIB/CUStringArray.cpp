@@ -17,7 +17,7 @@ int CompareTexts(const void* left, const void* right) {
   const CUString* leftText = TextInSlot(left);
   const CUString* rightText = TextInSlot(right);
   if (!leftText || !rightText) return (leftText != nullptr) - (rightText != nullptr);
-  const int order = leftText->View().compare(rightText->View());
+  const int order = WideView(*leftText).Terminated().compare(WideView(*rightText).Terminated());
   return (order > 0) - (order < 0);
 }
 
@@ -25,7 +25,7 @@ int CompareTexts(const void* left, const void* right) {
 
 CUStringArray::CUStringArray(const CUStringArray& other) : CPointerArray() { AddAll(other); }
 
-CUStringArray::CUStringArray(CUStringArray&& other) noexcept : CPointerArray() { Swap(other); }
+CUStringArray::CUStringArray(CUStringArray&& other) noexcept { Swap(other); }
 
 CUStringArray::~CUStringArray() { CUStringArray::RemoveAll(); }
 
@@ -51,7 +51,7 @@ CPointerArray::CompareFunction CUStringArray::GetCompareFunction() const { retur
 int CUStringArray::Add(WideView text) {
   auto element = std::make_unique<CUString>(text);
   const int index = CPointerArray::Add(element.get());
-  element.release();
+  element.release();  // the array's from here on
   return index;
 }
 
@@ -60,7 +60,7 @@ void CUStringArray::SetAt(int index, WideView text) {
   auto element = std::make_unique<CUString>(text);
   const std::unique_ptr<CUString> former(PointerAt<CUString>(index));  // goes last: `text` may be its own
   SetAtGrow(index, reinterpret_cast<intptr_t>(element.get()));
-  element.release();
+  element.release();  // the array's from here on
 }
 
 const CUString& CUStringArray::GetAt(int index) const {

@@ -14,6 +14,7 @@ class CUStringArray : public CPointerArray {
   CUStringArray& operator=(const CUStringArray& other);
   CUStringArray& operator=(CUStringArray&& other) noexcept;
   void Swap(CUStringArray& other) noexcept;
+  friend void swap(CUStringArray& left, CUStringArray& right) noexcept { left.Swap(right); }
 
   void RemoveAll() override;  // deletes every element
   // By character value, case-sensitive: -1, 0 or 1. A text without a buffer comes first and equals only its like.
@@ -30,5 +31,3 @@ class CUStringArray : public CPointerArray {
   int FindNoCase(WideView text) const;
   void AddAll(const CUStringArray& other);  // copies; may be the array itself
 };
-
-inline void swap(CUStringArray& left, CUStringArray& right) noexcept { left.Swap(right); }

@@ -2,8 +2,6 @@
 
 #include "DriverLIB/LanguageSetting.h"
 
-#include <cwchar>
-
 #include "DriverLIB/CRegistryEntry.h"
 #include "DriverLIB/Identity.h"
 

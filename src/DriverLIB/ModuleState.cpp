@@ -11,20 +11,20 @@
 #include "DriverLIB/MessageText.h"
 #include "DriverLIB/TraceSettings.h"
 #include "DriverLIB/WindowThreadState.h"
+#include "MessageIds.h"
 
 namespace {
 
-constexpr uint32_t kTableLanguage = 0x400003E8;  // the message that holds its table's primary language as a number
 constexpr wchar_t kThreadKind = L't';
 
-// A language without a table of its own falls back to English, whose table then answers for it: such a language
-// quietly gives way to the one in force.
+// Each table holds its primary language as a number. A language without a table falls back to English, whose table
+// then answers for it: such a language quietly gives way to the one in force.
 void ChooseUILanguage() {
   uint16_t language = ReadLanguageSetting();
   if (language == 0) language = GetSystemLanguage();
   const uint16_t previous = GetUILanguage();
   SetUILanguage(language);
-  const unsigned long spoken = std::wcstoul(MessageText(kTableLanguage).Text(), nullptr, 10);
+  const unsigned long spoken = std::wcstoul(MessageText(MSG_LANGUAGE_NUMBER).Text(), nullptr, 10);
   if (spoken != PrimaryLanguage(language)) SetUILanguage(previous);
 }
 
@@ -53,8 +53,12 @@ bool InitThreadState(void* module) {
   WindowThreadState* state = new (std::nothrow) WindowThreadState;
   if (threadWindowState.Set(state)) return true;
   delete state;
+  // The error state is what says that a thread has been taken up: it goes again, and the next call starts over.
+  if (threadError.Set(nullptr)) delete error;
   return false;
 }
+
+bool EnterThread() { return InitThreadState(ModuleInstance()); }
 
 bool FreeThreadState() {
   CError* error = CurrentError();

@@ -7,9 +7,13 @@
 // Attach and detach run under the loader's lock: nothing here loads libraries or waits for threads.
 bool InitModule(void* module);
 
-// At thread attach and at the head of every exported function: makes the calling thread's CError, with its trace, and
-// the window layer's state, unless they exist. False when they cannot be stored.
+// At thread attach: makes the calling thread's CError, with its trace, and the window layer's state, unless they exist.
+// False, and neither is left, when they cannot be stored.
 bool InitThreadState(void* module);
+
+// At the head of every exported function, for a thread may have come to life before the library was loaded. False if
+// the thread cannot be taken up; the export then returns 0.
+bool EnterThread();
 
 // At thread detach and process detach: destroys what InitThreadState made. Always true.
 bool FreeThreadState();

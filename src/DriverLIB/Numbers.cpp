@@ -24,22 +24,15 @@ bool IsSign(char character) { return character == '+' || character == '-'; }
 
 size_t CountDigits(std::string_view text) { return std::min(text.find_first_not_of("0123456789"), text.size()); }
 
-// The length of the number at the start of `text`: sign, digits with a point, exponent.
+// The length of what may be a number at the start of `text`: sign, digits with a point, exponent, each or none.
 size_t NumberLength(std::string_view text) {
   size_t length = !text.empty() && IsSign(text.front()) ? 1 : 0;
-  const size_t wholeDigits = CountDigits(text.substr(length));
-  length += wholeDigits;
-  size_t fractionDigits = 0;
-  if (length < text.size() && text[length] == '.') {
-    fractionDigits = CountDigits(text.substr(length + 1));
-    length += 1 + fractionDigits;
-  }
-  if (wholeDigits + fractionDigits == 0) return 0;
+  length += CountDigits(text.substr(length));
+  if (length < text.size() && text[length] == '.') length += 1 + CountDigits(text.substr(length + 1));
   if (length < text.size() && (text[length] == 'e' || text[length] == 'E')) {
-    size_t exponent = length + 1;
-    if (exponent < text.size() && IsSign(text[exponent])) ++exponent;
-    const size_t exponentDigits = CountDigits(text.substr(exponent));
-    if (exponentDigits > 0) length = exponent + exponentDigits;
+    ++length;
+    if (length < text.size() && IsSign(text[length])) ++length;
+    length += CountDigits(text.substr(length));
   }
   return length;
 }

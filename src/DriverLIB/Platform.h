@@ -13,9 +13,9 @@ namespace platform {
 
 // --- Text ------------------------------------------------------------------------------------------------------
 
-// Converts `count` bytes of the ANSI code page to wide characters. Returns the number of characters written, at most
-// `capacity`; no terminator is added. With a null `wide` it returns the number of characters needed.
-int NarrowToWide(const char* narrow, int count, wchar_t* wide, int capacity);
+// Converts `count` bytes of the ANSI code page to wide characters. `wide` has room for `count` characters, and no code
+// page needs more. Returns the number of characters written; no terminator is added.
+int NarrowToWide(const char* narrow, int count, wchar_t* wide);
 
 // Converts `count` wide characters to the ANSI code page. Returns the number of bytes written, at most `capacity`: a
 // character that does not fit whole is left out. No terminator is added. With a null `narrow` it returns the number

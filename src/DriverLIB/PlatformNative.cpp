@@ -1,6 +1,8 @@
 // The gate over Linux, for the sanitized build of the window-free code. It answers as Windows would, as far as that
 // code can see: the ANSI code page is 1252, error numbers are those of Windows, and "\" separates directories.
 // NativeMessages.cpp has the message table.
+#include "DriverLIB/PlatformNative.h"
+
 #include <fcntl.h>
 #include <pthread.h>
 #include <sys/stat.h>
@@ -37,6 +39,20 @@ char ToNarrow(wchar_t character) {
   if (character < 0x80 || (character > 0x9F && character <= 0xFF)) return static_cast<char>(character);
   const wchar_t* found = std::find(std::begin(kCodePage1252), std::end(kCodePage1252), character);
   return found == std::end(kCodePage1252) ? '?' : static_cast<char>(0x80 + (found - kCodePage1252));
+}
+
+bool doubleByteCodePage = false;
+constexpr unsigned kFirstLeadByte = 0x81, kLastLeadByte = 0x9F;
+constexpr unsigned kFirstDoubleByteCharacter = 0x4E00;
+
+bool IsLeadByte(char byte) {
+  const auto value = static_cast<unsigned char>(byte);
+  return doubleByteCodePage && value >= kFirstLeadByte && value <= kLastLeadByte;
+}
+
+bool IsDoubleByteCharacter(wchar_t character) {
+  return doubleByteCodePage && character >= kFirstDoubleByteCharacter &&
+         character < kFirstDoubleByteCharacter + ((kLastLeadByte - kFirstLeadByte + 1) << 8);
 }
 
 void AppendUtf8(std::string& text, uint32_t character) {
@@ -112,17 +128,34 @@ std::wstring Widen(const char* text) {
 
 // --- Text ----------------------------------------------------------------------------------------------------------
 
-int NarrowToWide(const char* narrow, int count, wchar_t* wide, int capacity) {
-  if (!wide) return std::max(count, 0);
-  const int written = std::max(std::min(count, capacity), 0);
-  for (int i = 0; i < written; ++i) wide[i] = ToWide(static_cast<unsigned char>(narrow[i]));
+void SetNativeDoubleByteCodePage(bool doubleByte) { doubleByteCodePage = doubleByte; }
+
+int NarrowToWide(const char* narrow, int count, wchar_t* wide) {
+  int written = 0;
+  for (int i = 0; i < count; ++i, ++written) {
+    const auto byte = static_cast<unsigned char>(narrow[i]);
+    const bool pair = IsLeadByte(narrow[i]) && i + 1 < count;
+    if (pair) ++i;
+    wide[written] = pair ? static_cast<wchar_t>(kFirstDoubleByteCharacter + ((byte - kFirstLeadByte) << 8) +
+                                                static_cast<unsigned char>(narrow[i]))
+                         : ToWide(byte);
+  }
   return written;
 }
 
 int WideToNarrow(const wchar_t* wide, int count, char* narrow, int capacity) {
-  if (!narrow) return std::max(count, 0);
-  const int written = std::max(std::min(count, capacity), 0);
-  std::transform(wide, wide + written, narrow, ToNarrow);
+  int written = 0;
+  for (int i = 0; i < count; ++i) {
+    const int length = IsDoubleByteCharacter(wide[i]) ? 2 : 1;
+    if (narrow && length > capacity - written) break;
+    if (narrow && length == 2) {
+      narrow[written] = static_cast<char>(kFirstLeadByte + ((wide[i] - kFirstDoubleByteCharacter) >> 8));
+      narrow[written + 1] = static_cast<char>(wide[i] & 0xFF);
+    } else if (narrow) {
+      narrow[written] = ToNarrow(wide[i]);
+    }
+    written += length;
+  }
   return written;
 }
 
@@ -231,7 +264,10 @@ bool PathExists(const wchar_t* name) {
   return name && Done(::stat(NativeName(name).c_str(), &status) == 0);
 }
 
-bool MakeDirectory(const wchar_t* name) { return Done(::mkdir(NativeName(name).c_str(), 0777) == 0); }
+bool MakeDirectory(const wchar_t* name) {
+  const std::string native = NativeName(name);
+  return native == "/" ? Fail(EACCES) : Done(::mkdir(native.c_str(), 0777) == 0);
+}
 
 int ModuleFileName(void*, wchar_t* buffer, int capacity) {
   char name[4096];

@@ -14,6 +14,10 @@ struct NativeMessage {
   const wchar_t* text;
 };
 
+// Switches to an ANSI code page with double-byte characters, which Windows has in East Asia, and back to 1252. In it a
+// byte from 0x81 to 0x9F and the next one make up a character from 0x4E00 on; all other bytes stand for themselves.
+void SetNativeDoubleByteCodePage(bool doubleByte);
+
 // Sets the message table of all modules. The entries are borrowed until the next call.
 void SetNativeMessages(std::span<const NativeMessage> messages);
 

@@ -16,13 +16,6 @@ namespace {
 
 HANDLE ToHandle(FileHandle file) { return reinterpret_cast<HANDLE>(file); }
 
-// Bytes of the character at the start of `narrow`. A byte that begins no character counts as one.
-int NarrowCharacterLength(const char* narrow, int count) {
-  for (int length = 1; length <= std::min(count, 4); ++length)
-    if (::MultiByteToWideChar(CP_ACP, MB_ERR_INVALID_CHARS, narrow, length, nullptr, 0) > 0) return length;
-  return 1;
-}
-
 int WideCharacterLength(const wchar_t* wide, int count) {
   return count > 1 && IS_SURROGATE_PAIR(wide[0], wide[1]) ? 2 : 1;
 }
@@ -54,20 +47,8 @@ int FormatMessageCut(DWORD flags, void* source, DWORD id, DWORD language, wchar_
 
 // --- Text ----------------------------------------------------------------------------------------------------------
 
-int NarrowToWide(const char* narrow, int count, wchar_t* wide, int capacity) {
-  if (count <= 0 || (wide && capacity <= 0)) return 0;
-  const int written = ::MultiByteToWideChar(CP_ACP, 0, narrow, count, wide, wide ? capacity : 0);
-  if (!wide || written > 0) return written;
-  int used = 0;
-  for (int at = 0; at < count;) {
-    const int length = NarrowCharacterLength(narrow + at, count - at);
-    const int added =
-        used < capacity ? ::MultiByteToWideChar(CP_ACP, 0, narrow + at, length, wide + used, capacity - used) : 0;
-    if (added == 0) break;
-    used += added;
-    at += length;
-  }
-  return used;
+int NarrowToWide(const char* narrow, int count, wchar_t* wide) {
+  return count > 0 ? ::MultiByteToWideChar(CP_ACP, 0, narrow, count, wide, count) : 0;
 }
 
 int WideToNarrow(const wchar_t* wide, int count, char* narrow, int capacity) {

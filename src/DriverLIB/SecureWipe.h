@@ -6,16 +6,11 @@
 
 #include "DriverLIB/CUString.h"
 
-// Overwrites memory with zeros. A compiler may not leave that out, though nobody reads the memory afterwards: to GCC
-// and Clang the empty statement behind it reads all memory, and for others the writes are volatile.
+// Overwrites memory with zeros. The compiler may not leave that out, though nobody reads the memory afterwards: to it
+// the empty statement behind it reads all memory.
 inline void SecureWipe(void* memory, size_t byteCount) {
-#ifdef __GNUC__
   std::memset(memory, 0, byteCount);
   asm volatile("" : : "r"(memory) : "memory");
-#else
-  volatile unsigned char* byte = static_cast<unsigned char*>(memory);
-  for (; byteCount; --byteCount) *byte++ = 0;
-#endif
 }
 
 // Overwrites all that a text's buffer holds, what is left of earlier texts included, and leaves the text empty.

@@ -1,7 +1,6 @@
 #include "DriverLIB/TextLists.h"
 
 #include <algorithm>
-#include <utility>
 
 namespace {
 

@@ -17,6 +17,9 @@ class TextView : public std::basic_string_view<Character> {
   constexpr TextView(const Character* text, size_t count) : Base(text, count) {}
   constexpr TextView(Base text) : Base(text) {}
   TextView(const std::basic_string<Character>& text) : Base(text) {}
+
+  // The text up to the first terminator inside, which is as far as a reader of terminated text gets.
+  constexpr TextView Terminated() const { return this->substr(0, this->find(Character())); }
 };
 
 using WideView = TextView<wchar_t>;

@@ -2,6 +2,7 @@
 
 #include "DriverLIB/TraceSettings.h"
 
+#include "DriverLIB/ATraceFile.h"
 #include "DriverLIB/CRegistryEntry.h"
 #include "DriverLIB/Identity.h"
 #include "DriverLIB/ProductValue.h"
@@ -18,10 +19,7 @@ CUString GetTraceFilename(const wchar_t* key) { return ReadProductText(key, kTra
 
 CUString MakeAddInTraceName() {
   const CUString general = GetTraceFilename(kProductKey);
-  if (general.IsEmpty()) return general;
-  const int dot = general.ReverseFind(L'.');
-  const int stem = dot >= 0 ? dot : general.Length();
-  return general.Left(stem) + L"-AddInUI" + (general.Text() + stem);
+  return general.IsEmpty() ? general : InsertInTraceName(general, L"-AddInUI");
 }
 
 bool SetTraceEnabled(bool enable, CUString* errorPath, const wchar_t* folder) {

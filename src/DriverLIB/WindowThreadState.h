@@ -1,7 +1,6 @@
 // What the window layer keeps for each thread.
 #pragma once
 
-#include <cstddef>
 #include <cstdint>
 
 #include "DriverLIB/CThreadVar.h"

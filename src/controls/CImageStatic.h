@@ -1,5 +1,5 @@
 // A static control that shows a picture of the library: a bitmap with an alpha mask, or with a colour that is
-// transparent. The picture keeps its size, scaled to the window's dpi.
+// transparent. The picture keeps its size, scaled to the window's dpi; behind it is the page's own ground.
 #pragma once
 
 #include "controls/ImagePlacement.h"
@@ -14,8 +14,10 @@ class CImageStatic : public CSubclassed<CStatic> {
   // Shows bitmap `bitmapId` in place of an earlier picture. With a mask its brightness is the alpha of each pixel;
   // otherwise the pixels of `transparentColor` are left out. False when there is no such bitmap: then nothing is shown.
   bool SetImage(UINT bitmapId, COLORREF transparentColor, UINT maskId = 0);
+  // By default the picture is centred. The margin is one at 96 dpi.
   void SetAlignment(uint32_t flags, int margin);
   bool IsLoaded() const { return loaded_; }
+  // In client coordinates.
   const IntRect& TargetRect() const { return target_; }
 
  protected:
@@ -23,13 +25,14 @@ class CImageStatic : public CSubclassed<CStatic> {
 
  private:
   void DropImage();
+  bool LoadAlphaImage(UINT bitmapId, UINT maskId);
   bool LoadImageList(UINT bitmapId, COLORREF transparentColor);
   void UpdateTarget();
-  void Paint() const;
+  void Draw(HDC dc) const;
 
-  AlphaImage alphaImage_;  // with a mask
-  ImageList images_;       // without
-  int width_ = 0, height_ = 0;
+  AlphaImage alphaImage_;       // with a mask
+  ImageList images_;            // without one
+  int width_ = 0, height_ = 0;  // at the window's dpi
   IntRect target_;
   uint32_t alignment_ = kAlignMiddle | kAlignCenter;
   int margin_ = 0;

@@ -2,6 +2,9 @@
 
 #include <algorithm>
 
+#include "controls/LabelText.h"
+#include "window/CAccessibleObject.h"
+
 int CIntScrollBar::PositionAfter(int code, int given) const {
   const int position = Position();
   switch (code) {
@@ -23,6 +26,18 @@ int CIntScrollBar::PositionAfter(int code, int given) const {
     default:
       return position;
   }
+}
+
+bool CIntScrollBar::OnWindowMessage(WindowMessage& message) { return accessibility_.OnMessage(*this, message); }
+
+CUString CIntScrollBar::PartName(int) const { return LabelBefore(*this); }
+
+int CIntScrollBar::PartRole(int) const { return ROLE_SYSTEM_SCROLLBAR; }
+
+CUString CIntScrollBar::PartValue(int) const {
+  CUString value;
+  value.Format(L"%d", Position());
+  return value;
 }
 
 bool CIntScrollBar::OnReflected(WindowMessage& message) {

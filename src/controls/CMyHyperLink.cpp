@@ -1,43 +1,78 @@
 #include "controls/CMyHyperLink.h"
 
+// behind Windows.h
+#include <oleacc.h>
+
+#include "controls/BufferedPainting.h"
+#include "controls/LabelText.h"
+#include "controls/PageGround.h"
+#include "DriverLIB/MessageText.h"
 #include "environment/Shell.h"
+#include "MessageIds.h"
 
 namespace {
-
-constexpr COLORREF kHoverColor = 0x0000FF;
-constexpr COLORREF kLinkColor = 0xFF0000;
-constexpr COLORREF kVisitedColor = 0x8F2205;
 
 HCURSOR LinkCursor() {
   const HCURSOR hand = ::LoadCursorW(nullptr, IDC_HAND);
   return hand ? hand : ::LoadCursorW(nullptr, IDC_ARROW);
 }
 
+// A held key goes on sending WM_KEYDOWN.
+bool IsRepeated(LPARAM keyData) { return (HIWORD(keyData) & KF_REPEAT) != 0; }
+
+bool IsFollowKey(WPARAM key) { return key == VK_RETURN || key == VK_SPACE; }
+
+// The dialog must not take it: neither the key for its default button, nor the character for an access key.
+bool IsFollowMessage(const MSG* message) {
+  return message && (message->message == WM_KEYDOWN || message->message == WM_CHAR) && IsFollowKey(message->wParam);
+}
+
+void DrawFocus(HDC dc, const RECT& rect) {
+  ::SetTextColor(dc, RGB(0, 0, 0));
+  ::SetBkColor(dc, RGB(255, 255, 255));
+  ::DrawFocusRect(dc, &rect);
+}
+
 }  // namespace
+
+CMyHyperLink::~CMyHyperLink() {
+  // The control may live on, our font does not. Nothing is drawn: the page is coming to its end as well.
+  const CWnd control(Handle());
+  Detach();
+  control.Send(WM_SETFONT, reinterpret_cast<WPARAM>(baseFont_), FALSE);
+}
 
 void CMyHyperLink::OnAttached() {
   ChangeStyle(0, SS_NOTIFY);
-  linkFont_ = DeriveFont(Font(), [](LOGFONTW& font) { font.lfUnderline = TRUE; });
-  SetFont(linkFont_.Get());
+  cursor_ = LinkCursor();
+  SetFont(Font());
 }
 
-COLORREF CMyHyperLink::CurrentColor() const {
-  if (IsHighContrast()) return ::GetSysColor(COLOR_HOTLIGHT);
-  if (visited_) return kVisitedColor;
-  return hover_ ? kHoverColor : kLinkColor;
-}
+// --- Following -------------------------------------------------------------------------------------------------------
 
 void CMyHyperLink::Follow() {
   // The page may open a box or another page: nothing may hold the mouse then.
   if (::GetCapture() == Handle()) ::ReleaseCapture();
   const HWND control = Handle();
-  if (notifyParent_)
+  if (notifyParent_) {
     Parent().Send(kLinkClickedMessage, static_cast<WPARAM>(Id()));
-  else
-    OpenWithShell(::GetAncestor(control, GA_ROOT), url_.Text(), SW_SHOWMINIMIZED);
-  if (!::IsWindow(control)) return;
-  if (markVisited_) visited_ = true;
+  } else if (const CUString url = url_; !url.IsEmpty()) {
+    OpenWithShell(::GetAncestor(control, GA_ROOT), url.Text(), SW_SHOWMINIMIZED);
+  }
+  if (FromHandle(control) != this) return;  // what was opened has ended us
+  if (markVisited_) {
+    visited_ = true;
+    NotifyAccessibleEvent(EVENT_OBJECT_STATECHANGE, control, kSelf);
+  }
   Invalidate();
+}
+
+// --- Mouse -----------------------------------------------------------------------------------------------------------
+
+bool CMyHyperLink::IsOver(LPARAM point) const {
+  const RECT client = ClientRect();
+  // A page that is left by keyboard hides the link while it has the mouse.
+  return ::IsWindowVisible(Handle()) && ::PtInRect(&client, {GET_X_LPARAM(point), GET_Y_LPARAM(point)});
 }
 
 void CMyHyperLink::SetHover(bool hover) {
@@ -46,59 +81,47 @@ void CMyHyperLink::SetHover(bool hover) {
   Invalidate();
 }
 
-void CMyHyperLink::OnMouseMove(POINT point) {
-  const RECT client = ClientRect();
-  const bool inside = ::PtInRect(&client, point);
-  SetHover(inside);
-  if (inside && ::GetCapture() != Handle())
-    ::SetCapture(Handle());
-  else if (!inside && ::GetCapture() == Handle())
-    ::ReleaseCapture();
-}
-
-bool CMyHyperLink::IsFollowKey(const MSG* key) const {
-  return key && key->message == WM_KEYDOWN && (key->wParam == VK_RETURN || key->wParam == VK_SPACE);
-}
-
-bool CMyHyperLink::OnWindowMessage(WindowMessage& message) {
-  switch (message.message) {
-    case WM_MOUSEMOVE:
-      OnMouseMove({GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)});
-      return false;
-    case WM_CAPTURECHANGED:
-      if (reinterpret_cast<HWND>(message.lParam) != Handle()) SetHover(false);
-      return false;
-    case WM_SETCURSOR:
-      ::SetCursor(LinkCursor());
-      message.result = TRUE;
-      return true;
-    case WM_GETDLGCODE:
-      message.result = DefaultHandling(message);
-      if (IsFollowKey(reinterpret_cast<const MSG*>(message.lParam))) message.result |= DLGC_WANTMESSAGE;
-      return true;
-    case WM_KEYDOWN:
-      if (message.wParam != VK_RETURN && message.wParam != VK_SPACE) return false;
-      Follow();
-      return true;
-    case WM_SETFOCUS:
-    case WM_KILLFOCUS:
-    case WM_UPDATEUISTATE:
-      Invalidate();
-      return false;
-    case WM_PAINT:
-      message.result = DefaultHandling(message);
-      DrawFocus();
-      return true;
-    default:
-      return false;
+void CMyHyperLink::OnMouseMove(LPARAM point) {
+  if (!IsOver(point)) {
+    OnMouseGone();
+    return;
   }
+  if (::GetCapture() != Handle()) {
+    ::SetCapture(Handle());
+    // A capture without a pressed button ends at another program's window, and nobody tells.
+    TRACKMOUSEEVENT leaving{sizeof leaving, TME_LEAVE, Handle(), 0};
+    ::TrackMouseEvent(&leaving);
+  }
+  ::SetCursor(cursor_);  // a window that has captured the mouse is not asked for it
+  SetHover(true);
 }
 
-void CMyHyperLink::DrawFocus() const {
-  if (!HasFocus() || (Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS)) return;
-  const WindowDC dc(Handle());
-  const RECT client = ClientRect();
-  ::DrawFocusRect(dc, &client);
+void CMyHyperLink::OnMouseGone() {
+  SetHover(false);
+  if (::GetCapture() == Handle()) ::ReleaseCapture();
+}
+
+// --- Drawing
+// -----------------------------------------------------------------------------------------------------------
+
+COLORREF CMyHyperLink::Color() const {
+  return IsHighContrast() ? ::GetSysColor(COLOR_HOTLIGHT) : LinkColor(hover_, visited_);
+}
+
+// The message brings the font of the dialog; the control gets the same with a line below.
+void CMyHyperLink::SetLinkFont(WindowMessage& message) {
+  baseFont_ = reinterpret_cast<HFONT>(message.wParam);
+  GdiFont font = DeriveFont(baseFont_, [](LOGFONTW& description) { description.lfUnderline = TRUE; });
+  if (font) message.wParam = reinterpret_cast<WPARAM>(font.Get());
+  message.result = DefaultHandling(message);
+  linkFont_ = std::move(font);
+}
+
+// The static text is drawn by the control itself, which knows its styles; it asks for the colours by way of the parent.
+void CMyHyperLink::Draw(HDC dc) {
+  DrawPageGround(*this, dc);
+  DefaultHandling({Handle(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT});
+  if (HasFocus() && !(Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS)) DrawFocus(dc, ClientRect());
 }
 
 bool CMyHyperLink::OnReflected(WindowMessage& message) {
@@ -108,8 +131,81 @@ bool CMyHyperLink::OnReflected(WindowMessage& message) {
   }
   if (message.message != WM_CTLCOLORSTATIC) return false;
   const auto dc = reinterpret_cast<HDC>(message.wParam);
-  ::SetTextColor(dc, CurrentColor());
+  ::SetTextColor(dc, Color());
   ::SetBkMode(dc, TRANSPARENT);
   message.result = reinterpret_cast<LRESULT>(::GetStockObject(HOLLOW_BRUSH));
   return true;
 }
+
+// --- Messages
+// ----------------------------------------------------------------------------------------------------------
+
+bool CMyHyperLink::OnWindowMessage(WindowMessage& message) {
+  if (accessibility_.OnMessage(*this, message)) return true;
+  switch (message.message) {
+    case WM_MOUSEMOVE:
+      OnMouseMove(message.lParam);
+      return false;
+    case WM_MOUSELEAVE:
+      OnMouseGone();
+      return false;
+    case WM_CAPTURECHANGED:
+      if (reinterpret_cast<HWND>(message.lParam) != Handle()) SetHover(false);
+      return false;
+    case WM_LBUTTONDOWN:
+      if (IsOver(message.lParam)) return false;  // the control makes a click of it
+      OnMouseGone();
+      return true;
+    case WM_SETCURSOR:
+      ::SetCursor(cursor_);
+      message.result = TRUE;
+      return true;
+    case WM_GETDLGCODE:
+      // No mere text: an access key in it leads here.
+      message.result = DefaultHandling(message) & ~DLGC_STATIC;
+      if (IsFollowMessage(reinterpret_cast<const MSG*>(message.lParam))) message.result |= DLGC_WANTMESSAGE;
+      return true;
+    case WM_KEYDOWN:
+      if (!IsFollowKey(message.wParam)) return false;
+      if (!IsRepeated(message.lParam)) Follow();
+      return true;
+    case WM_SETFOCUS:
+    case WM_KILLFOCUS:
+    case WM_UPDATEUISTATE:
+      Invalidate();
+      return false;
+    case WM_SETFONT:
+      SetLinkFont(message);
+      Invalidate();
+      return true;
+    case WM_ENABLE:
+    case WM_SETTEXT:
+      message.result = DefaultHandling(message);  // draws over what is there
+      Invalidate();
+      return true;
+    case WM_ERASEBKGND:
+      message.result = TRUE;
+      return true;
+    case WM_PAINT:
+    case WM_PRINTCLIENT:
+      PaintBuffered(message, [this](HDC dc) { Draw(dc); });
+      return true;
+    default:
+      return false;
+  }
+}
+
+// --- Screen readers
+// ----------------------------------------------------------------------------------------------------
+
+CUString CMyHyperLink::PartName(int) const { return Style() & SS_NOPREFIX ? Text() : WithoutMarks(Text()); }
+
+int CMyHyperLink::PartRole(int) const { return ROLE_SYSTEM_LINK; }
+
+int CMyHyperLink::PartState(int) const {
+  return STATE_SYSTEM_LINKED | (hover_ ? STATE_SYSTEM_HOTTRACKED : 0) | (visited_ ? STATE_SYSTEM_TRAVERSED : 0);
+}
+
+CUString CMyHyperLink::PartValue(int) const { return notifyParent_ ? CUString() : url_; }
+
+CUString CMyHyperLink::PartAction(int) const { return MessageText(MSG_LINK_ACTION); }

@@ -2,12 +2,19 @@
 // WS_TABSTOP in the template) and followed by Enter and Space.
 #pragma once
 
+#include "controls/LinkColors.h"
+#include "window/CAccessibility.h"
 #include "window/CSubclassedControl.h"
 #include "window/Gdi.h"
 
-class CMyHyperLink : public CSubclassed<CStatic> {
+// Sent to the parent; the first argument is the link's control id. Pages answer it by opening the help. It goes to the
+// parent only: to a property sheet the same number means another thing.
+constexpr UINT kLinkClickedMessage = 0x465;
+
+class CMyHyperLink : public CSubclassed<CStatic>, private CAccessibleSource {
  public:
   explicit CMyHyperLink(bool markVisited = false) : markVisited_(markVisited) {}
+  ~CMyHyperLink() override;
 
   // The address to open.
   void SetUrl(const wchar_t* url) { url_ = url; }
@@ -18,29 +25,43 @@ class CMyHyperLink : public CSubclassed<CStatic> {
   // Links have no tool tip.
   void SetToolTip(const wchar_t*) {}
 
-  // What a click does.
+  // What a click does. It may end the link, and its object.
   void Follow();
 
  protected:
   void OnAttached() override;
+  void OnDestroyed() override { accessibility_.Disconnect(); }
   bool OnWindowMessage(WindowMessage& message) override;
   bool OnReflected(WindowMessage& message) override;
 
  private:
-  COLORREF CurrentColor() const;
-  void OnMouseMove(POINT point);
+  COLORREF Color() const;
+  void Draw(HDC dc);
+  void SetLinkFont(WindowMessage& message);
+
+  bool IsOver(LPARAM point) const;
+  void OnMouseMove(LPARAM point);
+  void OnMouseGone();
   void SetHover(bool hover);
-  void DrawFocus() const;
-  bool IsFollowKey(const MSG* key) const;
+
+  HWND AccessibleWindow() const override { return Handle(); }
+  CUString PartName(int) const override;
+  int PartRole(int) const override;
+  int PartState(int) const override;
+  CUString PartValue(int) const override;
+  RECT PartRect(int) const override { return ClientRect(); }
+  CUString PartAction(int) const override;
+  bool HasPartAction(int) const override { return true; }
+  void DoPartAction(int) override { Follow(); }
 
   CUString url_;
   GdiFont linkFont_;
+  HFONT baseFont_ = nullptr;  // the control's own, without the line
+  HCURSOR cursor_ = nullptr;
   bool notifyParent_ = false;
   bool underline_ = false;
   bool hover_ = false;
   bool visited_ = false;
   const bool markVisited_;
+  CAccessibility accessibility_;
 };
-
-// Sent to the parent; the first argument is the link's control id. Pages answer it by opening the help.
-constexpr UINT kLinkClickedMessage = 0x465;

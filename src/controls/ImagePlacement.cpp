@@ -3,13 +3,14 @@
 #include <algorithm>
 
 IntRect PlaceImage(int imageWidth, int imageHeight, const IntRect& client, uint32_t flags, int margin) {
-  int left = client.left + margin;
-  int top = client.top + margin;
-  if (flags & kAlignRight) left = client.right - margin - imageWidth;
-  if ((flags & kAlignMiddle) && client.Height() > imageHeight)
-    top = client.top + (client.Height() - imageHeight) / 2;
+  const int spareWidth = client.Width() - imageWidth, spareHeight = client.Height() - imageHeight;
+  int x = margin, y = margin;
+  if (flags & kAlignRight) x = spareWidth - margin;
+  if ((flags & kAlignMiddle) && spareHeight >= 0)
+    y = spareHeight / 2;
   else if (flags & kAlignBottom)
-    top = std::max(client.bottom - margin - imageHeight, client.top + margin);
-  if ((flags & kAlignCenter) && client.Width() > imageWidth) left = client.left + (client.Width() - imageWidth) / 2;
+    y = std::max(spareHeight, margin);
+  if ((flags & kAlignCenter) && spareWidth >= 0) x = spareWidth / 2;
+  const int left = client.left + x, top = client.top + y;
   return {left, top, left + imageWidth, top + imageHeight};
 }

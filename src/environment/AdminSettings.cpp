@@ -4,8 +4,8 @@
 
 #define NEMPDF_ADMIN_KEY(key, type) {L## #key, AdminEntry::type, AdminField(&AdminSettings::key)},
 
-// The search order of the keys is older than the order of the record, and FontsAntialiasing_Override stands in it
-// twice.
+// The keys are searched in another order than their fields stand in: the document's author, subject, keywords and title
+// here, and FontsAntialiasing_Override, which has two rows, around ComparableMode_Override.
 const AdminKey kAdminKeys[] = {
     NEMPDF_ADMIN_ACTIONS(NEMPDF_ADMIN_KEY)       //
     NEMPDF_ADMIN_TIFF(NEMPDF_ADMIN_KEY)          //

@@ -1,7 +1,7 @@
 // The administrator's overrides: what the configuration files beside the printer driver say.
 //
-// An override fixes a setting for all users of a printer. Its key is the name of the property with "_Override" behind
-// it; DisableManualUpdate is the one that fixes no property. A field carries the name of its key.
+// An override fixes a setting for all users of a printer. Most keys are named after a property, with "_Override" behind
+// its name; the others have names of their own. A field carries the name of its key.
 //
 // An override that is not set holds a value of its own, by the type of its key: 255 for a boolean, -1 for a number,
 // nothing for a text.
@@ -19,52 +19,93 @@ constexpr int32_t kUnsetNumber = -1;  // 0xFFFFFFFF to those who look at it as a
 
 // All overrides as rows (key, type), in runs: the record and the key table take four of the runs in the same order and
 // differ in what stands between them (below, and in AdminSettings.cpp).
-#define NEMPDF_ADMIN_ACTIONS(row)                                                                                   \
-  row(StartActionViewerCheck_Override, Boolean) row(StartActionMailCheck_Override, Boolean)                         \
-      row(MailRecipient_Override, Text) row(MailSubject_Override, Text) row(MailNoteText_Override, Text)            \
-          row(MailSendImmediate_Override, Boolean) row(StartActionProgramCheck_Override, Boolean)                   \
-              row(StartActionProgram_Override, Text) row(StartActionProgramParameters_Override, Text)               \
-                  row(StartActionProgramBeforeCheck_Override, Boolean) row(StartActionProgramBefore_Override, Text) \
-                      row(StartActionProgramParametersBefore_Override, Text)
 
-#define NEMPDF_ADMIN_TIFF(row) row(TiffResolution_Override, Number)
+// clang-format off
 
-#define NEMPDF_ADMIN_AUTHOR(row) row(Author_Override, Text)
-#define NEMPDF_ADMIN_TITLE(row) row(Title_Override, Text)
-#define NEMPDF_ADMIN_KEYWORDS(row) row(Keywords_Override, Text)
-#define NEMPDF_ADMIN_SUBJECT(row) row(Subject_Override, Text)
+#define NEMPDF_ADMIN_ACTIONS(row)                        \
+  row(StartActionViewerCheck_Override, Boolean)          \
+  row(StartActionMailCheck_Override, Boolean)            \
+  row(MailRecipient_Override, Text)                      \
+  row(MailSubject_Override, Text)                        \
+  row(MailNoteText_Override, Text)                       \
+  row(MailSendImmediate_Override, Boolean)               \
+  row(StartActionProgramCheck_Override, Boolean)         \
+  row(StartActionProgram_Override, Text)                 \
+  row(StartActionProgramParameters_Override, Text)       \
+  row(StartActionProgramBeforeCheck_Override, Boolean)   \
+  row(StartActionProgramBefore_Override, Text)           \
+  row(StartActionProgramParametersBefore_Override, Text)
 
-#define NEMPDF_ADMIN_PICTURES(row)                                                     \
-  row(WatermarkAsBackground_Override, Boolean) row(WatermarkEnabled_Override, Boolean) \
-      row(WatermarkFilename_Override, Text) row(TiffCompressMethod_Override, Number)   \
-          row(TiffColorDepth_Override, Number) row(TiffJpegQuality_Override, Number)   \
-              row(TiffStripSize_Override, Number)
+#define NEMPDF_ADMIN_TIFF(row)         \
+  row(TiffResolution_Override, Number)
 
-#define NEMPDF_ADMIN_COMPARABLE(row) row(ComparableMode_Override, Boolean)
-#define NEMPDF_ADMIN_ANTIALIASING(row) row(FontsAntialiasing_Override, Number)
+#define NEMPDF_ADMIN_AUTHOR(row) \
+  row(Author_Override, Text)
 
-#define NEMPDF_ADMIN_DOCUMENT(row)                                                                                     \
-  row(SaveAction_Override, Number) row(DestinationDirectoryOrFilename_Override, Text)                                  \
-      row(FileExistsAction_Override, Number) row(TiffSinglePage_Override, Boolean) row(Settings_Override, Number)      \
-          row(EncryptEnableAssembling_Override, Boolean) row(EncryptEnableClipboard_Override, Boolean) row(            \
-              EncryptEnableExtract_Override, Boolean) row(EncryptEnableForms_Override, Boolean)                        \
-              row(EncryptEnableModifying_Override, Boolean) row(EncryptEnableNotes_Override, Boolean) row(             \
-                  EncryptEnablePrinting_Override, Boolean) row(EncryptOwnerPassword_Override, Text)                    \
-                  row(EncryptUserPassword_Override, Text) row(EncryptUserPasswordEnabled_Override, Boolean) row(       \
-                      EncryptOwnerPasswordEnabled_Override, Boolean) row(EncryptPasswordsConfirmed_Override, Boolean)  \
-                      row(FontsEmbedded_Override, Number) row(FontsIsEmbeddedOrNoEmbeddedList_Override, Boolean)       \
-                          row(FontsEmbeddedOrNoEmbeddedList_Override, Text) row(GraphicResolution_Override, Number)    \
-                              row(GraphicJpegQuality_Override, Number) row(GraphicCompressMethod_Override, Number)     \
-                                  row(GraphicColorReduction_Override, Boolean) row(Colorspace_Override, Number)        \
-                                      row(PdfVersion_Override, Number) row(PdfAEnabled_Override, Boolean)              \
-                                          row(StationeryEnabled_Override, Boolean) row(StationeryInfos_Override, Text) \
-                                              row(StationerySelected_Override, Number)                                 \
-                                                  row(StationeryAsForeground_Override, Boolean) row(                   \
-                                                      UpdateType_Override, Number) row(DisableManualUpdate, Boolean)   \
-                                                      row(ZUGFeRD_Override, Boolean)                                   \
-                                                          row(ZUGFeRDCreationMethod_Override, Number)                  \
-                                                              row(ZUGFeRDDeleteAfterEmbedding_Override, Boolean)       \
-                                                                  row(ZUGFeRDXml_Override, Text)
+#define NEMPDF_ADMIN_TITLE(row) \
+  row(Title_Override, Text)
+
+#define NEMPDF_ADMIN_KEYWORDS(row) \
+  row(Keywords_Override, Text)
+
+#define NEMPDF_ADMIN_SUBJECT(row) \
+  row(Subject_Override, Text)
+
+#define NEMPDF_ADMIN_PICTURES(row)             \
+  row(WatermarkAsBackground_Override, Boolean) \
+  row(WatermarkEnabled_Override, Boolean)      \
+  row(WatermarkFilename_Override, Text)        \
+  row(TiffCompressMethod_Override, Number)     \
+  row(TiffColorDepth_Override, Number)         \
+  row(TiffJpegQuality_Override, Number)        \
+  row(TiffStripSize_Override, Number)
+
+#define NEMPDF_ADMIN_COMPARABLE(row)    \
+  row(ComparableMode_Override, Boolean)
+
+#define NEMPDF_ADMIN_ANTIALIASING(row)    \
+  row(FontsAntialiasing_Override, Number)
+
+#define NEMPDF_ADMIN_DOCUMENT(row)                       \
+  row(SaveAction_Override, Number)                       \
+  row(DestinationDirectoryOrFilename_Override, Text)     \
+  row(FileExistsAction_Override, Number)                 \
+  row(TiffSinglePage_Override, Boolean)                  \
+  row(Settings_Override, Number)                         \
+  row(EncryptEnableAssembling_Override, Boolean)         \
+  row(EncryptEnableClipboard_Override, Boolean)          \
+  row(EncryptEnableExtract_Override, Boolean)            \
+  row(EncryptEnableForms_Override, Boolean)              \
+  row(EncryptEnableModifying_Override, Boolean)          \
+  row(EncryptEnableNotes_Override, Boolean)              \
+  row(EncryptEnablePrinting_Override, Boolean)           \
+  row(EncryptOwnerPassword_Override, Text)               \
+  row(EncryptUserPassword_Override, Text)                \
+  row(EncryptUserPasswordEnabled_Override, Boolean)      \
+  row(EncryptOwnerPasswordEnabled_Override, Boolean)     \
+  row(EncryptPasswordsConfirmed_Override, Boolean)       \
+  row(FontsEmbedded_Override, Number)                    \
+  row(FontsIsEmbeddedOrNoEmbeddedList_Override, Boolean) \
+  row(FontsEmbeddedOrNoEmbeddedList_Override, Text)      \
+  row(GraphicResolution_Override, Number)                \
+  row(GraphicJpegQuality_Override, Number)               \
+  row(GraphicCompressMethod_Override, Number)            \
+  row(GraphicColorReduction_Override, Boolean)           \
+  row(Colorspace_Override, Number)                       \
+  row(PdfVersion_Override, Number)                       \
+  row(PdfAEnabled_Override, Boolean)                     \
+  row(StationeryEnabled_Override, Boolean)               \
+  row(StationeryInfos_Override, Text)                    \
+  row(StationerySelected_Override, Number)               \
+  row(StationeryAsForeground_Override, Boolean)          \
+  row(UpdateType_Override, Number)                       \
+  row(DisableManualUpdate, Boolean)                      \
+  row(ZUGFeRD_Override, Boolean)                         \
+  row(ZUGFeRDCreationMethod_Override, Number)            \
+  row(ZUGFeRDDeleteAfterEmbedding_Override, Boolean)     \
+  row(ZUGFeRDXml_Override, Text)
+
+// clang-format on
 
 // The record: 63 fields.
 #define NEMPDF_ADMIN_RECORD(row) \
@@ -87,7 +128,7 @@ constexpr int32_t kUnsetNumber = -1;  // 0xFFFFFFFF to those who look at it as a
 struct AdminSettings {
   AdminSettings() = default;
   AdminSettings(const AdminSettings&) = default;
-  AdminSettings& operator=(const AdminSettings&) = default;
+  AdminSettings& operator=(const AdminSettings&) = delete;  // would give passwords back to the heap unwiped
   // Wipes the texts that hold passwords.
   ~AdminSettings();
 

@@ -1,16 +1,28 @@
 #include "environment/Shell.h"
 
-#include <shellapi.h>
+#include "DriverLIB/SystemFunction.h"
 
 namespace {
+
 constexpr INT_PTR kFirstShellSuccess = 32;  // smaller results are errors
+
+template <class Function>
+Function* ShellFunction(const char* name) {
+  return SystemFunction<Function>(L"shell32.dll", name);  // what was opened may still use the library: it stays
 }
 
+}  // namespace
+
 bool OpenWithShell(HWND owner, const wchar_t* target, int show) {
-  // The library stays loaded: what it opened may still use it.
-  static const HMODULE shell = ::LoadLibraryExW(L"shell32.dll", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-  static const auto execute = reinterpret_cast<decltype(&::ShellExecuteW)>(
-      reinterpret_cast<void*>(shell ? ::GetProcAddress(shell, "ShellExecuteW") : nullptr));
+  static const auto execute = ShellFunction<decltype(::ShellExecuteW)>("ShellExecuteW");
   if (!execute) return false;
   return reinterpret_cast<INT_PTR>(execute(owner, L"open", target, nullptr, nullptr, show)) >= kFirstShellSuccess;
+}
+
+bool ExecuteShell(SHELLEXECUTEINFOW& info) {
+  if (const auto executeEx = ShellFunction<decltype(::ShellExecuteExW)>("ShellExecuteExW")) return executeEx(&info);
+  const auto execute = ShellFunction<decltype(::ShellExecuteW)>("ShellExecuteW");
+  if (!execute) return false;
+  const HINSTANCE result = execute(nullptr, L"open", info.lpFile, info.lpParameters, info.lpDirectory, SW_HIDE);
+  return reinterpret_cast<INT_PTR>(result) > kFirstShellSuccess;
 }

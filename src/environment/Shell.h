@@ -2,7 +2,13 @@
 #pragma once
 
 #include <windows.h>
+// behind windows.h
+#include <shellapi.h>
 
 // Opens a file or an address with the program that is registered for it. `show` is the window state that the program
 // is asked for. False when the shell refuses, or when there is none.
 bool OpenWithShell(HWND owner, const wchar_t* target, int show);
+
+// ShellExecuteExW. On a shell without it the file, parameters and directory of `info` are opened without a window and
+// without a process handle.
+bool ExecuteShell(SHELLEXECUTEINFOW& info);

@@ -13,8 +13,26 @@ constexpr MessageRow kMessages[] = {
     OnMessage<&CNemUIPage::ShowHelpForControl>(kShowHelpForControlMessage),
 };
 
+bool IsDialog(const CWnd& window) {
+  return ::GetClassLongPtrW(window.Handle(), GCW_ATOM) == reinterpret_cast<ULONG_PTR>(WC_DIALOG);
+}
+
 void TellInvalidData(HWND owner, const wchar_t* title) {
   MsgBoxById(owner, title, MSG_INVALID_DATA, MB_OK | MB_ICONERROR);
+}
+
+// The net under both exchanges: what is thrown in one is traced and told the user, and the exchange has failed.
+template <class Exchange>
+bool RunInNet(const char* place, Exchange exchange) {
+  try {
+    return exchange();
+  } catch (NEMPrintMemoryException* exception) {
+    delete exception;
+  } catch (...) {
+  }
+  TraceError("%hs: caught throwed exception", place);
+  TellInvalidData(::GetActiveWindow(), nullptr);
+  return false;
 }
 
 }  // namespace
@@ -23,16 +41,14 @@ CNemUIPage::CNemUIPage(const PageDescription& description)
     : CPropertyPage(description.templateId), description_(description), title_(MessageText(description.titleId)) {}
 
 bool CNemUIPage::UpdateDataSuper(bool save) {
-  try {
+  return RunInNet("NemUIPage::UpdateDataSuper", [&] {
     CDataExchange exchange(*this, save);
     return ExchangeProperties(exchange);
-  } catch (NEMPrintMemoryException* exception) {
-    delete exception;
-  } catch (...) {
-  }
-  TraceError("%hs: caught throwed exception", "NemUIPage::UpdateDataSuper");
-  TellInvalidData(::GetActiveWindow(), nullptr);
-  return false;
+  });
+}
+
+bool CNemUIPage::SaveControls() {
+  return RunInNet("NemUIPage::UpdateData", [&] { return UpdateData(true); });
 }
 
 BOOL CNemUIPage::OnInitDialog() {
@@ -55,14 +71,14 @@ bool CNemUIPage::OnSetActive() {
 }
 
 bool CNemUIPage::OnKillActive() {
-  if (UpdateData(true)) return true;
+  if (SaveControls()) return true;
   TraceInfo("UpdateData failed during page deactivation\n");
   return false;
 }
 
 bool CNemUIPage::OnApply() {
   const unsigned boxesBefore = MessageBoxCount();
-  if (UpdateData(true) && UpdateDataSuper(true)) return true;
+  if (SaveControls() && UpdateDataSuper(true)) return true;
   // One failure, one box: whoever has spoken already silences this one.
   if (MessageBoxCount() == boxesBefore) TellInvalidData(window_, GetMsgBoxTitle().Text());
   return false;
@@ -80,10 +96,17 @@ LRESULT CNemUIPage::ShowHelpForControl(WPARAM controlId, LPARAM) {
 
 bool CNemUIPage::OnWindowMessage(WindowMessage& message) {
   if (DispatchMessages(kMessages, *this, message)) return true;
-  // Esc in a multi-line edit closes the dialog that holds it: here it means the sheet's Cancel.
-  if (message.message == WM_CLOSE) {
-    CWnd(::GetAncestor(window_, GA_ROOT)).Post(PSM_PRESSBUTTON, PSBTN_CANCEL);
-    return true;
+  switch (message.message) {
+    case WM_CLOSE:
+      // Esc in a multi-line edit closes the dialog that holds it: here it means the sheet's Cancel.
+      CWnd(::GetAncestor(window_, GA_ROOT)).Post(PSM_PRESSBUTTON, PSBTN_CANCEL);
+      return true;
+    case WM_NEXTDLGCTL:
+      // Tab in a multi-line edit asks the dialog that holds it, but leads on through the whole sheet.
+      if (!IsDialog(Parent())) return CPropertyPage::OnWindowMessage(message);
+      message.result = Parent().Send(message.message, message.wParam, message.lParam);
+      return true;
+    default:
+      return CPropertyPage::OnWindowMessage(message);
   }
-  return CPropertyPage::OnWindowMessage(message);
 }

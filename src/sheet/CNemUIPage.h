@@ -32,6 +32,7 @@ class CNemUIPage : public CPropertyPage {
   virtual void WriteProperties() {}
 
   bool OnSetActive() override;
+  // Both bring the controls into the members first. No exception of that leaves them either.
   bool OnKillActive() override;
   bool OnApply() override;
   bool OnHelpInfo(const HELPINFO& help) override;
@@ -51,6 +52,8 @@ class CNemUIPage : public CPropertyPage {
   void SetLoaded() { loaded_ = true; }
 
  private:
+  bool SaveControls();
+
   const PageDescription description_;
   const CUString title_;
   bool loaded_ = false;

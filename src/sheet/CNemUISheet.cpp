@@ -1,6 +1,8 @@
 #include "sheet/CNemUISheet.h"
 
 #include "DriverLIB/MessageText.h"
+#include "environment/CPrinterHandle.h"
+#include "environment/ReadAdminSettings.h"
 #include "MessageIds.h"
 #include "resources/ResourceIds.h"
 #include "window/CenterWindow.h"
@@ -47,9 +49,12 @@ BOOL CNemUISheet::OnInitDialog(WindowMessage& message) {
   return result;
 }
 
-// The files that lie beside the driver of GetPrinterName() are read here, into properties_.adminSettings. Nothing
-// reads them yet: no value is fixed.
-void CNemUISheet::ReadAdministratorSettings() {}
+// With no printer the record keeps its initial values, and nothing is fixed.
+void CNemUISheet::ReadAdministratorSettings() {
+  const CUString printerName = GetPrinterName();
+  const CPrinterHandle printer(printerName.Text());
+  if (printer) ReadAdminSettings(printer.Get(), GetAdminSettings(), printerName);
+}
 
 bool CNemUISheet::OnTabChanging() {
   CNemUIGlobalSettingsPage* host = CurrentHost();

@@ -78,9 +78,10 @@ bool COutlook2Ctrl::ClickEntry(int folder, int group, int entry) {
   if (!clicked) return false;
   // Both questions go to the owner, who may end the bar and its object: nothing of it may be touched then.
   const HWND window = Handle();
+  const int commandId = clicked->commandId;
   const bool isSelected = IsSelected(*clicked);
   if (!::IsWindow(window)) return false;
-  if (!isSelected && (!SendCommand(clicked->commandId) || !::IsWindow(window))) return false;
+  if (!isSelected && (!SendCommand(commandId) || !::IsWindow(window))) return false;
   Repaint(model_.Layout().area);
   return true;
 }
@@ -244,7 +245,7 @@ bool COutlook2Ctrl::OnKeyDown(WPARAM key) {
     case VK_RETURN:
     case VK_SPACE:
       keyboard_ = targets[static_cast<size_t>(focused)];
-      Click(keyboard_);
+      Click(targets[static_cast<size_t>(focused)]);
       return true;
     default:
       return false;

@@ -158,8 +158,7 @@ void COutlook2Painter::DrawPlainEntry(const BarTarget& target, const COL2SubItem
   RECT label = rect;
   label.left += Scale(kEntryTextLeft);
   if (entry.probeBits & COL2CCmdUI::kChecked) {
-    RECT frame = rect;
-    ::DrawEdge(dc_, &frame, BDR_SUNKENOUTER, BF_RECT);
+    DrawFrame(rect, Scale(kFrame));
     ::OffsetRect(&label, Scale(kPressedOffset), Scale(kPressedOffset));
   }
   const bool hot = view_.hot == target;
@@ -198,12 +197,11 @@ void COutlook2Painter::DrawPicture(const Element& element, const RECT& box) {
                  nullptr, DI_NORMAL | DI_NOMIRROR);
 }
 
+// A mirrored surface reads from right to left by itself: DT_RTLREADING would turn that round again.
 void COutlook2Painter::DrawLabel(const CUString& text, RECT rect, HFONT font, ColorValue color) {
-  const UINT reading = view_.mirrored ? DT_RTLREADING : 0;
   const SelectScope selected(dc_, font);
   ::SetTextColor(dc_, color);
-  ::DrawTextW(dc_, text.Text(), text.Length(), &rect,
-              DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX | reading);
+  ::DrawTextW(dc_, text.Text(), text.Length(), &rect, DT_SINGLELINE | DT_VCENTER | DT_END_ELLIPSIS | DT_NOPREFIX);
 }
 
 void COutlook2Painter::Fill(const RECT& rect, ColorValue color) {

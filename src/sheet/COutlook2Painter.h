@@ -15,7 +15,6 @@ struct BarView {
   const BarColors& colors;
   const BarFonts& fonts;
   SIZE client;
-  bool mirrored;    // texts read from right to left
   BarTarget hot;    // the folder or entry under the mouse
   BarTarget focus;  // the element that shows the keyboard's focus, or none
 };

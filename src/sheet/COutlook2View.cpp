@@ -83,18 +83,14 @@ void COutlook2View::Repaint(const IntRect& rect) const {
 BarView COutlook2View::View() const {
   const RECT client = ClientRect();
   const bool showsFocus = HasFocus() && !(Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS);
-  return {model_,
-          colors_,
-          fonts_,
-          {client.right, client.bottom},
-          IsMirrored(),
-          hot_,
-          showsFocus ? FocusedElement() : BarTarget()};
+  return {model_, colors_, fonts_, {client.right, client.bottom}, hot_, showsFocus ? FocusedElement() : BarTarget()};
 }
 
 void COutlook2View::Draw(HDC dc) {
   const RECT client = ClientRect();
   model_.Arrange(client.right, client.bottom, Dpi());
+  // Children of a dialog are not told of every change of the system's colours, but they are repainted.
+  InitBarColors();
   for (const BarTarget& target : model_.EntriesOf(model_.OpenFolder())) {
     COL2SubItem& entry = *model_.Entry(target);
     if (entry.IsSeen()) Probe(entry);
@@ -138,13 +134,14 @@ bool COutlook2View::Slides() const {
 
 // The new content slides up from the bottom of the folder area.
 void COutlook2View::AnimateFolder() {
+  const std::vector<SlideStep> steps = model_.SlideSteps();
+  if (steps.empty()) return;  // a narrow or low bar
   const RECT client = ClientRect();
-  if (client.right <= Scale(BarModel::kNarrowest)) return;
   const WindowDC target(Handle());
   const MemoryDC image(target, client.right, client.bottom);
   if (!image) return;
   Draw(image);
-  for (const SlideStep& step : model_.SlideSteps()) {
+  for (const SlideStep& step : steps) {
     ::BitBlt(target, 0, step.top, client.right, step.rows, image, 0, 0, SRCCOPY);
     ::GdiFlush();
     ::Sleep(kSlideWait);

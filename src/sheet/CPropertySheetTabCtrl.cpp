@@ -1,6 +1,7 @@
 #include "sheet/CPropertySheetTabCtrl.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace {
 
@@ -26,26 +27,30 @@ int CPropertySheetTabCtrl::IndexOf(const CNemUIPage& page) const {
 }
 
 bool CPropertySheetTabCtrl::SelectPage(CNemUIPage& page) {
-  const int index = IndexOf(page);
-  if (index < 0 || &page == current_) return false;
+  if (&page == current_ || IndexOf(page) < 0) return false;
   if (current_ && !current_->OnKillActive()) return false;
-  // The page that is left may have shown a box, and the box may have outlived us.
+  // Each step may show a box, and the box may have outlived us.
   if (!IsWindow()) return false;
-  if (!page.IsWindow() && !CreateWindowOf(page)) {
+  const bool ready = (page.IsWindow() || CreateWindowOf(page)) && page.OnSetActive();
+  if (!IsWindow()) return false;
+  if (!ready) {
     if (current_) current_->OnSetActive();
     return false;
   }
-  page.OnSetActive();
-
-  CNemUIPage* left = current_;
-  const bool hadFocus = left && ::IsChild(left->Handle(), ::GetFocus());
-  current_ = &page;
-  Select(index);
-  page.Show(true);
-  // The focus goes first: a hidden window would keep it, and the keyboard with it.
-  if (hadFocus) CWnd(::GetNextDlgTabItem(page.Handle(), nullptr, FALSE)).Focus();
-  if (left) left->Show(false);
+  Show(page);
   return true;
+}
+
+void CPropertySheetTabCtrl::Show(CNemUIPage& page) {
+  CNemUIPage* left = std::exchange(current_, &page);
+  Select(IndexOf(page));
+  page.Show(true);
+  if (!left) return;
+  // The focus goes first: a hidden window would keep it, and the keyboard with it. A page without a stop leaves it to
+  // the hiding to find one.
+  if (::IsChild(left->Handle(), ::GetFocus()))
+    if (const HWND stop = ::GetNextDlgTabItem(page.Handle(), nullptr, FALSE)) ::SetFocus(stop);
+  left->Show(false);
 }
 
 bool CPropertySheetTabCtrl::CreateWindowOf(CNemUIPage& page) {

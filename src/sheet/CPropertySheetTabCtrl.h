@@ -15,8 +15,8 @@ class CPropertySheetTabCtrl : public CSubclassed<CTabCtrl> {
   // The page that is shown; null before the first selection.
   CNemUIPage* CurrentPage() const { return current_; }
 
-  // Makes one item a page, in the given font, and selects the first that can be shown. `host` is the parent of the
-  // pages' windows; they stand behind `previous` in the tab order.
+  // Makes one item a page and selects the first that can be shown. `host` is the parent of the pages' windows and has
+  // their font.
   void SetUp(const CWnd& host);
   // Leaves the current page and shows `page`. False when the current page refuses, when `page` is shown already or
   // cannot be: then everything stays as it is.
@@ -30,6 +30,7 @@ class CPropertySheetTabCtrl : public CSubclassed<CTabCtrl> {
  private:
   bool OnWindowMessage(WindowMessage& message) override;
   bool CreateWindowOf(CNemUIPage& page);
+  void Show(CNemUIPage& page);
   RECT PageArea() const;
   int IndexOf(const CNemUIPage& page) const;
 

@@ -36,5 +36,5 @@ class CPropertySet {
 
  private:
   CStr2Ptr properties_;
-  CUStringArray reserved_;  // of the design of sets; no operation fills it
+  CUStringArray reserved_;  // no operation fills it
 };

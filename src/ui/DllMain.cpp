@@ -1,6 +1,8 @@
-#include <windows.h>
+#include "window/Windows.h"
 
 #include "DriverLIB/ModuleState.h"
+#include "window/CActivationContext.h"
+#include "window/CControlBar.h"
 
 namespace {
 
@@ -12,6 +14,8 @@ void Detach(bool processEnds) {
     return;
   }
   FreeThreadState();
+  CControlBar::UnregisterWindowClass();
+  ReleaseActivationContext();
   ReleaseThreadSlots();
 }
 

@@ -4,7 +4,6 @@
 
 #include "DriverLIB/CError.h"
 #include "DriverLIB/Identity.h"
-#include "DriverLIB/MessageText.h"
 #include "DriverLIB/ModuleState.h"
 #include "NemPdfUI.h"
 #include "ui/PropertyAccess.h"
@@ -15,10 +14,6 @@ constexpr char kSource[] = "..\\NemUI";
 
 static_assert(NEMPDFUI_VERSION == kVersionNumber, "the header that hosts include is of another version");
 static_assert(NEMPDFUI_BAD_HANDLE == kBadHandle);
-
-// Every export begins with it: a thread may have come to life before the library was loaded. False if the thread
-// cannot be taken up; the export then returns 0.
-bool EnterThread() { return InitThreadState(ModuleInstance()); }
 
 int Set(NemPdfUIHandle handle, int32_t index, const void* name, bool wide, const void* value) {
   return EnterThread() ? SetProperty(handle, index, name, wide, value) : 0;
@@ -32,6 +27,7 @@ int Get(NemPdfUIHandle handle, int32_t index, const void* name, bool wide, void*
 
 int NemPdfUICreateDialog(NemPdfUIHandle* handle) {
   if (!EnterThread() || !handle) return 0;
+  *handle = nullptr;  // should the construction throw
   *handle = reinterpret_cast<NemPdfUIHandle>(new (std::nothrow) CDialogProperties);
   return 1;
 }

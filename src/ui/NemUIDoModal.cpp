@@ -1,5 +1,4 @@
 // The modal run: the host's values go into a sheet's working copy, and come back when the user has accepted them.
-#include "DriverLIB/MessageText.h"
 #include "DriverLIB/ModuleState.h"
 #include "NemPdfUI.h"
 #include "sheet/CNemUISheet.h"
@@ -30,7 +29,7 @@ HWND OwnerOf(const CDialogProperties& dialog) {
 }  // namespace
 
 int NemPdfUIDoModal(NemPdfUIHandle handle) {
-  if (!InitThreadState(ModuleInstance())) return 0;
+  if (!EnterThread()) return 0;
   CDialogProperties* dialog = DialogFromHandle(handle);
   if (!dialog) return kInvalidHandle;
   if (dialog->running) return 0;

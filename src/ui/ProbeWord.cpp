@@ -1,6 +1,6 @@
 #include "ui/ProbeWord.h"
 
-#if defined(_WIN32) && defined(__GNUC__) && defined(__x86_64__)
+#ifdef _WIN32
 
 // GCC has no __try, so the guarded read is written out: a function whose unwind data names one range, that of the
 // read, with the constant 1 (EXCEPTION_EXECUTE_HANDLER) for its filter and a label to go on at.
@@ -38,18 +38,6 @@ NemPdfProbeWord:
 extern "C" uint32_t NemPdfProbeWord(const void* address);
 
 uint32_t ProbeWord(const void* address) { return NemPdfProbeWord(address); }
-
-#elif defined(_MSC_VER)
-
-#include <excpt.h>
-
-uint32_t ProbeWord(const void* address) {
-  __try {
-    return *static_cast<const volatile uint32_t*>(address);
-  } __except (1) {
-    return 0;
-  }
-}
 
 #else
 

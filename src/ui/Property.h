@@ -92,12 +92,14 @@ class CProperty {
   // The name for a trace line.
   const wchar_t* NameForTrace() const;
 
+  // For a kind that knows them; the kinds of this library fill neither.
+  CUStringArray values_;        // allowed values as text
+  CUStringArray descriptions_;  // what they mean
+
  private:
   CUString name_;
   CPropertySet* owner_ = nullptr;
   uint32_t access_ = kPropertyAccess;
-  CUStringArray values_;        // allowed values as text
-  CUStringArray descriptions_;  // what they mean
 };
 
 // A signed 32-bit number.

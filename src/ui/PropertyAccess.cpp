@@ -74,8 +74,7 @@ bool BeginCall(CError* error) {
     ReportError(error);
     return false;
   }
-  const bool clean = error->lastCode == kErrorNone && error->detailValue == 0 && !error->detail.Buffer();
-  if (!clean) ResetError(error);
+  ResetError(error);
   return true;
 }
 

@@ -72,7 +72,7 @@
   row(ZUGFeRDMarkedContent, Text, Invoice, "On no page; comes back as it was set.")                                   \
   row(ZUGFeRDShowAfterCreation, Long, Invoice, "1 shows the invoice when it has been created.")                       \
   row(ZUGFeRDCreationMethod, Long, Invoice, "Where the invoice comes from: 0 an existing XML file, 1 content marked in the document.") \
-  row(EncryptPasswordsConfirmed, Long, Security, "1 asks the user to type changed passwords a second time. The user can change it on the tab \"Basic Settings\" only.") \
+  row(EncryptPasswordsConfirmed, Long, Security, "1 asks the user to type changed passwords a second time. One value for both tabs, that of set 0; the user can change it on the tab \"Basic Settings\" only.") \
   row(EncryptUserPasswordEnabled, Long, Security, "1 asks for a password when the document is opened. Counts beside `EncryptOwnerPasswordEnabled` only.") \
   row(EncryptUserPassword, Secret, Security, "Password for opening the document, at most 31 characters on the page.") \
   row(EncryptOwnerPasswordEnabled, Long, Security, "1 restricts what may be done with the document, and protects that by a password.") \

@@ -61,9 +61,8 @@ RECT CAccessibleObject::ScreenRect(int part) const {
     return rect;
   }
   rect = source_->PartRect(part);
-  // Two points are taken for a rectangle: in a mirrored window left stays left of right.
+  // Two points are taken for a rectangle: in a mirrored window, too, left stays left of right.
   ::MapWindowPoints(Window(), nullptr, reinterpret_cast<POINT*>(&rect), 2);
-  if (rect.left > rect.right) std::swap(rect.left, rect.right);
   return rect;
 }
 

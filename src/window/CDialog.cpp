@@ -28,6 +28,15 @@ bool AnswersDirectly(UINT message) {
   }
 }
 
+// A control tells that its contents have changed. What asks the dialog for something is none of these, and neither is
+// a command without a control.
+bool IsChangeNotification(const WindowMessage& message) {
+  if (message.message == WM_COMMAND) return message.lParam != 0;
+  if (message.message != WM_NOTIFY) return false;
+  const UINT code = message.Notify().code;
+  return code == static_cast<UINT>(LVN_ITEMCHANGING) || code == static_cast<UINT>(LVN_ITEMCHANGED);
+}
+
 // The control on whose behalf the dialog is sent this message; null when it is not of that kind.
 HWND ReflectedControl(const WindowMessage& message) {
   switch (message.message) {
@@ -80,26 +89,24 @@ INT_PTR CDialog::DoModal(HWND owner) {
   if (dialogTemplate.empty()) return -1;
   const CActivationScope look;
   modal_ = true;
-  startFailed_ = false;
-  const INT_PTR result = ::DialogBoxIndirectParamW(static_cast<HINSTANCE>(ModuleInstance()),
-                                                   reinterpret_cast<const DLGTEMPLATE*>(dialogTemplate.data()), owner,
-                                                   DialogProcedure, reinterpret_cast<LPARAM>(this));
-  modal_ = false;
-  return result;
+  // Nothing of the object is touched afterwards.
+  return ::DialogBoxIndirectParamW(
+      static_cast<HINSTANCE>(ModuleInstance()), reinterpret_cast<const DLGTEMPLATE*>(dialogTemplate.data()),
+      ::IsWindow(owner) ? owner : nullptr, DialogProcedure, reinterpret_cast<LPARAM>(this));
 }
 
 bool CDialog::Create(HWND parent) {
   const std::vector<BYTE> dialogTemplate = LoadDialogTemplate(templateId_);
   if (dialogTemplate.empty()) return false;
   const CActivationScope look;
-  startFailed_ = false;
+  modal_ = startFailed_ = false;
   creating_ = true;
-  const HWND window = ::CreateDialogIndirectParamW(static_cast<HINSTANCE>(ModuleInstance()),
-                                                   reinterpret_cast<const DLGTEMPLATE*>(dialogTemplate.data()), parent,
-                                                   DialogProcedure, reinterpret_cast<LPARAM>(this));
+  ::CreateDialogIndirectParamW(static_cast<HINSTANCE>(ModuleInstance()),
+                               reinterpret_cast<const DLGTEMPLATE*>(dialogTemplate.data()), parent, DialogProcedure,
+                               reinterpret_cast<LPARAM>(this));
   creating_ = false;
-  if (window && startFailed_) ::DestroyWindow(window);
-  return window && !startFailed_;
+  if (startFailed_) Destroy();
+  return IsWindow();
 }
 
 void CDialog::Destroy() {
@@ -123,7 +130,8 @@ bool CDialog::UpdateData(bool saving) {
   }
   if (!exchange.HasFailed()) return true;
   const CWnd control = Item(exchange.FailedControl());
-  if (control.IsWindow()) {
+  // At OK a page fails that is not shown: the keyboard must not vanish into it.
+  if (::IsWindowVisible(control.Handle()) && control.IsEnabled()) {
     control.Focus();
     if (control.Send(WM_GETDLGCODE) & DLGC_HASSETSEL) CEdit(control).SelectAll();
   }
@@ -161,6 +169,13 @@ bool CDialog::OnWindowMessage(WindowMessage& message) {
   }
 }
 
+bool CDialog::OnHandlerFailed(WindowMessage& message) {
+  if (message.message != WM_INITDIALOG) return false;
+  EndDialog(-1);
+  message.result = FALSE;
+  return true;
+}
+
 void CDialog::Bind(HWND window) {
   window_ = window;
   ::SetWindowLongPtrW(window, DWLP_USER, reinterpret_cast<LONG_PTR>(this));
@@ -181,7 +196,7 @@ INT_PTR CDialog::Process(HWND window, UINT message, WPARAM wParam, LPARAM lParam
     return FALSE;
   }
   WindowMessage current{window, message, wParam, lParam};
-  if (message == WM_COMMAND && lParam && self->IsFilling()) return TRUE;
+  if (self->IsFilling() && IsChangeNotification(current)) return TRUE;
   // The handler may end the dialog and its object: nothing of it is touched afterwards.
   if (!Reflect(current) && !GuardMessage("CDialog", *self, current)) return FALSE;
   if (AnswersDirectly(message)) return current.result;

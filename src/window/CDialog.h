@@ -13,16 +13,19 @@ class CDialog : public CWnd, public CMessageTarget {
 
   UINT TemplateId() const { return templateId_; }
 
-  // Runs the dialog modally and gives the value that EndDialog was called with; -1 when it could not be created.
+  // Runs the dialog modally and gives the value that EndDialog was called with; -1 when it could not be created or its
+  // start threw. An owner that is no window any more counts as none. The object may be destroyed in the run, which
+  // ends it.
   INT_PTR DoModal(HWND owner);
   // Creates the dialog as a child of `parent` (by the template's styles), or modeless. False when the window could
-  // not be created or its start failed; then no window is left.
+  // not be created or its start failed or threw; then no window is left.
   bool Create(HWND parent);
   void Destroy();
   // Ends a modal dialog. On a dialog that was created it marks the start as failed.
   void EndDialog(INT_PTR result);
 
-  // Runs the control exchange. False when a step failed; the control of that step has the focus then.
+  // Runs the control exchange. False when a step failed; the control of that step has the focus then, if the user can
+  // see it.
   bool UpdateData(bool saving);
 
  protected:
@@ -39,6 +42,8 @@ class CDialog : public CWnd, public CMessageTarget {
   virtual bool OnHelpInfo(const HELPINFO&) { return false; }
 
   bool OnWindowMessage(WindowMessage& message) override;
+  // A start that throws has failed.
+  bool OnHandlerFailed(WindowMessage& message) override;
 
   // Controls are being filled by code: their notifications are not the user's and are dropped.
   bool IsFilling() const { return filling_ > 0; }
@@ -65,7 +70,7 @@ class CDialog : public CWnd, public CMessageTarget {
 
   const UINT templateId_;
   int filling_ = 0;
-  bool modal_ = false;
+  bool modal_ = false;  // how the window was made, or is being made
   bool creating_ = false;
   bool startFailed_ = false;
 };

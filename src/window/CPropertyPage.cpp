@@ -34,23 +34,42 @@ INT_PTR CALLBACK CPropertyPage::PageProcedure(HWND window, UINT message, WPARAM 
   return Process(window, message, wParam, lParam);
 }
 
+bool CPropertyPage::IsFromPlatformSheet(const WindowMessage& message) const {
+  return message.message == WM_NOTIFY && platformSheet_ && message.Notify().hwndFrom == platformSheet_->Handle();
+}
+
 bool CPropertyPage::OnWindowMessage(WindowMessage& message) {
-  if (message.message != WM_NOTIFY || !platformSheet_ || message.Notify().hwndFrom != platformSheet_->Handle())
-    return CDialog::OnWindowMessage(message);
+  if (!IsFromPlatformSheet(message)) return CDialog::OnWindowMessage(message);
   switch (message.Notify().code) {
     case PSN_SETACTIVE:
       message.result = OnSetActive() ? 0 : -1;
       return true;
     case PSN_KILLACTIVE:
-      message.result = OnKillActive() ? FALSE : TRUE;
+      message.result = platformSheet_->IsLeaving(*this) || OnKillActive() ? FALSE : TRUE;
       return true;
     case PSN_APPLY: {
-      const bool applied = OnApply();
+      // A window that has gone meanwhile has left empty controls.
+      const bool applied = OnApply() && IsWindow();
       platformSheet_->NoteApplied(applied);
       message.result = applied ? PSNRET_NOERROR : PSNRET_INVALID_NOCHANGEPAGE;
       return true;
     }
     default:
       return CDialog::OnWindowMessage(message);
+  }
+}
+
+bool CPropertyPage::OnHandlerFailed(WindowMessage& message) {
+  if (!IsFromPlatformSheet(message)) return CDialog::OnHandlerFailed(message);
+  switch (message.Notify().code) {
+    case PSN_KILLACTIVE:
+      message.result = TRUE;
+      return true;
+    case PSN_APPLY:
+      platformSheet_->NoteApplied(false);
+      message.result = PSNRET_INVALID_NOCHANGEPAGE;
+      return true;
+    default:
+      return false;
   }
 }

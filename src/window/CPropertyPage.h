@@ -26,11 +26,14 @@ class CPropertyPage : public CDialog {
   virtual UINT TabIconId() const { return 0; }
 
   bool OnWindowMessage(WindowMessage& message) override;
+  // A page that throws while it is left or applied has refused.
+  bool OnHandlerFailed(WindowMessage& message) override;
 
  private:
   friend class CPropertySheet;
   // The platform's page for this object; null when its template is missing. It belongs to the sheet that runs it.
   HPROPSHEETPAGE CreatePage(CPropertySheet& sheet);
+  bool IsFromPlatformSheet(const WindowMessage& message) const;
   static INT_PTR CALLBACK PageProcedure(HWND, UINT, WPARAM, LPARAM);
 
   CPropertySheet* platformSheet_ = nullptr;

@@ -1,5 +1,8 @@
 #include "window/CPropertySheet.h"
 
+#include <algorithm>
+#include <utility>
+
 #include "DriverLIB/MessageText.h"
 #include "DriverLIB/WindowThreadState.h"
 #include "window/CActivationContext.h"
@@ -8,6 +11,22 @@
 namespace {
 
 constexpr UINT_PTR kSubclassId = 0x4E454D;  // "NEM"
+
+// To the sheet: shows the tab that is as many steps further, round the corner, as the first argument says.
+constexpr UINT kStepTabMessage = WM_APP + 2;
+
+template <class T>
+class ValueScope {
+ public:
+  ValueScope(T& variable, T value) : variable_(variable), previous_(std::exchange(variable, value)) {}
+  ~ValueScope() { variable_ = previous_; }
+  ValueScope(const ValueScope&) = delete;
+  ValueScope& operator=(const ValueScope&) = delete;
+
+ private:
+  T& variable_;
+  T previous_;
+};
 
 // Pages that were prepared for a sheet and not yet taken by it.
 class PreparedPages {
@@ -34,9 +53,9 @@ class CPropertySheet::HookScope {
  public:
   explicit HookScope(CPropertySheet& sheet) : state_(CurrentWindowThreadState()) {
     if (!state_) return;
-    outer_ = *state_;
-    state_->creating = &sheet;
-    state_->running = &sheet;
+    outerCreating_ = std::exchange(state_->creating, &sheet);
+    outerRunning_ = std::exchange(state_->running, &sheet);
+    outerHook_ = state_->creationHook;
     state_->creationHook = ::SetWindowsHookExW(WH_CBT, CreationHook, nullptr, ::GetCurrentThreadId());
     keyHook_ = ::SetWindowsHookExW(WH_GETMESSAGE, KeyHook, nullptr, ::GetCurrentThreadId());
   }
@@ -44,7 +63,9 @@ class CPropertySheet::HookScope {
     if (!state_) return;
     if (keyHook_) ::UnhookWindowsHookEx(keyHook_);
     EndCreation(*state_);
-    *state_ = outer_;
+    state_->creating = outerCreating_;
+    state_->running = outerRunning_;
+    state_->creationHook = outerHook_;
   }
   HookScope(const HookScope&) = delete;
   HookScope& operator=(const HookScope&) = delete;
@@ -57,7 +78,9 @@ class CPropertySheet::HookScope {
 
  private:
   WindowThreadState* state_;
-  WindowThreadState outer_{};
+  void* outerCreating_ = nullptr;
+  void* outerRunning_ = nullptr;
+  void* outerHook_ = nullptr;
   HHOOK keyHook_ = nullptr;
 };
 
@@ -132,19 +155,21 @@ LRESULT CPropertySheet::DefaultHandling(const WindowMessage& message) {
 
 CTabCtrl CPropertySheet::GetTabControl() const { return CTabCtrl(reinterpret_cast<HWND>(Send(PSM_GETTABCONTROL))); }
 
-CPropertyPage* CPropertySheet::CurrentPage() const {
-  if (!window_) return nullptr;
-  const int index = GetTabControl().Selection();
+CPropertyPage* CPropertySheet::PageAt(int index) const {
   return index >= 0 && index < static_cast<int>(pages_.size()) ? pages_[static_cast<size_t>(index)] : nullptr;
 }
 
+CPropertyPage* CPropertySheet::CurrentPage() const {
+  if (coming_) return coming_;
+  return window_ ? PageAt(GetTabControl().Selection()) : nullptr;
+}
+
 void CPropertySheet::SetActivePage(CPropertyPage& page) {
-  for (size_t index = 0; index < pages_.size(); ++index)
-    if (pages_[index] == &page) {
-      settingPage_ = true;
-      Send(PSM_SETCURSEL, index, 0);
-      settingPage_ = false;
-    }
+  const auto found = std::find(pages_.begin(), pages_.end(), &page);
+  if (found == pages_.end()) return;
+  const ValueScope setting(settingPage_, true);
+  const ValueScope coming(coming_, &page);
+  Send(PSM_SETCURSEL, static_cast<WPARAM>(found - pages_.begin()), 0);
 }
 
 BOOL CPropertySheet::OnInitDialog(WindowMessage& message) { return static_cast<BOOL>(DefaultHandling(message)); }
@@ -157,34 +182,76 @@ bool CPropertySheet::OnWindowMessage(WindowMessage& message) {
     case WM_COMMAND:
       return message.CommandId() == IDHELP && message.Notification() == BN_CLICKED && OnHelp();
     case WM_NOTIFY:
-      if (message.Notify().hwndFrom != GetTabControl().Handle()) return false;
-      if (message.Notify().code == static_cast<UINT>(TCN_SELCHANGING)) {
-        message.result = !OnTabChanging();
-        return message.result != 0;  // the platform asks the page once more and then lets go
-      }
-      if (message.Notify().code == static_cast<UINT>(TCN_SELCHANGE)) {
-        message.result = DefaultHandling(message);
-        OnTabChanged();
-        return true;
-      }
-      return false;
+      return message.Notify().hwndFrom == GetTabControl().Handle() && OnTabNotification(message);
     case PSM_SETCURSEL:
       if (settingPage_) return false;
-      message.result = ChangeTab(message);
+      message.result = OnSetCurrentPage(message);
+      return true;
+    case kStepTabMessage:
+      StepTab(static_cast<int>(message.wParam));
       return true;
     default:
       return false;
   }
 }
 
+bool CPropertySheet::OnHandlerFailed(WindowMessage& message) {
+  switch (message.message) {
+    case WM_NOTIFY:
+      message.result = TRUE;
+      return message.Notify().code == static_cast<UINT>(TCN_SELCHANGING);
+    case PSM_SETCURSEL:
+      message.result = FALSE;
+      return true;
+    default:
+      return false;
+  }
+}
+
+bool CPropertySheet::OnTabNotification(WindowMessage& message) {
+  switch (message.Notify().code) {
+    case static_cast<UINT>(TCN_SELCHANGING): {
+      CPropertyPage* page = CurrentPage();
+      message.result = TRUE;
+      if (!OnTabChanging() || !IsWindow()) return true;
+      const ValueScope leaving(leaving_, static_cast<const CPropertyPage*>(page));
+      message.result = DefaultHandling(message);
+      return true;
+    }
+    case static_cast<UINT>(TCN_SELCHANGE):
+      message.result = DefaultHandling(message);
+      OnTabChanged();
+      return true;
+    default:
+      return false;
+  }
+}
+
+int CPropertySheet::PageIndexIn(const WindowMessage& message) const {
+  return static_cast<int>(message.lParam ? Send(PSM_PAGETOINDEX, 0, message.lParam)
+                                         : static_cast<LRESULT>(message.wParam));
+}
+
 // Ctrl+Tab, Ctrl+Page Up and Down and PSM_SETCURSEL change the tab without the tab control's notifications: they take
 // the same two steps here.
-LRESULT CPropertySheet::ChangeTab(WindowMessage& message) {
-  const CPropertyPage* before = CurrentPage();
-  if (!OnTabChanging()) return FALSE;
-  const LRESULT changed = DefaultHandling(message);
-  if (CurrentPage() != before) OnTabChanged();
+LRESULT CPropertySheet::OnSetCurrentPage(WindowMessage& message) {
+  CPropertyPage* before = CurrentPage();
+  CPropertyPage* page = PageAt(PageIndexIn(message));
+  if (!page || page == before) return page != nullptr;
+  if (!OnTabChanging() || !IsWindow()) return FALSE;
+  LRESULT changed = FALSE;
+  {
+    const ValueScope leaving(leaving_, static_cast<const CPropertyPage*>(before));
+    const ValueScope coming(coming_, page);
+    changed = DefaultHandling(message);
+  }
+  if (CurrentPage() == page) OnTabChanged();
   return changed;
+}
+
+void CPropertySheet::StepTab(int step) {
+  const int count = static_cast<int>(pages_.size());
+  Send(PSM_SETCURSEL, static_cast<WPARAM>((GetTabControl().Selection() + step + count) % count), 0);
 }
 
 LRESULT CALLBACK CPropertySheet::KeyHook(int code, WPARAM wParam, LPARAM lParam) {
@@ -197,8 +264,9 @@ LRESULT CALLBACK CPropertySheet::KeyHook(int code, WPARAM wParam, LPARAM lParam)
   return ::CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
-bool CPropertySheet::TranslateTabKey(MSG& message) {
-  if (!window_ || ::GetKeyState(VK_CONTROL) >= 0 || ::GetKeyState(VK_MENU) < 0) return false;
+// True when the key is the sheet's. It is only posted on: a hook is no place for what the change may bring up.
+bool CPropertySheet::TranslateTabKey(const MSG& message) {
+  if (!window_ || pages_.size() < 2 || ::GetKeyState(VK_CONTROL) >= 0 || ::GetKeyState(VK_MENU) < 0) return false;
   if (message.hwnd != window_ && !::IsChild(window_, message.hwnd)) return false;
   int step = 0;
   if (message.wParam == VK_TAB)
@@ -207,8 +275,5 @@ bool CPropertySheet::TranslateTabKey(MSG& message) {
     step = 1;
   else if (message.wParam == VK_PRIOR)
     step = -1;
-  const int count = static_cast<int>(pages_.size());
-  if (!step || count < 2) return false;
-  Send(PSM_SETCURSEL, static_cast<WPARAM>((GetTabControl().Selection() + step + count) % count), 0);
-  return true;
+  return step != 0 && Post(kStepTabMessage, static_cast<WPARAM>(step));
 }

@@ -21,11 +21,14 @@ class CPropertySheet : public CWnd, public CMessageTarget {
   INT_PTR DoModal(HWND owner, const wchar_t* caption);
 
   CTabCtrl GetTabControl() const;
-  // The page whose tab is selected; null when the selection is outside the list of pages.
+  // The page whose tab is selected or, while a page is being shown, that one; null when the selection is outside the
+  // list of pages.
   CPropertyPage* CurrentPage() const;
   // Shows the page without asking anybody but the platform.
   void SetActivePage(CPropertyPage& page);
 
+  // The page has agreed to be left for another tab, and the platform is about to ask it once more.
+  bool IsLeaving(const CPropertyPage& page) const { return leaving_ == &page; }
   void NoteApplied(bool applied) { applied_ = applied; }
 
  protected:
@@ -41,6 +44,8 @@ class CPropertySheet : public CWnd, public CMessageTarget {
   virtual bool OnHelp() { return false; }
 
   bool OnWindowMessage(WindowMessage& message) override;
+  // A tab change that throws before the page is left has been refused.
+  bool OnHandlerFailed(WindowMessage& message) override;
   LRESULT DefaultHandling(const WindowMessage& message);
 
  private:
@@ -51,12 +56,18 @@ class CPropertySheet : public CWnd, public CMessageTarget {
   static LRESULT CALLBACK SubclassProcedure(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
   static int CALLBACK SheetCallback(HWND, UINT message, LPARAM lParam);
   void Attach(HWND window);
-  bool TranslateTabKey(MSG& message);
-  LRESULT ChangeTab(WindowMessage& message);
+  bool TranslateTabKey(const MSG& message);
+  bool OnTabNotification(WindowMessage& message);
+  LRESULT OnSetCurrentPage(WindowMessage& message);
+  void StepTab(int step);
+  int PageIndexIn(const WindowMessage& message) const;
+  CPropertyPage* PageAt(int index) const;
 
   std::vector<CPropertyPage*> pages_;
   bool running_ = false;
-  bool created_ = false;      // the window has existed
-  bool applied_ = false;      // the last apply was accepted
-  bool settingPage_ = false;  // a tab change of our own, which asks nobody
+  bool created_ = false;                    // the window has existed
+  bool applied_ = false;                    // the last apply was accepted
+  bool settingPage_ = false;                // a tab change of our own, which asks nobody
+  const CPropertyPage* leaving_ = nullptr;  // agreed to be left
+  CPropertyPage* coming_ = nullptr;         // being shown, while its tab may not be selected yet
 };

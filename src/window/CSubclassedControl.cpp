@@ -23,6 +23,8 @@ CSubclassedControl* CSubclassedControl::FromHandle(HWND control) {
 
 bool CSubclassedControl::AttachTo(HWND control) {
   Detach();
+  // A control has one object: a new one takes over from the one before.
+  if (CSubclassedControl* previous = FromHandle(control)) previous->Detach();
   if (!control || !::SetWindowSubclass(control, SubclassProcedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this)))
     return false;
   ::SetPropW(control, kObjectProperty, this);

@@ -23,14 +23,23 @@ bool HoldsFocus(HWND window) {
   return focus && (focus == window || ::IsChild(window, focus));
 }
 
-void MoveFocusOn(HWND window) {
-  const HWND dialog = ::GetParent(window);
-  if (!dialog || !HoldsFocus(window)) return;
+// The window that Tab leads to from `window` within `dialog`; null when there is none outside of `window`.
+HWND NextStop(HWND dialog, HWND window) {
   const HWND next = ::GetNextDlgTabItem(dialog, window, FALSE);
-  if (next && next != window)
-    ::SetFocus(next);
-  else
-    ::SetFocus(dialog);
+  return next && next != window && !::IsChild(window, next) ? next : nullptr;
+}
+
+// To the next stop in the dialog, else in the dialog around it: the last control of a page hands on to the sheet. A
+// dialog cannot take the focus in its place, since it gives it back to its control.
+void MoveFocusOn(HWND window) {
+  if (!HoldsFocus(window)) return;
+  for (HWND dialog = window; ::GetWindowLongPtrW(dialog, GWL_STYLE) & WS_CHILD;) {
+    dialog = ::GetParent(dialog);
+    if (const HWND next = NextStop(dialog, window)) {
+      ::SetFocus(next);
+      return;
+    }
+  }
 }
 
 }  // namespace

@@ -40,5 +40,11 @@ bool GuardMessage(const char* place, CMessageTarget& target, WindowMessage& mess
   } catch (...) {
   }
   TraceError("%hs: caught throwed exception", place);
-  return false;
+  // Without its window the object may be gone as well.
+  if (!::IsWindow(message.window)) return false;
+  try {
+    return target.OnHandlerFailed(message);
+  } catch (...) {
+    return false;
+  }
 }

@@ -47,6 +47,9 @@ class CMessageTarget {
   // True when the message was answered, with the answer in `result`; false gives it to the default handling.
   virtual bool OnWindowMessage(WindowMessage&) { return false; }
 
+  // OnWindowMessage threw. True with the answer that does no harm; false gives the message to the default handling.
+  virtual bool OnHandlerFailed(WindowMessage&) { return false; }
+
  protected:
   virtual ~CMessageTarget() = default;
 };
@@ -78,23 +81,26 @@ struct MemberOf<R (C::*)(A...)> {
 template <class C, class R, class... A>
 struct MemberOf<R (C::*)(A...) const> : MemberOf<R (C::*)(A...)> {};
 
-// Calls the member with as much of the message as it asks for. A handler that gives nothing answers 0.
+// Calls the member with as much of the message as it asks for.
+template <auto Handler, class Self>
+decltype(auto) Call(Self& self, WindowMessage& message) {
+  if constexpr (requires { (self.*Handler)(message); })
+    return (self.*Handler)(message);
+  else if constexpr (requires { (self.*Handler)(message.wParam, message.lParam); })
+    return (self.*Handler)(message.wParam, message.lParam);
+  else
+    return (self.*Handler)();
+}
+
+// A handler that gives nothing answers 0.
 template <auto Handler>
 bool Invoke(CMessageTarget& target, WindowMessage& message) {
   using Member = MemberOf<decltype(Handler)>;
   auto& self = static_cast<typename Member::Class&>(target);
-  const auto call = [&] {
-    if constexpr (requires { (self.*Handler)(message); })
-      return (self.*Handler)(message);
-    else if constexpr (requires { (self.*Handler)(message.wParam, message.lParam); })
-      return (self.*Handler)(message.wParam, message.lParam);
-    else
-      return (self.*Handler)();
-  };
   if constexpr (std::is_void_v<typename Member::Result>)
-    call();
+    Call<Handler>(self, message);
   else
-    message.result = static_cast<LRESULT>(call());
+    message.result = static_cast<LRESULT>(Call<Handler>(self, message));
   return true;
 }
 
@@ -129,5 +135,5 @@ constexpr MessageRow OnUpdateCommandRange(int firstId, int lastId) {
 bool DispatchMessages(std::span<const MessageRow> table, CMessageTarget& target, WindowMessage& message);
 
 // Runs a handler at the border to the platform, which no exception may cross: a caught one is traced under `place`,
-// and the answer is false.
+// and the target chooses the answer.
 bool GuardMessage(const char* place, CMessageTarget& target, WindowMessage& message) noexcept;

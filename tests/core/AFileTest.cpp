@@ -305,11 +305,14 @@ TEST_F(AFileTest, ReadLineMakesEveryLineEndASingleLineFeed) {
     const char* first;
     const char* second;
   } const rows[] = {
-      {"a\r\nb", "a\n", "b"},       {"a\nb", "a\n", "b"},     {"a\rb", "a\n", "b"},
-      {"\r\nb", "\n", "b"},         {"a\n\rb", "a\n\n", "b"},  // the lone carriage return goes before the lone line
-                                                               // feed
-      {"a\rb\r\nc", "a\rb\n", "c"},                            // a pair goes before a lone carriage return,
-      {"a\nb\r\nc", "a\nb\n", "c"},                            // and before a lone line feed
+      {"a\r\nb", "a\n", "b"},
+      {"a\nb", "a\n", "b"},
+      {"a\rb", "a\n", "b"},
+      {"\r\nb", "\n", "b"},
+      {"a\n\rb", "a\n\n", "b"},      // the lone carriage return goes before the lone line
+                                     // feed
+      {"a\rb\r\nc", "a\rb\n", "c"},  // a pair goes before a lone carriage return,
+      {"a\nb\r\nc", "a\nb\n", "c"},  // and before a lone line feed
       {"a\r\r\nb", "a\r\n", "b"},
   };
   for (const auto& row : rows) {

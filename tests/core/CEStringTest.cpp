@@ -180,6 +180,15 @@ TEST(CEString, EqualsLooksAtCaseAndTakesNull) {
   EXPECT_FALSE(CEString("a").Equals(nullptr));
 }
 
+TEST(CEString, ComparingEndsAtATerminatorInside) {
+  CEString text("abc");
+  text.Append(NarrowView("\0def", 4));
+  EXPECT_EQ(7, text.Length());
+  EXPECT_TRUE(text.Equals("abc"));
+  EXPECT_TRUE(text == CEString("abc"));
+  EXPECT_FALSE(text.Equals("ab"));
+}
+
 TEST(CEString, EnsureCapacityGrowsAsTold) {
   struct {
     const char* text;

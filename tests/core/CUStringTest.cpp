@@ -538,6 +538,22 @@ TEST(CUString, NoBufferEqualsNullAndEmpty) {
   }
 }
 
+TEST(CUString, ComparingEndsAtATerminatorInside) {
+  CUString text(L"abc");
+  text.EnsureCapacity(8);
+  text.SetLength(6);  // as converting from a double-byte code page leaves it
+  EXPECT_TRUE(text.Equals(L"abc"));
+  EXPECT_TRUE(text.EqualsNoCase(L"ABC"));
+  EXPECT_TRUE(text == L"abc");
+  EXPECT_TRUE(CUString(L"abc") == text);
+  EXPECT_TRUE(text == CUString(text));
+  EXPECT_EQ(6, CUString(text).Length());
+  EXPECT_FALSE(text.Equals(L"ab"));
+  text.SetLength(3);
+  text.Append(WideView(L"\0def", 4));
+  EXPECT_TRUE(text.Equals(L"abc"));
+}
+
 TEST(CUString, OperatorsCompareText) {
   const CUString text(L"abc");
   EXPECT_TRUE(text == L"abc");
@@ -549,6 +565,9 @@ TEST(CUString, OperatorsCompareText) {
   EXPECT_TRUE(text != L"abd");
   EXPECT_TRUE(CUString() == nullptr);
   EXPECT_TRUE(CUString() == CUString(L""));
+  const wchar_t* const pointer = L"abc";
+  EXPECT_TRUE(text.View() == pointer);  // and stay out of the way of the standard ones
+  EXPECT_TRUE(WideView(pointer) == pointer);
 }
 
 // --- Direct access to the buffer -------------------------------------------------------------------------------------

@@ -29,6 +29,17 @@ TEST(CommandLine, TakesOptionsAndTheFileInAnyOrder) {
   }
 }
 
+TEST(CommandLine, CheckConfTakesFiles) {
+  CommandLine line = Parsed({L"--check-conf", L"a.conf"});
+  EXPECT_EQ(line.problem, L"");
+  EXPECT_TRUE(line.checkConf);
+  EXPECT_EQ(line.confFiles, (std::vector<std::wstring>{L"a.conf"}));
+  EXPECT_FALSE(line.settingsFile);
+  line = Parsed({L"--check-conf", L"a b.conf", L"NEMpdf.conf", L"a b.conf"});
+  EXPECT_EQ(line.problem, L"");
+  EXPECT_EQ(line.confFiles, (std::vector<std::wstring>{L"a b.conf", L"NEMpdf.conf", L"a b.conf"}));
+}
+
 TEST(CommandLine, HelpHasThreeNamesAndWinsOverProblems) {
   for (const wchar_t* help : {L"--help", L"-h", L"/?"}) {
     EXPECT_TRUE(Parsed({help}).help);
@@ -52,6 +63,13 @@ TEST(CommandLine, SaysWhatIsWrong) {
       {{L"--printer", L"a", L"--printer", L"b"}, L"--printer is given twice"},
       {{L"a.ini", L"b.ini"}, L"the settings file is given twice"},
       {{L""}, L"an empty file name"},
+      {{L"--check-conf"}, L"--check-conf needs a file name"},
+      {{L"--check-conf", L""}, L"an empty file name"},
+      {{L"--check-conf", L"--nothing"}, L"unknown option --nothing"},
+      {{L"a.ini", L"--check-conf", L"b.conf"}, L"--check-conf takes configuration files and nothing else"},
+      {{L"--check-conf", L"b.conf", L"--document"}, L"--check-conf takes configuration files and nothing else"},
+      {{L"--check-conf", L"b.conf", L"--printer", L"x"}, L"--check-conf takes configuration files and nothing else"},
+      {{L"--check-conf", L"b.conf", L"--write", L"x"}, L"--check-conf takes configuration files and nothing else"},
       {{L"--first", L"--second"}, L"unknown option --first"},
   };
   for (const auto& row : rows) EXPECT_EQ(Parsed(row.arguments).problem, row.problem);
@@ -59,7 +77,7 @@ TEST(CommandLine, SaysWhatIsWrong) {
 
 TEST(CommandLine, UsageNamesEveryOption) {
   const std::wstring usage = UsageText();
-  for (const wchar_t* option : {L"--document", L"--printer", L"--write", L"--help"})
+  for (const wchar_t* option : {L"--document", L"--printer", L"--write", L"--check-conf", L"--help"})
     EXPECT_NE(usage.find(option), usage.npos);
 }
 

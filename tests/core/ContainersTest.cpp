@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <functional>
 #include <map>
 #include <set>
 #include <string>
@@ -12,6 +13,7 @@
 #include "DriverLIB/CStr2Ptr.h"
 #include "DriverLIB/CUStringArray.h"
 #include "DriverLIB/NEMPrintMemoryException.h"
+#include "support/FailingNew.h"
 #include "support/PrintText.h"
 
 // --- CPointerArray ---------------------------------------------------------------------------------------------------
@@ -20,6 +22,16 @@ namespace {
 
 int CompareLowWords(const CIntArray& array, intptr_t left, intptr_t right) {
   return array.GetCompareFunction()(&left, &right);
+}
+
+bool ThrowsMemoryException(const std::function<void()>& action) {
+  try {
+    action();
+  } catch (NEMPrintMemoryException* exhausted) {
+    delete exhausted;
+    return true;
+  }
+  return false;
 }
 
 }  // namespace
@@ -92,19 +104,27 @@ TEST(CPointerArray, ANegativeIndexStoresNothing) {
   EXPECT_EQ(0, array.Capacity());
 }
 
-TEST(CPointerArray, ExhaustedMemoryThrowsAPointer) {
+TEST(CPointerArray, ALengthThatNoArrayHasThrowsAPointer) {
   CPointerArray array;
   array.Add(intptr_t{1});
-  NEMPrintMemoryException* caught = nullptr;
-  try {
-    array.SetAtGrow(INT32_MAX, 5);
-  } catch (NEMPrintMemoryException* exception) {
-    caught = exception;
-  }
-  EXPECT_NE(nullptr, caught);
-  delete caught;
+  EXPECT_TRUE(ThrowsMemoryException([&] { array.SetAtGrow(INT32_MAX, 5); }));
   EXPECT_EQ(1, array.Count());
   EXPECT_EQ(1, array.GetAt(0));
+}
+
+TEST(CPointerArray, ExhaustedMemoryThrowsAPointerAndChangesNothing) {
+  CPointerArray array;
+  for (intptr_t value = 1; value <= 8; ++value) array.Add(value);
+  {
+    const FailingNew exhausted;
+    EXPECT_TRUE(ThrowsMemoryException([&] { array.Add(intptr_t{9}); }));
+    EXPECT_TRUE(ThrowsMemoryException([&] { array.SetAtGrow(8, 9); }));
+    EXPECT_TRUE(ThrowsMemoryException([] { CPointerArray().Add(intptr_t{1}); }));
+  }
+  EXPECT_EQ(8, array.Count());
+  EXPECT_EQ(8, array.Capacity());
+  for (int i = 0; i < 8; ++i) EXPECT_EQ(i + 1, array.GetAt(i));
+  EXPECT_EQ(8, array.Add(intptr_t{9}));
 }
 
 TEST(CPointerArray, FindStartsWhereItIsTold) {
@@ -295,7 +315,7 @@ TEST(CUStringArray, CopiesAndMoves) {
 }
 
 TEST(CUStringArray, ComparesByCharacterValue) {
-  CUString none, empty(L"x"), upper(L"B"), lower(L"a"), longer(L"aa"), high(L"\xFFFD"), surrogate(L"\xD800");
+  CUString none, empty(L"x"), upper(L"B"), lower(L"a"), longer(L"aaaa"), high(L"\xFFFD"), surrogate(L"\xD800");
   empty.Assign(L"");
   const CPointerArray::CompareFunction compare = CUStringArray().GetCompareFunction();
   const auto order = [compare](const CUString* left, const CUString* right) { return compare(&left, &right); };

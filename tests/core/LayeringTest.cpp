@@ -21,27 +21,60 @@ const std::map<std::string, int> kFloors = {{"DriverLIB", 0}, {"environment", 2}
 constexpr int kRoof = 10;
 
 // The units of ui/ that stand on the roof.
-const std::set<std::string> kRoofUnits = {"NemUI.h",         "NemUI.cpp",         "NemUIDoModal.cpp",
-                                          "PageCatalogue.h", "PageCatalogue.cpp", "DllMain.cpp"};
+const std::set<std::string> kRoofUnits = {"NemUI.cpp", "NemUIDoModal.cpp", "PageCatalogue.h", "PageCatalogue.cpp",
+                                          "DllMain.cpp"};
 
 struct Include {
   fs::path from;
-  std::string name;  // as it is written between the quotation marks
+  std::string name;  // as it is written between the quotation marks or the angle brackets
+  bool own = false;  // quotation marks
 };
+
+std::vector<Include> IncludesOf(const fs::path& unit) {
+  std::vector<Include> includes;
+  std::ifstream file(kSources / unit);
+  for (std::string line; std::getline(file, line);) {
+    if (line.rfind("#include ", 0) != 0) continue;
+    const size_t begin = line.find_first_of("\"<") + 1;
+    includes.push_back({unit, line.substr(begin, line.find_first_of("\">", begin) - begin), line[begin - 1] == '"'});
+  }
+  return includes;
+}
 
 std::vector<Include> AllIncludes() {
   std::vector<Include> includes;
   for (const auto& entry : fs::recursive_directory_iterator(kSources)) {
     const std::string extension = entry.path().extension().string();
     if (extension != ".h" && extension != ".cpp") continue;
-    std::ifstream file(entry.path());
-    for (std::string line; std::getline(file, line);) {
-      if (line.rfind("#include \"", 0) != 0) continue;
-      const size_t end = line.find('"', 10);
-      includes.push_back({fs::relative(entry.path(), kSources), line.substr(10, end - 10)});
-    }
+    for (const Include& include : IncludesOf(fs::relative(entry.path(), kSources)))
+      if (include.own) includes.push_back(include);
   }
   return includes;
+}
+
+// The units that the build lists as window-free.
+std::set<fs::path> CoreUnits() {
+  std::set<fs::path> units;
+  for (const auto& [folder, floor] : kFloors) {
+    std::ifstream file(kSources / folder / "CMakeLists.txt");
+    bool core = false;
+    for (std::string word; file >> word;) {
+      if (word == "CORE")
+        core = true;
+      else if (word == "WINDOWS" || word == ")")
+        core = false;
+      else if (core)
+        units.insert(fs::path(folder) / word);
+    }
+  }
+  return units;
+}
+
+// The unit and all headers of the library that it includes, directly or not.
+void AddWithHeaders(const fs::path& unit, std::set<fs::path>& all) {
+  if (!all.insert(unit).second) return;
+  for (const Include& include : IncludesOf(unit))
+    if (include.own && fs::exists(kSources / include.name)) AddWithHeaders(include.name, all);
 }
 
 int FloorOf(const fs::path& unit) {
@@ -64,6 +97,24 @@ TEST(Layering, NoFolderIncludesOneThatIsNotBelow) {
     if (folder == include.from.begin()->string() && to != kRoof) continue;
     EXPECT_TRUE(to < from || (from == kRoof && to == kRoof)) << include.from << " includes " << include.name;
   }
+}
+
+TEST(Layering, WindowFreeUnitsIncludeNothingOfThePlatform) {
+  const std::set<fs::path> units = CoreUnits();
+  ASSERT_GT(units.size(), 20u);
+  std::set<fs::path> all;
+  for (const fs::path& unit : units) {
+    EXPECT_TRUE(fs::exists(kSources / unit)) << unit;
+    AddWithHeaders(unit, all);
+  }
+  ASSERT_GT(all.size(), units.size());
+  for (const fs::path& unit : all)
+    for (const Include& include : IncludesOf(unit))
+      EXPECT_TRUE(include.name != "windows.h" && include.name != "window/Windows.h") << unit;
+}
+
+TEST(Layering, EachUnitOfTheRoofIsThere) {
+  for (const std::string& unit : kRoofUnits) EXPECT_TRUE(fs::exists(kSources / "ui" / unit)) << unit;
 }
 
 TEST(Layering, NoPageIncludesAnotherOnesClass) {

@@ -9,6 +9,7 @@
 #include <string>
 #include <thread>
 
+#include "DriverLIB/CEString.h"
 #include "DriverLIB/CUString.h"
 #include "support/TempFile.h"
 #ifndef _WIN32
@@ -141,8 +142,7 @@ TEST(PlatformFormat, NarrowFormats) {
 
 TEST(PlatformText, ConvertsTheAnsiCodePage) {
   wchar_t wide[8] = {};
-  EXPECT_EQ(4, platform::NarrowToWide("a\xE4\x80z", 4, nullptr, 0));
-  EXPECT_EQ(4, platform::NarrowToWide("a\xE4\x80z", 4, wide, 8));
+  EXPECT_EQ(4, platform::NarrowToWide("a\xE4\x80z", 4, wide));
   EXPECT_STREQ(L"a\x00E4\x20ACz", wide);
   char narrow[8] = {};
   EXPECT_EQ(4, platform::WideToNarrow(wide, 4, nullptr, 0));
@@ -150,16 +150,19 @@ TEST(PlatformText, ConvertsTheAnsiCodePage) {
   EXPECT_STREQ("a\xE4\x80z", narrow);
 }
 
-TEST(PlatformText, ConversionStopsWhereTheRoomEnds) {
+TEST(PlatformText, WideningTakesAsManyBytesAsItIsTold) {
   wchar_t wide[5] = L"????";
-  EXPECT_EQ(2, platform::NarrowToWide("abcd", 4, wide, 2));
+  EXPECT_EQ(2, platform::NarrowToWide("abcd", 2, wide));
   EXPECT_STREQ(L"ab??", wide);
+  EXPECT_EQ(0, platform::NarrowToWide("", 0, wide));
+  EXPECT_STREQ(L"ab??", wide);
+}
+
+TEST(PlatformText, NarrowingStopsWhereTheRoomEnds) {
   char narrow[5] = "????";
   EXPECT_EQ(3, platform::WideToNarrow(L"abcd", 4, narrow, 3));
   EXPECT_STREQ("abc?", narrow);
   EXPECT_EQ(0, platform::WideToNarrow(L"abcd", 4, narrow, 0));
-  EXPECT_EQ(0, platform::NarrowToWide("abcd", 4, wide, 0));
-  EXPECT_EQ(0, platform::NarrowToWide("", 0, wide, 5));
   EXPECT_EQ(0, platform::WideToNarrow(L"", 0, narrow, 5));
 }
 
@@ -168,7 +171,7 @@ TEST(PlatformText, EveryByteSurvivesTheRoundTrip) {
     const char narrow = static_cast<char>(byte);
     wchar_t wide = 0;
     char back = 0;
-    ASSERT_EQ(1, platform::NarrowToWide(&narrow, 1, &wide, 1));
+    ASSERT_EQ(1, platform::NarrowToWide(&narrow, 1, &wide));
     ASSERT_EQ(1, platform::WideToNarrow(&wide, 1, &back, 1));
     EXPECT_EQ(narrow, back) << byte;
   }
@@ -199,6 +202,44 @@ TEST(PlatformText, CaseOfLatinLetters) {
     EXPECT_EQ(other, platform::ToLower(other));
   }
 }
+
+#ifndef _WIN32
+namespace {
+
+class DoubleByteCodePage : public testing::Test {
+ protected:
+  DoubleByteCodePage() { platform::SetNativeDoubleByteCodePage(true); }
+  ~DoubleByteCodePage() override { platform::SetNativeDoubleByteCodePage(false); }
+};
+
+}  // namespace
+
+TEST_F(DoubleByteCodePage, ANarrowTextKeepsItsByteCountAsLength) {
+  CUString text(L"former text");
+  text.AssignNarrow("a\x81\x42\x82\x43z");
+  EXPECT_EQ(6, text.Length());
+  EXPECT_EQ(std::wstring(L"a\x4E42\x4F43z\0\0", 6), std::wstring(text.View()));
+  EXPECT_EQ(L'\0', text.Text()[6]);
+  EXPECT_TRUE(text.Equals(L"a\x4E42\x4F43z"));
+}
+
+TEST_F(DoubleByteCodePage, AWideTextGetsAsManyBytesAsItHasCharacters) {
+  CEString text;
+  text.AssignWide(L"\x4E42\x4F43");
+  EXPECT_TRUE(text.Equals("\x81\x42"));
+  EXPECT_EQ(2, text.Length());
+  text.AssignWide(L"a\x4E42");  // the character at the end does not fit whole
+  EXPECT_TRUE(text.Equals("a"));
+  EXPECT_EQ(1, text.Length());
+}
+
+TEST_F(DoubleByteCodePage, ConversionsCountWholeCharacters) {
+  EXPECT_EQ(3, platform::WideToNarrow(L"\x4E42z", 2, nullptr, 0));
+  wchar_t wide[4] = {};
+  EXPECT_EQ(2, platform::NarrowToWide("\x81\x42z", 3, wide));
+  EXPECT_STREQ(L"\x4E42z", wide);
+}
+#endif
 
 // --- System errors ---------------------------------------------------------------------------------------------------
 

@@ -377,6 +377,28 @@ TEST_P(PropertyAccess, APendingErrorEndsTheCallOnce) {
   EXPECT_EQ(50, read);
 }
 
+TEST_P(PropertyAccess, APendingErrorIsTheOneThatAReadingReports) {
+  int32_t read = 77;
+  const void* name = Name("Scale");
+  const struct {
+    const void *handle, *name;
+    void* buffer;
+    Lines lines;
+  } rows[] = {
+      {dialog_.get(), nullptr, &read, {L"Error: Aktueller Fehler: 1. Weiterer Fehler 29 in ..\\NemUI(220)"}},
+      {dialog_.get(), name, nullptr, {L"Error: Aktueller Fehler: 1. Weiterer Fehler 29 in ..\\NemUI(220)"}},
+      {nullptr, name, &read, {}},
+  };
+  for (const auto& row : rows) {
+    thread_.Error().code = 1;
+    EXPECT_EQ(0, GetProperty(row.handle, 0, row.name, GetParam(), row.buffer, 4));
+    EXPECT_EQ(0u, thread_.Error().code);
+    EXPECT_EQ(1u, LastCode());
+    EXPECT_EQ(row.lines, thread_.Lines());
+    EXPECT_EQ(77, read);
+  }
+}
+
 TEST_P(PropertyAccess, APendingErrorKeepsTheSetFromBeingReset) {
   SetNumber(0, "Scale", 50);
   thread_.Error().code = 29;

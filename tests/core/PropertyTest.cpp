@@ -7,6 +7,7 @@
 #include <type_traits>
 #include <vector>
 
+#include "support/FailingNew.h"
 #include "support/TracedThread.h"
 #include "ui/CPropertySet.h"
 
@@ -26,6 +27,11 @@ class CBareProperty final : public CProperty {
   int SetValue(const void*) override { return 0; }
   void Assign(const CProperty&) override {}
   std::unique_ptr<CProperty> Clone(CPropertySet&) const override { return nullptr; }
+
+  void FillLists() {
+    for (const wchar_t* value : {L"0", L"1"}) values_.Add(value);
+    for (const wchar_t* description : {L"off", L"on"}) descriptions_.Add(description);
+  }
 };
 
 class Property : public testing::Test {
@@ -96,12 +102,26 @@ TEST_F(Property, IsNotCopied) {
 }
 
 TEST_F(Property, ListsAreCopiedByTheirNames) {
+  CBareProperty bare(L"Bare", set_);
+  bare.FillLists();
+  for (const auto& [list, first, second] :
+       {std::array{L"PropValues", L"0", L"1"}, std::array{L"PropValueDescription", L"off", L"on"}}) {
+    CUStringArray array;
+    array.Add(L"old");
+    EXPECT_EQ(1, bare.GetList(list, array));
+    ASSERT_EQ(2, array.Count());
+    EXPECT_TRUE(array.GetAt(0) == first);
+    EXPECT_TRUE(array.GetAt(1) == second);
+  }
+}
+
+TEST_F(Property, TheKindsOfTheLibraryFillNoList) {
   CLongProperty number(L"Number", set_);
   for (const wchar_t* list : {L"PropValues", L"PropValueDescription"}) {
     CUStringArray array;
     array.Add(L"old");
     EXPECT_EQ(1, number.GetList(list, array));
-    EXPECT_EQ(0, array.Count());  // both are filled by nobody
+    EXPECT_EQ(0, array.Count());
   }
 }
 
@@ -227,6 +247,15 @@ TEST_F(LongProperty, CloneHasNameAndValueInItsOwnSet) {
   EXPECT_EQ(&number_, set_.Get(L"Number"));
   EXPECT_EQ(5, copy->GetLong());
   EXPECT_EQ(&other, copy->GetOwner());
+}
+
+TEST_F(LongProperty, CloneIsNullWhenMemoryIsExhausted) {
+  CPropertySet other;
+  {
+    const FailingNew exhausted;
+    EXPECT_EQ(nullptr, number_.Clone(other));
+  }
+  EXPECT_EQ(nullptr, other.First());
 }
 
 TEST_F(LongProperty, GivesItsNameAsText) { EXPECT_TRUE(number_.GetString() == L"Number"); }
@@ -383,6 +412,15 @@ TEST_F(StringProperty, CloneHasNameValueAndSecrecy) {
   EXPECT_EQ(copy.get(), other.Get(L"Text"));
   EXPECT_TRUE(copy->GetString() == L"abc");
   EXPECT_TRUE(static_cast<CStringProperty&>(*copy).IsSecret());
+}
+
+TEST_F(StringProperty, CloneIsNullWhenMemoryIsExhausted) {
+  CPropertySet other;
+  {
+    const FailingNew exhausted;
+    EXPECT_EQ(nullptr, text_.Clone(other));
+  }
+  EXPECT_EQ(nullptr, other.First());
 }
 
 TEST_F(StringProperty, TracesShortTextsWholeAndLongOnesCut) {

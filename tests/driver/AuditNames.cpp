@@ -13,8 +13,7 @@ namespace {
 
 // 'oleacc.dll' is asked for at run time: not every compiler has an import library of it.
 IAccessible* AccessibleFrom(LRESULT answer) {
-  static constexpr GUID kAccessible = {
-      0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
+  static constexpr GUID kAccessible = {0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
   using Convert = HRESULT WINAPI(LRESULT, REFIID, WPARAM, void**);
   static auto* const convert = reinterpret_cast<Convert*>(
       reinterpret_cast<void*>(GetProcAddress(LoadLibraryW(L"oleacc.dll"), "ObjectFromLresult")));
@@ -45,8 +44,10 @@ bool NamesItself(const AuditedControl& control) {
     case ControlKind::kLabel:
     case ControlKind::kPushButton:
     case ControlKind::kCheck:
-    case ControlKind::kOwnerButton: return !control.text.empty();
-    default: return false;
+    case ControlKind::kOwnerButton:
+      return !control.text.empty();
+    default:
+      return false;
   }
 }
 

@@ -13,11 +13,11 @@ namespace audit {
 namespace {
 
 // Room that the platform itself takes within a control, in pixels at 96 dpi.
-constexpr int kButtonMargin = 4;          // on each side, up and down half of it
-constexpr int kCheckMark = 13 + 4;        // the mark and the gap behind it
-constexpr int kGroupCaptionMargin = 9;    // on each side
-constexpr int kListMargin = 4;            // both sides together
-constexpr int kColumnMargin = 12;         // both sides together
+constexpr int kButtonMargin = 4;        // on each side, up and down half of it
+constexpr int kCheckMark = 13 + 4;      // the mark and the gap behind it
+constexpr int kGroupCaptionMargin = 9;  // on each side
+constexpr int kListMargin = 4;          // both sides together
+constexpr int kColumnMargin = 12;       // both sides together
 
 class TextMeter {
  public:
@@ -63,15 +63,24 @@ class TextCheck {
 
   void Run() {
     switch (control_.kind) {
-      case ControlKind::kLabel: return CheckLabel();
-      case ControlKind::kPushButton: return CheckCaption(2 * kButtonMargin, kButtonMargin);
-      case ControlKind::kCheck: return CheckCaption(kCheckMark, 0);
-      case ControlKind::kGroupBox: return CheckCaption(2 * kGroupCaptionMargin, 0);
-      case ControlKind::kEdit: return CheckLineHeight();
-      case ControlKind::kCombo: return CheckCombo();
-      case ControlKind::kListBox: return CheckListBox();
-      case ControlKind::kListView: return CheckColumns();
-      default: return;
+      case ControlKind::kLabel:
+        return CheckLabel();
+      case ControlKind::kPushButton:
+        return CheckCaption(2 * kButtonMargin, kButtonMargin);
+      case ControlKind::kCheck:
+        return CheckCaption(kCheckMark, 0);
+      case ControlKind::kGroupBox:
+        return CheckCaption(2 * kGroupCaptionMargin, 0);
+      case ControlKind::kEdit:
+        return CheckLineHeight();
+      case ControlKind::kCombo:
+        return CheckCombo();
+      case ControlKind::kListBox:
+        return CheckListBox();
+      case ControlKind::kListView:
+        return CheckColumns();
+      default:
+        return;
     }
   }
 
@@ -140,8 +149,8 @@ class TextCheck {
     const auto rows = static_cast<int>(SendMessageW(control_.window, LB_GETCOUNT, 0, 0));
     for (int row = 0; row < rows; ++row) {
       std::wstring text(static_cast<size_t>(SendMessageW(control_.window, LB_GETTEXTLEN, row, 0)) + 1, L'\0');
-      text.resize(static_cast<size_t>(
-          SendMessageW(control_.window, LB_GETTEXT, row, reinterpret_cast<LPARAM>(text.data()))));
+      text.resize(
+          static_cast<size_t>(SendMessageW(control_.window, LB_GETTEXT, row, reinterpret_cast<LPARAM>(text.data()))));
       const SIZE needed = {meter_.Measure(text, DT_SINGLELINE | DT_NOPREFIX).cx, 0};
       Expect(needed, {room_.cx - Scaled(kListMargin) / 2, 0}, text, "of a row ");
     }

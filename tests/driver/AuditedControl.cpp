@@ -18,26 +18,31 @@ ControlKind StaticKind(DWORD style, const std::wstring& text) {
     case SS_WHITEFRAME:
     case SS_ETCHEDHORZ:
     case SS_ETCHEDVERT:
-    case SS_ETCHEDFRAME: return ControlKind::kFrame;
+    case SS_ETCHEDFRAME:
+      return ControlKind::kFrame;
     case SS_LEFT:
     case SS_CENTER:
     case SS_RIGHT:
     case SS_SIMPLE:
-    case SS_LEFTNOWORDWRAP: return text.empty() ? ControlKind::kPicture : ControlKind::kLabel;
+    case SS_LEFTNOWORDWRAP:
+      return text.empty() ? ControlKind::kPicture : ControlKind::kLabel;
   }
   return ControlKind::kPicture;
 }
 
 ControlKind ButtonKind(DWORD style) {
   switch (style & BS_TYPEMASK) {
-    case BS_GROUPBOX: return ControlKind::kGroupBox;
-    case BS_OWNERDRAW: return ControlKind::kOwnerButton;
+    case BS_GROUPBOX:
+      return ControlKind::kGroupBox;
+    case BS_OWNERDRAW:
+      return ControlKind::kOwnerButton;
     case BS_CHECKBOX:
     case BS_AUTOCHECKBOX:
     case BS_3STATE:
     case BS_AUTO3STATE:
     case BS_RADIOBUTTON:
-    case BS_AUTORADIOBUTTON: return style & BS_PUSHLIKE ? ControlKind::kPushButton : ControlKind::kCheck;
+    case BS_AUTORADIOBUTTON:
+      return style & BS_PUSHLIKE ? ControlKind::kPushButton : ControlKind::kCheck;
   }
   return ControlKind::kPushButton;
 }
@@ -46,12 +51,9 @@ ControlKind KindOf(HWND window, DWORD style, const std::wstring& text) {
   static constexpr struct {
     const wchar_t* className;
     ControlKind kind;
-  } kKinds[] = {{L"Edit", ControlKind::kEdit},
-                {L"ComboBox", ControlKind::kCombo},
-                {L"ListBox", ControlKind::kListBox},
-                {WC_LISTVIEWW, ControlKind::kListView},
-                {TRACKBAR_CLASSW, ControlKind::kSlider},
-                {L"ScrollBar", ControlKind::kScrollBar},
+  } kKinds[] = {{L"Edit", ControlKind::kEdit},           {L"ComboBox", ControlKind::kCombo},
+                {L"ListBox", ControlKind::kListBox},     {WC_LISTVIEWW, ControlKind::kListView},
+                {TRACKBAR_CLASSW, ControlKind::kSlider}, {L"ScrollBar", ControlKind::kScrollBar},
                 {UPDOWN_CLASSW, ControlKind::kSpin}};
   if (HasClass(window, L"Static")) return StaticKind(style, text);
   if (HasClass(window, L"Button")) return ButtonKind(style);

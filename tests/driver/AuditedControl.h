@@ -7,9 +7,9 @@
 #include <vector>
 
 enum class ControlKind {
-  kLabel,        // static text
-  kPicture,      // static bitmap, icon, owner-drawn static, or one without text
-  kFrame,        // frame, rectangle or line: others may stand within it
+  kLabel,    // static text
+  kPicture,  // static bitmap, icon, owner-drawn static, or one without text
+  kFrame,    // frame, rectangle or line: others may stand within it
   kGroupBox,
   kPushButton,
   kCheck,        // check box or radio button

@@ -15,8 +15,10 @@ Kind KindOf(HWND window) {
   static constexpr struct {
     const wchar_t* className;
     Kind kind;
-  } kKinds[] = {{L"ComboBox", Kind::kCombo},           {L"ListBox", Kind::kListBox},
-                {L"SysListView32", Kind::kListView},   {L"msctls_trackbar32", Kind::kSlider},
+  } kKinds[] = {{L"ComboBox", Kind::kCombo},
+                {L"ListBox", Kind::kListBox},
+                {L"SysListView32", Kind::kListView},
+                {L"msctls_trackbar32", Kind::kSlider},
                 {L"ScrollBar", Kind::kScrollBar}};
   for (const auto& [className, kind] : kKinds)
     if (HasClass(window, className)) return kind;
@@ -76,32 +78,43 @@ bool ControlRef::HasFocus() const {
 
 int ControlRef::RowCount() const {
   switch (KindOf(window_)) {
-    case Kind::kCombo: return static_cast<int>(SendMessageW(window_, CB_GETCOUNT, 0, 0));
-    case Kind::kListBox: return static_cast<int>(SendMessageW(window_, LB_GETCOUNT, 0, 0));
-    case Kind::kListView: return ListView_GetItemCount(window_);
-    default: return 0;
+    case Kind::kCombo:
+      return static_cast<int>(SendMessageW(window_, CB_GETCOUNT, 0, 0));
+    case Kind::kListBox:
+      return static_cast<int>(SendMessageW(window_, LB_GETCOUNT, 0, 0));
+    case Kind::kListView:
+      return ListView_GetItemCount(window_);
+    default:
+      return 0;
   }
 }
 
 int ControlRef::SelectedRow() const {
   switch (KindOf(window_)) {
-    case Kind::kCombo: return static_cast<int>(SendMessageW(window_, CB_GETCURSEL, 0, 0));
-    case Kind::kListBox: return static_cast<int>(SendMessageW(window_, LB_GETCURSEL, 0, 0));
-    case Kind::kListView: return ListView_GetNextItem(window_, -1, LVNI_SELECTED);
-    default: return -1;
+    case Kind::kCombo:
+      return static_cast<int>(SendMessageW(window_, CB_GETCURSEL, 0, 0));
+    case Kind::kListBox:
+      return static_cast<int>(SendMessageW(window_, LB_GETCURSEL, 0, 0));
+    case Kind::kListView:
+      return ListView_GetNextItem(window_, -1, LVNI_SELECTED);
+    default:
+      return -1;
   }
 }
 
 std::wstring ControlRef::Row(int row, int column) const {
   switch (KindOf(window_)) {
-    case Kind::kCombo: return ReadRow(window_, CB_GETLBTEXTLEN, CB_GETLBTEXT, row);
-    case Kind::kListBox: return ReadRow(window_, LB_GETTEXTLEN, LB_GETTEXT, row);
+    case Kind::kCombo:
+      return ReadRow(window_, CB_GETLBTEXTLEN, CB_GETLBTEXT, row);
+    case Kind::kListBox:
+      return ReadRow(window_, LB_GETTEXTLEN, LB_GETTEXT, row);
     case Kind::kListView: {
       wchar_t text[1024] = L"";
       ListView_GetItemText(window_, row, column, text, ARRAYSIZE(text));
       return text;
     }
-    default: return {};
+    default:
+      return {};
   }
 }
 
@@ -150,15 +163,15 @@ void ControlRef::Click() const {
   SendMessageW(window_, WM_LBUTTONUP, 0, point);
 }
 
-HWND ControlRef::EditWindow() const {
-  return KindOf(window_) == Kind::kCombo ? ComboInfo(window_).hwndItem : window_;
-}
+HWND ControlRef::EditWindow() const { return KindOf(window_) == Kind::kCombo ? ComboInfo(window_).hwndItem : window_; }
 
 void ControlRef::SetText(const std::wstring& text) const {
   if (!IsUsable("type into")) return;
   const HWND edit = EditWindow();
-  if (!edit || !HasClass(edit, L"Edit")) return Fail("Cannot type into " + DescribeWindow(window_) + ": it has no edit");
-  if (GetWindowLongW(edit, GWL_STYLE) & ES_READONLY) return Fail("Cannot type into " + DescribeWindow(window_) + ": it is read-only");
+  if (!edit || !HasClass(edit, L"Edit"))
+    return Fail("Cannot type into " + DescribeWindow(window_) + ": it has no edit");
+  if (GetWindowLongW(edit, GWL_STYLE) & ES_READONLY)
+    return Fail("Cannot type into " + DescribeWindow(window_) + ": it is read-only");
   SetFocus(edit);
   SendMessageW(edit, EM_SETSEL, 0, -1);
   if (text.empty()) SendMessageW(edit, WM_CHAR, L'\b', 1);
@@ -168,12 +181,16 @@ void ControlRef::SetText(const std::wstring& text) const {
 void ControlRef::Select(int row) const {
   if (!IsUsable("select in")) return;
   if (row < 0 || row >= RowCount())
-    return Fail("Cannot select row " + std::to_string(row) + " of " + std::to_string(RowCount()) + " in " + DescribeWindow(window_));
+    return Fail("Cannot select row " + std::to_string(row) + " of " + std::to_string(RowCount()) + " in " +
+                DescribeWindow(window_));
   SetFocus(window_);
   switch (KindOf(window_)) {
-    case Kind::kCombo: return SelectInCombo(row);
-    case Kind::kListBox: return ClickListRow(window_, row);
-    default: break;
+    case Kind::kCombo:
+      return SelectInCombo(row);
+    case Kind::kListBox:
+      return ClickListRow(window_, row);
+    default:
+      break;
   }
   ListView_SetItemState(window_, -1, 0, LVIS_SELECTED);
   ListView_SetItemState(window_, row, LVIS_SELECTED | LVIS_FOCUSED, LVIS_SELECTED | LVIS_FOCUSED);

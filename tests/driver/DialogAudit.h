@@ -12,9 +12,9 @@
 struct AuditOptions {
   bool mirrored = false;  // the page belongs to a language that is written from right to left
   int dpi = 96;
-  SIZE size = {};  // of the page's template in dialog units
-  std::wstring allowedDoubleKeys = {};                     // access keys, in capitals, that may stand on the page twice
-  std::vector<std::pair<int, int>> allowedOverlaps = {};   // ids of controls that lie over each other on purpose
+  SIZE size = {};                                         // of the page's template in dialog units
+  std::wstring allowedDoubleKeys = {};                    // access keys, in capitals, that may stand on the page twice
+  std::vector<std::pair<int, int>> allowedOverlaps = {};  // ids of controls that lie over each other on purpose
 };
 
 using Findings = std::vector<std::string>;

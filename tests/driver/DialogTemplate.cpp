@@ -6,8 +6,7 @@ constexpr size_t kCountWord = 8;  // where the number of controls stands in the 
 
 }  // namespace
 
-DialogTemplate::DialogTemplate(DWORD style, SIZE size, const std::wstring& caption, DWORD extendedStyle,
-                               DWORD helpId) {
+DialogTemplate::DialogTemplate(DWORD style, SIZE size, const std::wstring& caption, DWORD extendedStyle, DWORD helpId) {
   AddWord(1);       // version of the extended form
   AddWord(0xFFFF);  // its mark
   AddDword(helpId);

@@ -18,6 +18,7 @@ class DialogTemplate {
                       DWORD style = 0, DWORD extendedStyle = 0);
 
   const DLGTEMPLATE* Get() const { return reinterpret_cast<const DLGTEMPLATE*>(words_.data()); }
+  size_t Size() const { return words_.size() * sizeof(WORD); }  // in bytes
 
  private:
   void AddWord(WORD value) { words_.push_back(value); }

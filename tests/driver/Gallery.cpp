@@ -16,7 +16,7 @@ SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring langua
     sheet.SelectTab(tab);
     co_await sheet.Settled();
     CO_ASSERT_EQ(tab, sheet.CurrentTab());
-    for (const PageInfo& page : AllPages()) {
+    for (const PageInfo& page : BarPages()) {
       const std::string name = page.name;
       bool shown = false;
       co_await ClickPage(sheet, page.id, shown);
@@ -24,6 +24,7 @@ SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring langua
         result.missing.push_back(name + (tab == kDocumentTab ? " (document)" : ""));
         continue;
       }
+      SendMessageW(sheet.Window(), WM_NCACTIVATE, TRUE, 0);  // its title as the user sees it, whoever is active
       const std::wstring file = directory + L"\\" + language + L"-" + std::to_wstring(page.id) + L"-" + ToWide(name) +
                                 (tab == kDocumentTab ? L"-document.png" : L".png");
       HRESULT error = S_OK;

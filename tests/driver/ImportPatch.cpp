@@ -29,8 +29,7 @@ std::vector<HMODULE> OwnModules() {
 
 void** FindImport(HMODULE module, const char* library, const char* function) {
   auto* base = reinterpret_cast<BYTE*>(module);
-  const auto* headers =
-      reinterpret_cast<IMAGE_NT_HEADERS*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
+  const auto* headers = reinterpret_cast<IMAGE_NT_HEADERS*>(base + reinterpret_cast<IMAGE_DOS_HEADER*>(base)->e_lfanew);
   const auto& directory = headers->OptionalHeader.DataDirectory[IMAGE_DIRECTORY_ENTRY_IMPORT];
   if (directory.VirtualAddress == 0) return nullptr;
 

@@ -35,9 +35,7 @@ HWND KeyboardTarget() {
   return focus ? focus : GetActiveWindow();
 }
 
-void Send(std::vector<INPUT>& inputs) {
-  SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT));
-}
+void Send(std::vector<INPUT>& inputs) { SendInput(static_cast<UINT>(inputs.size()), inputs.data(), sizeof(INPUT)); }
 
 INPUT KeyInput(WORD key, WORD scanCode, DWORD flags) {
   INPUT input = {};

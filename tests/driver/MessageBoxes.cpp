@@ -104,7 +104,8 @@ BoxRecord ReadMessageBox(HWND box) {
     if (IsIconStatic(child)) record.icon = ReadIcon(child);
     if (!HasClass(child, L"Button")) return;
     record.buttons.push_back(GetDlgCtrlID(child));
-    if ((GetWindowLongW(child, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON) record.defaultButton = GetDlgCtrlID(child);
+    if ((GetWindowLongW(child, GWL_STYLE) & BS_TYPEMASK) == BS_DEFPUSHBUTTON)
+      record.defaultButton = GetDlgCtrlID(child);
   });
   latestStyleKnown = false;
   return record;
@@ -134,11 +135,16 @@ void DismissBox(HWND box) {
 
 std::string IconName(UINT icon) {
   switch (icon) {
-    case 0: return "none";
-    case MB_ICONERROR: return "error";
-    case MB_ICONQUESTION: return "question";
-    case MB_ICONWARNING: return "warning";
-    case MB_ICONINFORMATION: return "information";
+    case 0:
+      return "none";
+    case MB_ICONERROR:
+      return "error";
+    case MB_ICONQUESTION:
+      return "question";
+    case MB_ICONWARNING:
+      return "warning";
+    case MB_ICONINFORMATION:
+      return "information";
   }
   return "unknown";
 }

@@ -9,7 +9,7 @@
 struct BoxRecord {
   std::wstring title;
   std::wstring text;
-  UINT icon = 0;             // MB_ICONERROR, MB_ICONQUESTION, MB_ICONWARNING, MB_ICONINFORMATION, or 0 for none
+  UINT icon = 0;                  // MB_ICONERROR, MB_ICONQUESTION, MB_ICONWARNING, MB_ICONINFORMATION, or 0 for none
   std::vector<int> buttons = {};  // command ids in the order of the keyboard
   int defaultButton = 0;
   HWND owner = nullptr;

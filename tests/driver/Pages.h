@@ -17,7 +17,7 @@ constexpr int kBarId = 100;  // the navigation bar, a child of each host page
 constexpr int kBarFolderCount = 7;
 
 // In the order of the bar. The table says where a page stands when it exists; which ones do, the sheet decides.
-std::span<const PageInfo> AllPages();
+std::span<const PageInfo> BarPages();
 
 const PageInfo* FindPageById(int id);
 const PageInfo* FindPageByHelpId(DWORD helpId);  // null also for 0, which the placeholder pages have

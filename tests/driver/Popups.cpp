@@ -18,15 +18,17 @@ void Fail(const std::source_location& where, const std::string& text) {
 
 }  // namespace
 
-Popups::Popups() : previous_(current) {
+Popups::Popups(int timeoutSeconds) : watchdog_(timeoutSeconds), previous_(current) {
   WatchMessageBoxes();
-  hook_ = SetWindowsHookExW(WH_CBT, OnComputerBasedTraining, nullptr, GetCurrentThreadId());
+  creationHook_ = SetWindowsHookExW(WH_CBT, OnComputerBasedTraining, nullptr, GetCurrentThreadId());
+  showHook_ = SetWindowsHookExW(WH_CALLWNDPROC, OnMessageSent, nullptr, GetCurrentThreadId());
   current = this;
 }
 
 Popups::~Popups() {
   CheckAllCame();
-  UnhookWindowsHookEx(hook_);
+  UnhookWindowsHookEx(showHook_);
+  UnhookWindowsHookEx(creationHook_);
   current = previous_;
 }
 
@@ -36,24 +38,31 @@ void Popups::ExpectDialog(std::function<void(HWND)> drive, Location where) {
   expectations_.push_back({std::nullopt, std::move(drive), where});
 }
 
-// A window is looked at only from the message loop that it brings along: then its controls and texts are in place.
 LRESULT CALLBACK Popups::OnComputerBasedTraining(int code, WPARAM wParam, LPARAM lParam) {
   const auto window = reinterpret_cast<HWND>(wParam);
   if (current && code == HCBT_DESTROYWND) current->seen_.erase(window);
-  if (current && (code == HCBT_CREATEWND || code == HCBT_ACTIVATE)) {
-    Popups* self = current;
-    bool dialog = IsTopLevelDialog(window);
-    if (code == HCBT_CREATEWND) {
-      const CREATESTRUCTW& creation = *reinterpret_cast<CBT_CREATEWNDW*>(lParam)->lpcs;
-      dialog = !(creation.style & WS_CHILD) && HasClass(window, L"#32770");
-    }
-    if (dialog && !self->seen_.contains(window)) self->loop_.Post([self, window] { self->Look(window); });
+  if (current && code == HCBT_CREATEWND) {
+    const CREATESTRUCTW& creation = *reinterpret_cast<CBT_CREATEWNDW*>(lParam)->lpcs;
+    if (!(creation.style & WS_CHILD) && HasClass(window, L"#32770")) current->LookSoon(window);
   }
   return CallNextHookEx(nullptr, code, wParam, lParam);
 }
 
+// A dialog that runs messages before it shows itself is looked at again when it does.
+LRESULT CALLBACK Popups::OnMessageSent(int code, WPARAM wParam, LPARAM lParam) {
+  const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+  if (code == HC_ACTION && current && sent.message == WM_WINDOWPOSCHANGED &&
+      (reinterpret_cast<const WINDOWPOS*>(sent.lParam)->flags & SWP_SHOWWINDOW) && IsTopLevelDialog(sent.hwnd))
+    current->LookSoon(sent.hwnd);
+  return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+// A window is looked at only from the message loop that it brings along: then its controls and texts are in place.
+void Popups::LookSoon(HWND window) {
+  if (!seen_.contains(window)) loop_.Post([this, window] { Look(window); });
+}
+
 void Popups::Look(HWND window) {
-  // A hidden dialog is looked at when it is activated.
   if (!IsWindow(window) || !IsWindowVisible(window) || !seen_.insert(window).second) return;
   if (IsMessageBox(window))
     MeetBox(window);
@@ -96,10 +105,11 @@ void Popups::MeetDialog(HWND window) {
 void Popups::Compare(const Expectation& expected, const BoxRecord& box) const {
   const BoxRecord wanted{.title = expected.box->title, .text = expected.box->text, .icon = expected.box->icon};
   if (box.title != wanted.title || box.text != wanted.text || box.icon != wanted.icon)
-    Fail(expected.where, "A message box came up with\n  " + Describe(box) + "\nbut expected was\n  " + Describe(wanted));
+    Fail(expected.where,
+         "A message box came up with\n  " + Describe(box) + "\nbut expected was\n  " + Describe(wanted));
   if (expected.box->rightToLeft && box.rightToLeft != *expected.box->rightToLeft)
-    Fail(expected.where, "The message box reads from " + std::string(box.rightToLeft ? "right to left" : "left to right") +
-                             ": " + Describe(box));
+    Fail(expected.where, "The message box reads from " +
+                             std::string(box.rightToLeft ? "right to left" : "left to right") + ": " + Describe(box));
 }
 
 void Popups::CheckAllCame() {
@@ -124,6 +134,7 @@ std::vector<std::string> Popups::CloseOpenDialogs(HWND except) {
 }
 
 void DismissDialog(HWND dialog) {
-  SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED), reinterpret_cast<LPARAM>(GetDlgItem(dialog, IDCANCEL)));
+  SendMessageW(dialog, WM_COMMAND, MAKEWPARAM(IDCANCEL, BN_CLICKED),
+               reinterpret_cast<LPARAM>(GetDlgItem(dialog, IDCANCEL)));
   if (IsWindow(dialog) && IsWindowVisible(dialog)) PostMessageW(dialog, WM_CLOSE, 0, 0);
 }

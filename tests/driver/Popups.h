@@ -13,21 +13,23 @@
 
 #include "driver/IdleLoop.h"
 #include "driver/MessageBoxes.h"
+#include "driver/Watchdog.h"
 
 // A box that has to come up, and the button that the test then presses. The text has to be equal to the last
 // character.
 struct ExpectedBox {
   std::wstring title;
   std::wstring text;
-  UINT icon = 0;      // MB_ICON..., 0 for none
-  int button = IDOK;  // IDOK, IDCANCEL, IDYES, ...
+  UINT icon = 0;                                   // MB_ICON..., 0 for none
+  int button = IDOK;                               // IDOK, IDCANCEL, IDYES, ...
   std::optional<bool> rightToLeft = std::nullopt;  // not asked when left out
 };
 
 // While it lives, each message box and each dialog that comes up on the thread is compared with the queue, front
 // first. A box that nobody expected is closed and is a failure, and so is an expectation that is left at the end.
 //
-// Alone it serves tests of single boxes; for sheets RunSheet has one inside:
+// A watchdog ends the process when the test hangs. Alone it serves tests of single boxes; for sheets RunSheet has one
+// inside:
 //   Popups popups;
 //   popups.ExpectBox({.title = L"Title", .text = L"Go on?", .icon = MB_ICONQUESTION, .button = IDYES});
 //   EXPECT_EQ(IDYES, MsgBoxById(...));
@@ -35,7 +37,7 @@ class Popups {
  public:
   using Location = std::source_location;
 
-  Popups();
+  explicit Popups(int timeoutSeconds = Watchdog::kUsualSeconds);
   ~Popups();
   Popups(const Popups&) = delete;
   Popups& operator=(const Popups&) = delete;
@@ -68,14 +70,18 @@ class Popups {
   };
 
   static LRESULT CALLBACK OnComputerBasedTraining(int code, WPARAM wParam, LPARAM lParam);
+  static LRESULT CALLBACK OnMessageSent(int code, WPARAM wParam, LPARAM lParam);
+  void LookSoon(HWND window);
   void Look(HWND window);
   void MeetBox(HWND window);
   void MeetDialog(HWND window);
   void Compare(const Expectation& expected, const BoxRecord& box) const;
 
+  Watchdog watchdog_;
   IdleLoop loop_;
   Popups* previous_;
-  HHOOK hook_;
+  HHOOK creationHook_;
+  HHOOK showHook_;
   std::deque<Expectation> expectations_;
   std::vector<BoxRecord> boxes_;
   std::set<HWND> seen_;  // dialogs that came up and are not yet destroyed

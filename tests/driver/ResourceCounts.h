@@ -6,9 +6,9 @@
 
 struct ResourceCounts {
   int gdiObjects = 0;
-  int windows = 0;        // all of the process, children and message-only windows included
-  int handles = 0;        // kernel objects
-  size_t heapBytes = 0;   // in use in all heaps of the process
+  int windows = 0;       // all of the process, children and message-only windows included
+  int handles = 0;       // kernel objects
+  size_t heapBytes = 0;  // in use in all heaps of the process
 
   ResourceCounts operator-(const ResourceCounts& other) const;
 };

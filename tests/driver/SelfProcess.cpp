@@ -31,6 +31,7 @@ std::string ReadAll(HANDLE pipe) {
   char buffer[4096];
   DWORD count = 0;
   while (ReadFile(pipe, buffer, sizeof buffer, &count, nullptr) && count > 0) output.append(buffer, count);
+  std::erase(output, '\r');
   return output;
 }
 
@@ -60,8 +61,8 @@ ProcessResult RunSelf(const std::wstring& arguments, const std::map<std::wstring
   startup.hStdError = writeEnd;
   PROCESS_INFORMATION process = {};
   ProcessResult result;
-  const BOOL started = CreateProcessW(program, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
-                                      &startup, &process);
+  const BOOL started =
+      CreateProcessW(program, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process);
   CloseHandle(writeEnd);
   if (started) {
     result.output = ReadAll(readEnd);

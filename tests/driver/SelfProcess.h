@@ -7,7 +7,7 @@
 
 struct ProcessResult {
   unsigned long exitCode = 0;
-  std::string output;  // standard output and error together
+  std::string output;  // standard output and error together, lines end in LF
 };
 
 // `arguments` is the command line behind the program's name; `environment` is added to the present one.

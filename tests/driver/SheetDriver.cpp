@@ -3,7 +3,6 @@
 #include <prsht.h>
 
 #include "driver/Text.h"
-#include "driver/Watchdog.h"
 
 namespace {
 
@@ -65,7 +64,9 @@ class ModalRun : public std::enable_shared_from_this<ModalRun> {
         else
           PostMessageW(window, WM_COMMAND, IDCANCEL, 0);
         break;
-      case 1: PostMessageW(window, WM_CLOSE, 0, 0); break;
+      case 1:
+        PostMessageW(window, WM_CLOSE, 0, 0);
+        break;
       case 2:
         if (propertySheet)
           DestroyWindow(window);
@@ -92,7 +93,6 @@ class ModalRun : public std::enable_shared_from_this<ModalRun> {
 }  // namespace
 
 SheetResult SheetDriver::Run(const std::function<INT_PTR()>& showModal, const Sheet::Body& body, Location where) {
-  Watchdog watchdog(timeoutSeconds_);
   const size_t boxesBefore = popups_.Boxes().size();
   const auto run = std::make_shared<ModalRun>(popups_, body, where);
   run->WaitForSheet();

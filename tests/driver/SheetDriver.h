@@ -35,7 +35,7 @@ class SheetDriver {
  public:
   using Location = std::source_location;
 
-  explicit SheetDriver(int timeoutSeconds = 20) : timeoutSeconds_(timeoutSeconds) {}
+  explicit SheetDriver(int timeoutSeconds = Watchdog::kUsualSeconds) : popups_(timeoutSeconds) {}
 
   void ExpectBox(ExpectedBox box, Location where = Location::current()) { popups_.ExpectBox(std::move(box), where); }
   void ExpectDialog(std::function<void(HWND)> drive, Location where = Location::current()) {
@@ -46,7 +46,6 @@ class SheetDriver {
                   Location where = Location::current());
 
  private:
-  int timeoutSeconds_;
   Popups popups_;
 };
 

@@ -3,7 +3,8 @@
 std::string ToUtf8(std::wstring_view text) {
   const int length = static_cast<int>(text.size());
   std::string result(WideCharToMultiByte(CP_UTF8, 0, text.data(), length, nullptr, 0, nullptr, nullptr), '\0');
-  WideCharToMultiByte(CP_UTF8, 0, text.data(), length, result.data(), static_cast<int>(result.size()), nullptr, nullptr);
+  WideCharToMultiByte(CP_UTF8, 0, text.data(), length, result.data(), static_cast<int>(result.size()), nullptr,
+                      nullptr);
   return result;
 }
 
@@ -27,9 +28,7 @@ std::wstring ClassNameOf(HWND window) {
   return name;
 }
 
-bool HasClass(HWND window, const wchar_t* className) {
-  return _wcsicmp(ClassNameOf(window).c_str(), className) == 0;
-}
+bool HasClass(HWND window, const wchar_t* className) { return _wcsicmp(ClassNameOf(window).c_str(), className) == 0; }
 
 std::string DescribeWindow(HWND window) {
   if (!IsWindow(window)) return "(no window)";

@@ -11,9 +11,10 @@
 class Watchdog {
  public:
   static constexpr UINT kExitCode = 97;
+  static constexpr int kUsualSeconds = 20;
 
   // The environment variable NEMPDF_TEST_TIMEOUT, in seconds, overrides `seconds`.
-  explicit Watchdog(int seconds = 20);
+  explicit Watchdog(int seconds = kUsualSeconds);
   ~Watchdog();
   Watchdog(const Watchdog&) = delete;
   Watchdog& operator=(const Watchdog&) = delete;

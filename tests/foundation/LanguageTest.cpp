@@ -4,12 +4,14 @@
 
 #include <gtest/gtest.h>
 
-#include <initializer_list>
+#include <string>
+#include <utility>
 #include <vector>
 
 #include "driver/ImportPatch.h"
 #include "DriverLIB/MessageText.h"
 #include "DriverLIB/ModuleState.h"
+#include "MessageIds.h"
 #include "support/RegistryValue.h"
 #include "support/TestMessages.h"
 
@@ -71,8 +73,10 @@ class LanguageChoiceTest : public LanguageTest {
     return GetUILanguage();
   }
 
-  TestMessages messages{
-      {0x400003E8, 7, L"7%0"}, {0x400003E8, 9, L"9%0"}, {0x400003E8, 12, L"12%0"}, {0x400003E8, 1, L"1%0"}};
+  TestMessages messages{{MSG_LANGUAGE_NUMBER, 7, L"7%0"},
+                        {MSG_LANGUAGE_NUMBER, 9, L"9%0"},
+                        {MSG_LANGUAGE_NUMBER, 12, L"12%0"},
+                        {MSG_LANGUAGE_NUMBER, 1, L"1%0"}};
 };
 
 }  // namespace
@@ -135,6 +139,15 @@ TEST_F(LanguageTest, OldSystemsAreKnownByTheirVersionRecord) {
   recordLanguages = {0x0407};
   version.major = 5;
   EXPECT_EQ(0x0809, SystemLanguageOf(&version));
+}
+
+TEST_F(LanguageTest, TheProductsOwnTablesKnowTheirLanguage) {
+  const uint16_t outer = GetUILanguage();
+  for (uint16_t language : {0x0407, 0x0409, 0x040C, 0x0401, 0x0807}) {
+    SetUILanguage(language);
+    EXPECT_EQ(std::to_wstring(PrimaryLanguage(language)), MessageText(MSG_LANGUAGE_NUMBER).Text());
+  }
+  SetUILanguage(outer);
 }
 
 TEST_F(LanguageChoiceTest, ALanguageWithATableStands) {

@@ -280,3 +280,14 @@ TEST_P(KnownEnglishText, StandsUnderItsNumber) {
 }
 
 INSTANTIATE_TEST_SUITE_P(MessageTable, KnownEnglishText, testing::ValuesIn(kKnownTexts));
+
+TEST(MessageTable, HasATextForEachErrorNumberThatIsKnownAndForNoOther) {
+  constexpr uint32_t kErrorTexts = 0xC000;
+  std::set<uint32_t> known, found;
+  for (const KnownText& row : kKnownTexts)
+    if (row.id >> 16 == kErrorTexts) known.insert(row.id & 0xFFFF);
+  for (const auto& [id, text] : MessageTable(kEnglish))
+    if (id >> 16 == kErrorTexts) found.insert(id & 0xFFFF);
+  EXPECT_EQ(known, found);
+  for (const uint32_t silent : {1u, 118u}) EXPECT_FALSE(found.contains(silent)) << silent;
+}

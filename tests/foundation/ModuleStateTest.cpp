@@ -12,7 +12,7 @@
 #include "DriverLIB/Identity.h"
 #include "DriverLIB/MessageText.h"
 #include "DriverLIB/WindowThreadState.h"
-#include "foundation/FailingNew.h"
+#include "support/FailingNew.h"
 #include "support/RegistryValue.h"
 #include "support/TempFile.h"
 
@@ -22,6 +22,12 @@ constexpr char kKernel[] = "kernel32.dll";
 
 DWORD WINAPI NoSlot() { return TLS_OUT_OF_INDEXES; }
 BOOL WINAPI NoValue(DWORD, void*) { return FALSE; }
+
+int valuesStored = 0;
+BOOL WINAPI NotTheSecondValue(DWORD slot, void* value) {
+  static auto* const real = RealFunction(kKernel, "TlsSetValue", TlsSetValue);
+  return ++valuesStored == 2 ? FALSE : real(slot, value);
+}
 
 int slotsLeft = 0;
 DWORD WINAPI FewSlots() {
@@ -140,6 +146,27 @@ TEST_F(ModuleStateTest, AStateThatCannotBeStoredIsAFailure) {
   RestoreImport(kKernel, "TlsSetValue");
   EXPECT_EQ(nullptr, CurrentError());
   EXPECT_TRUE(InitThreadState(program));
+}
+
+TEST_F(ModuleStateTest, WithoutTheSecondStateTheFirstIsTakenBack) {
+  const std::string name = "second_state-AddInUI-t" + std::to_string(GetCurrentThreadId()) + ".log";
+  TempFile file(name);
+  const ProductValue machine(HKEY_LOCAL_MACHINE, L"TraceFilename");
+  ProductValue user(HKEY_CURRENT_USER, L"TraceFilename");
+  user.Set(L"second_state.log");
+  ASSERT_TRUE(InitModule(program));
+  valuesStored = 0;
+  PatchImport(kKernel, "TlsSetValue", reinterpret_cast<void*>(NotTheSecondValue));
+  EXPECT_FALSE(InitThreadState(program));
+  RestoreImport(kKernel, "TlsSetValue");
+  EXPECT_EQ(3, valuesStored);  // the error state, the window layer's, the error state's end
+  EXPECT_EQ(nullptr, CurrentError());
+  EXPECT_EQ(nullptr, CurrentWindowThreadState());
+  EXPECT_TRUE(file.Text().ends_with(L"Trace closed.\r\n"));  // it has been destroyed
+  EXPECT_TRUE(InitThreadState(program));
+  EXPECT_NE(nullptr, CurrentError());
+  EXPECT_NE(nullptr, CurrentWindowThreadState());
+  FreeThreadState();  // the trace is let go before its file
 }
 
 TEST_F(ModuleStateTest, ExhaustedMemoryLeavesNull) {

@@ -11,7 +11,7 @@
 
 #include "driver/ImportPatch.h"
 #include "DriverLIB/CRegistryEntry.h"
-#include "foundation/FailingNew.h"
+#include "support/FailingNew.h"
 #include "support/RegistryValue.h"
 #include "support/TracedThread.h"
 

@@ -51,10 +51,12 @@ int WriteLanguage(const std::wstring& directory, const std::wstring& language) {
   NemPdfUIHandle dialog = nullptr;
   if (NemPdfUICreateDialog(&dialog) != 1 || !dialog || !FillDialog(dialog)) return 1;
   GalleryResult gallery;
-  SheetDriver(kTimeoutSeconds).Run([dialog] { return NemPdfUIDoModal(dialog); }, [&](Sheet& sheet) -> SheetTask {
-    co_await WriteGallery(sheet, directory, language, gallery);
-    sheet.PressCancel();
-  });
+  SheetDriver(kTimeoutSeconds)
+      .Run([dialog] { return NemPdfUIDoModal(dialog); },
+           [&](Sheet& sheet) -> SheetTask {
+             co_await WriteGallery(sheet, directory, language, gallery);
+             sheet.PressCancel();
+           });
   NemPdfUIFreeDialog(&dialog);
 
   std::printf("%s: %zu pictures", ToUtf8(language).c_str(), gallery.written.size());

@@ -78,14 +78,21 @@ struct HostRun {
 // Runs the host until it ends; `withSheet` is called once with its sheet, when that stands.
 HostRun RunHost(const std::wstring& arguments, const std::function<void(HWND)>& withSheet = {}) {
   SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-  const CTempFile outputFile(L"nempdf-host-output.txt");
-  const CTempFile errorFile(L"nempdf-host-errors.txt");
+  // New names for each run: a process that the system starts beside the host may hold its files open.
+  static int runCount = 0;
+  const std::wstring number = host::FormatNumber(GetCurrentProcessId()) + L"-" + host::FormatNumber(++runCount);
+  const CTempFile outputFile(L"nempdf-host-output-" + number + L".txt");
+  const CTempFile errorFile(L"nempdf-host-errors-" + number + L".txt");
   const auto create = [&](const CTempFile& file) {
-    return CreateFileW(file.Name().c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
+    const HANDLE handle =
+        CreateFileW(file.Name().c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
+    EXPECT_NE(handle, INVALID_HANDLE_VALUE) << GetLastError();
+    return handle;
   };
   STARTUPINFOW startup = {};
   startup.cb = sizeof startup;
   startup.dwFlags = STARTF_USESTDHANDLES;
+  startup.hStdInput = CreateFileW(L"NUL", GENERIC_READ, 0, &inherited, OPEN_EXISTING, 0, nullptr);
   startup.hStdOutput = create(outputFile);
   startup.hStdError = create(errorFile);
 
@@ -109,7 +116,8 @@ HostRun RunHost(const std::wstring& arguments, const std::function<void(HWND)>& 
     }
   }
   GetExitCodeProcess(process.hProcess, &run.exitCode);
-  for (HANDLE handle : {process.hThread, process.hProcess, startup.hStdOutput, startup.hStdError}) CloseHandle(handle);
+  for (HANDLE handle : {process.hThread, process.hProcess, startup.hStdInput, startup.hStdOutput, startup.hStdError})
+    CloseHandle(handle);
   run.output = outputFile.Content().value_or("(none)");
   run.errors = errorFile.Content().value_or("(none)");
   return run;
@@ -239,6 +247,52 @@ TEST(HostProgram, ReadsUtf16) {
     PressCancel(sheet);
   });
   EXPECT_EQ(title, L"\x0645");
+}
+
+// --- The check of configuration files ----------------------------------------------------------------------------
+
+TEST(HostProgram, CheckConfEndsWith0ForGoodFiles) {
+  const CTempFile own(L"nempdf printer \x0645.conf", "DestinationDirectoryOrFilename_Override = C:\\Out\\\r\n");
+  const CTempFile general(L"NEMpdf.conf", "# comment\r\nSaveAction_Override = 24\r\n");
+  const HostRun run = RunHost(L"--check-conf \"" + own.Name() + L"\" \"" + general.Name() + L"\"");
+  EXPECT_EQ(run.exitCode, 0u);
+  EXPECT_FALSE(run.opened);
+  EXPECT_EQ(run.output, host::EncodeUtf8(own.Name()) + ": good, overrides set: 1\n" + host::EncodeUtf8(general.Name()) +
+                            ": good, overrides set: 1\n");
+  EXPECT_EQ(run.errors, "");
+}
+
+TEST(HostProgram, CheckConfEndsWith1AndPrintsAllThatIsWrong) {
+  const CTempFile good(L"nempdf-good.conf", "PdfVersion_Override = 14\r\n");
+  const CTempFile bad(L"nempdf-bad.conf",
+                      "bad\r\nStartActionMailCheck_Override = yes\r\nColorspace_Override = -1\r\n"
+                      "PdfVersion_Override = 12\r\nAuthor_Override = " +
+                          std::string(990, 'a') + "\r\n");
+  const HostRun run = RunHost(L"--check-conf \"" + bad.Name() + L"\" \"" + good.Name() + L"\"");
+  const std::string name = host::EncodeUtf8(bad.Name());
+  EXPECT_EQ(run.exitCode, 1u);
+  EXPECT_EQ(run.output, name + ":1: no \"=\"; the dialog shows an error and stops reading here\n" + name +
+                            ":2: StartActionMailCheck_Override: neither 0 nor 1; the line is ignored\n" + name +
+                            ":3: Colorspace_Override: a negative number; the line is ignored\n" + name +
+                            ":4: PdfVersion_Override: dropped, valid are 13 and more\n" + name +
+                            ":5: longer than 999 bytes; the rest is read as a line of its own\n" + name +
+                            ":5: no \"=\"; the dialog shows an error and stops reading here\n" +
+                            host::EncodeUtf8(good.Name()) + ": good, overrides set: 1\n");
+  EXPECT_EQ(run.errors, "");
+}
+
+TEST(HostProgram, CheckConfEndsWith2ForAFileThatCannotBeRead) {
+  const CTempFile bad(L"nempdf-bad.conf", "bad\r\n");
+  const HostRun run = RunHost(L"--check-conf C:\\no\\such.conf \"" + bad.Name() + L"\"");
+  EXPECT_EQ(run.exitCode, 2u);
+  EXPECT_TRUE(run.errors.starts_with("C:\\no\\such.conf: cannot be read: ")) << run.errors;
+  EXPECT_NE(run.output.find(":1: no"), std::string::npos);  // the others are checked all the same
+}
+
+TEST(HostProgram, CheckConfEndsWith2WithoutAFile) {
+  const HostRun run = RunHost(L"--check-conf");
+  EXPECT_EQ(run.exitCode, 2u);
+  EXPECT_TRUE(run.errors.starts_with("NemPdfUIHost: --check-conf needs a file name\n")) << run.errors;
 }
 
 }  // namespace

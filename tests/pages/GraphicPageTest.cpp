@@ -5,7 +5,7 @@
 #include "pages/CNemUIPdfGraphicPage.h"
 #include "resources/ResourceIds.h"
 #include "support/FakeSheet.h"
-#include "support/HostDialog.h"
+#include "ui/PropertyAccess.h"
 
 namespace {
 
@@ -546,9 +546,10 @@ TEST_F(GraphicPage, CockpitSetsAllButWhatIsFixed) {
       {[](AdminSettings& admin) { admin.GraphicColorReduction_Override = 1; }, {1, 2, 3, 1}},
   };
   for (const Row& row : rows) {
-    admin() = AdminSettings();
-    row.fix(admin());
-    CNemUIPdfGraphicPage page(&sheet_, kDescription, 0);
+    FakeSheet sheet;
+    CopyAllSets(sheet.properties, properties());
+    row.fix(sheet.properties.adminSettings);
+    CNemUIPdfGraphicPage page(&sheet, kDescription, 0);
     page.SetCockpitValues(values);
     EXPECT_EQ(row.expected.compressMethod, page.compressMethod);
     EXPECT_EQ(row.expected.jpegQuality, page.jpegQuality);

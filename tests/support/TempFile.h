@@ -11,6 +11,9 @@ class TempFile {
  public:
   // A name without characters beyond ASCII.
   explicit TempFile(const std::string& name) : name_(name), wideName_(name.begin(), name.end()) { Delete(); }
+  // One that is there already and is to go afterwards.
+  struct Keep {};
+  TempFile(const std::string& name, Keep) : name_(name), wideName_(name.begin(), name.end()) {}
   ~TempFile() { Delete(); }
   TempFile(const TempFile&) = delete;
   TempFile& operator=(const TempFile&) = delete;
@@ -22,16 +25,19 @@ class TempFile {
     std::ofstream(name_, std::ios::binary).write(bytes.data(), static_cast<std::streamsize>(bytes.size()));
   }
 
-  bool Exists() const { return std::ifstream(name_).is_open(); }
+  bool Exists() const { return ExistsNamed(name_); }
+  std::string Bytes() const { return BytesOf(name_); }
+  // The content as 16-bit little-endian text.
+  std::wstring Text() const { return TextOf(name_); }
 
-  std::string Bytes() const {
-    std::ifstream file(name_, std::ios::binary);
+  // Of any file.
+  static bool ExistsNamed(const std::string& name) { return std::ifstream(name).is_open(); }
+  static std::string BytesOf(const std::string& name) {
+    std::ifstream file(name, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
   }
-
-  // The content as 16-bit little-endian text.
-  std::wstring Text() const {
-    const std::string bytes = Bytes();
+  static std::wstring TextOf(const std::string& name) {
+    const std::string bytes = BytesOf(name);
     std::wstring text;
     for (size_t i = 0; i + 1 < bytes.size(); i += 2)
       text +=

@@ -52,7 +52,8 @@ class TracedThread {
       if (character == L'\n') {
         const size_t head = std::wstring_view(L"dd.mm.yyyy hh:mm:ss ").size();
         const size_t number = line.find(L' ', line.find_first_not_of(L' ')) + 1;
-        lines.push_back(line.substr(number + head));
+        // What goes on after a line break of its own has no head.
+        lines.push_back(number + head <= line.size() ? line.substr(number + head) : line);
         line.clear();
       } else if (character != L'\r') {
         line += character;

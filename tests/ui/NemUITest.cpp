@@ -8,10 +8,13 @@
 #include <iterator>
 #include <string>
 
+#include "driver/ImportPatch.h"
 #include "DriverLIB/CError.h"
 #include "DriverLIB/ModuleState.h"
 #include "NemPdfUI.h"
+#include "support/FailingNew.h"
 #include "support/RegistryValue.h"
+#include "support/TracedThread.h"
 #include "ui/PropertyAccess.h"
 
 namespace {
@@ -30,6 +33,8 @@ void OnFreshThread(std::function<void()> body) {
   EXPECT_EQ(WAIT_OBJECT_0, WaitForSingleObject(thread, 60'000));
   CloseHandle(thread);
 }
+
+BOOL WINAPI NoValue(DWORD, void*) { return FALSE; }
 
 class NemUI : public testing::Test {
  protected:
@@ -51,6 +56,7 @@ TEST_F(NemUI, EveryExportTakesUpItsThread) {
       [] { NemPdfUIGetPropertyA(nullptr, 0, nullptr, nullptr, 0); },
       [] { NemPdfUIGetPropertyW(nullptr, 0, nullptr, nullptr, 0); },
       [] { NemPdfUIGetVersion(nullptr); },
+      [] { NemPdfUIShowVersion(); },
   };
   for (const auto& call : exports)
     OnFreshThread([&call] {
@@ -58,6 +64,49 @@ TEST_F(NemUI, EveryExportTakesUpItsThread) {
       call();
       EXPECT_NE(nullptr, CurrentError());
     });
+}
+
+// Each call would give something else than 0, or change something, if the thread could come in.
+TEST_F(NemUI, AThreadThatCannotBeTakenUpGetsZero) {
+  const auto untouched = reinterpret_cast<NemPdfUIHandle>(uintptr_t{0x10});
+  const NemPdfUIHandle handle = handle_;
+  NemPdfUIHandle created = untouched;
+  uint32_t version = 77;
+  int32_t number = 77;
+  const struct {
+    const char* name;
+    std::function<int()> call;
+  } rows[] = {
+      {"CreateDialog", [&] { return NemPdfUICreateDialog(&created); }},
+      {"FreeDialog", [&] { return NemPdfUIFreeDialog(&handle_); }},
+      {"DoModal", [] { return NemPdfUIDoModal(nullptr); }},
+      {"SetPropertyA", [] { return NemPdfUISetPropertyA(nullptr, 0, "Scale", nullptr); }},
+      {"SetPropertyW", [] { return NemPdfUISetPropertyW(nullptr, 0, L"Scale", nullptr); }},
+      {"GetPropertyA", [&] { return NemPdfUIGetPropertyA(handle_, 0, "Scale", &number, 4); }},
+      {"GetPropertyW", [&] { return NemPdfUIGetPropertyW(handle_, 0, L"Scale", &number, 4); }},
+      {"GetVersion", [&] { return NemPdfUIGetVersion(&version); }},
+  };
+  for (const auto& row : rows) {
+    int result = -7;
+    OnFreshThread([&] {
+      PatchImport("kernel32.dll", "TlsSetValue", reinterpret_cast<void*>(NoValue));
+      result = row.call();
+      RestoreImport("kernel32.dll", "TlsSetValue");
+      EXPECT_EQ(nullptr, CurrentError()) << row.name;
+    });
+    EXPECT_EQ(0, result) << row.name;
+  }
+  EXPECT_EQ(untouched, created);
+  EXPECT_EQ(handle, handle_);
+  EXPECT_EQ(77, number);
+  EXPECT_EQ(77u, version);
+}
+
+TEST_F(NemUI, WithoutMemoryForTheObjectANullHandleIsASuccess) {
+  auto created = reinterpret_cast<NemPdfUIHandle>(uintptr_t{0x10});
+  const FailingNew exhausted;
+  EXPECT_EQ(1, NemPdfUICreateDialog(&created));
+  EXPECT_EQ(nullptr, created);
 }
 
 TEST_F(NemUI, VersionWithoutAPlaceLeavesItsErrorPending) {
@@ -118,6 +167,40 @@ TEST_F(NemUI, TheAnsiFormConvertsWithTheCodePageOfTheProcess) {
 }
 
 // --- With a trace ------------------------------------------------------------------------------------------------
+
+TEST_F(NemUI, EachErrorIsTracedWithItsPlace) {
+  TracedThread thread;
+  CPropertySet set;
+  CLongProperty number(L"Number", set), hiddenNumber(L"HiddenNumber", set, 0, 0);
+  CStringProperty text(L"Text", set), hiddenText(L"HiddenText", set, nullptr, 0);
+  wchar_t buffer[8];
+  const struct {
+    std::function<int()> call;
+    const wchar_t* line;
+  } rows[] = {
+      {[] { return NemPdfUIGetVersion(nullptr); }, L"Error: Setze Fehler 29 in ..\\NemUI(282)"},
+      {[&] { return NemPdfUISetPropertyW(handle_, 0, L"No", nullptr); },
+       L"Error: Setze Fehler 99(No) in ..\\NemUI(207)"},
+      {[&] { return NemPdfUIGetPropertyW(handle_, 0, nullptr, buffer, 8); },
+       L"Error: Setze Fehler 29 in ..\\NemUI(220)"},
+      {[&] { return NemPdfUIGetPropertyW(handle_, 0, L"No", buffer, 8); },
+       L"Error: Setze Fehler 99(No) in ..\\NemUI(275)"},
+      {[&] { return hiddenText.GetValue(buffer, 8); }, L"Error: Setze Fehler 2 in ..\\Property(430)"},
+      {[&] { return text.GetValue(buffer, 1); }, L"Error: Setze Fehler 47 in ..\\Property(434)"},
+      {[&] { return text.GetValue(nullptr, 8); }, L"Error: Setze Fehler 29 in ..\\Property(455)"},
+      {[&] { return hiddenText.SetValue(nullptr); }, L"Error: Setze Fehler 3 in ..\\Property(469)"},
+      {[&] { return hiddenNumber.GetValue(buffer, 4); }, L"Error: Setze Fehler 2 in ..\\Property(713)"},
+      {[&] { return number.GetValue(buffer, 3); }, L"Error: Setze Fehler 47 in ..\\Property(716)"},
+      {[&] { return number.GetValue(nullptr, 4); }, L"Error: Setze Fehler 29 in ..\\Property(723)"},
+      {[&] { return hiddenNumber.SetValue(nullptr); }, L"Error: Setze Fehler 3 in ..\\Property(743)"},
+  };
+  for (const auto& row : rows) {
+    EXPECT_EQ(0, row.call());
+    const std::vector<std::wstring> lines = thread.Lines();
+    EXPECT_EQ(row.line, lines.empty() ? std::wstring() : lines.back());
+    ResetError(&thread.Error());
+  }
+}
 
 TEST_F(NemUI, ATraceThatCannotBeOpenedFailsTheFirstCallOnly) {
   ProductValue trace(HKEY_CURRENT_USER, L"TraceFilename");

@@ -65,9 +65,7 @@ class DriverAudit : public testing::Test {
 
 }  // namespace
 
-TEST_F(DriverAudit, SoundPageGivesNoFinding) {
-  EXPECT_EQ(Findings(), Audit(SoundPage(), {.size = kPageSize}));
-}
+TEST_F(DriverAudit, SoundPageGivesNoFinding) { EXPECT_EQ(Findings(), Audit(SoundPage(), {.size = kPageSize})); }
 
 TEST_F(DriverAudit, InventoryListsIdsAndClassesInOrder) {
   EXPECT_EQ("2 Static\n3 Edit\n", InventoryOf(Open(EmptyPage()
@@ -99,8 +97,8 @@ TEST_F(DriverAudit, FindsTextsThatAreWiderOrHigherThanTheirControl) {
   // A check mark takes room that a plain text does not.
   const int width = 60;
   EXPECT_EQ(Findings(), Audit(EmptyPage().Add(L"Static", 1, At(7, 7, width, 8), L"Fifteen letters")));
-  ExpectFinding("needs", EmptyPage().Add(L"Button", 1, At(7, 7, width, 10), L"Fifteen letters",
-                                         BS_AUTOCHECKBOX | kStop));
+  ExpectFinding("needs",
+                EmptyPage().Add(L"Button", 1, At(7, 7, width, 10), L"Fifteen letters", BS_AUTOCHECKBOX | kStop));
   // A doubled ampersand is one letter, a single one none.
   EXPECT_EQ(Findings(), Audit(EmptyPage().Add(L"Button", 1, At(7, 7, 40, 14), L"&aaaaaa", kStop)));
   ExpectFinding("needs", EmptyPage().Add(L"Button", 1, At(7, 7, 40, 14), L"a&&a&&a&&a&&a&&a", kStop));
@@ -228,9 +226,8 @@ TEST_F(DriverAudit, SliderMayHaveItsLabelBelow) {
 }
 
 TEST_F(DriverAudit, FindsALabelWhoseKeyLeadsNowhere) {
-  ExpectFinding("its access key leads to no field", EmptyPage()
-                                                        .Add(L"Static", 1, At(7, 9, 40, 8), L"&Name:")
-                                                        .Add(L"Static", 2, At(7, 30, 40, 8), L"Note"));
+  ExpectFinding("its access key leads to no field",
+                EmptyPage().Add(L"Static", 1, At(7, 9, 40, 8), L"&Name:").Add(L"Static", 2, At(7, 30, 40, 8), L"Note"));
 }
 
 TEST_F(DriverAudit, FindsFieldsWithoutALabelDirectlyBeforeThem) {
@@ -240,9 +237,10 @@ TEST_F(DriverAudit, FindsFieldsWithoutALabelDirectlyBeforeThem) {
   for (const wchar_t* className : kClasses) {
     const DWORD style = kStop | (_wcsicmp(className, L"ComboBox") == 0 ? CBS_DROPDOWNLIST : 0);
     ExpectFinding(kExpected, EmptyPage().Add(className, 1, At(50, 7, 60, 14), L"", style));
-    EXPECT_EQ(Findings(), Audit(EmptyPage()
-                                    .Add(L"Static", 1, At(7, 9, 40, 8), L"Name:")
-                                    .Add(className, 2, At(50, 7, 60, 14), L"", style)));
+    EXPECT_EQ(
+        Findings(),
+        Audit(
+            EmptyPage().Add(L"Static", 1, At(7, 9, 40, 8), L"Name:").Add(className, 2, At(50, 7, 60, 14), L"", style)));
   }
   ExpectFinding(kExpected, EmptyPage()  // the label stands behind its field
                                .Add(L"Static", 1, At(120, 9, 40, 8), L"Name:")
@@ -259,8 +257,8 @@ TEST_F(DriverAudit, TakesTheNameThatAControlAnswers) {
   ASSERT_NE(nullptr, library);
   using Create = HRESULT WINAPI(HWND, LONG, REFIID, void**);
   using Convert = LRESULT WINAPI(REFIID, WPARAM, IUnknown*);
-  static const auto create = reinterpret_cast<Create*>(
-      reinterpret_cast<void*>(GetProcAddress(library, "CreateStdAccessibleObject")));
+  static const auto create =
+      reinterpret_cast<Create*>(reinterpret_cast<void*>(GetProcAddress(library, "CreateStdAccessibleObject")));
   static const auto convert =
       reinterpret_cast<Convert*>(reinterpret_cast<void*>(GetProcAddress(library, "LresultFromObject")));
   static constexpr GUID kAccessible = {0x618736e0, 0x3c3d, 0x11cf, {0x81, 0x0c, 0x00, 0xaa, 0x00, 0x38, 0x9b, 0x71}};
@@ -308,9 +306,8 @@ TEST_F(DriverAudit, FindsTooSmallAPageAndAnUnscaledFont) {
 
 TEST_F(DriverAudit, FindsMissingAndDoubleIds) {
   ExpectFinding("it has no id of its own", EmptyPage().Add(L"Static", -1, At(7, 9, 40, 8), L"Name:"));
-  ExpectFinding("another control has the same id", EmptyPage()
-                                                       .Add(L"Static", 5, At(7, 9, 40, 8), L"Name:")
-                                                       .Add(L"Static", 5, At(7, 29, 40, 8), L"Name:"));
+  ExpectFinding("another control has the same id",
+                EmptyPage().Add(L"Static", 5, At(7, 9, 40, 8), L"Name:").Add(L"Static", 5, At(7, 29, 40, 8), L"Name:"));
 }
 
 TEST_F(DriverAudit, FindsControlsThatReachOutOfTheHost) {

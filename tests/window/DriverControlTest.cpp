@@ -1,35 +1,18 @@
-// The test driver's hands and eyes: controls, keyboard, tabs, pictures and counters.
+// The test driver's hands and eyes: controls, keyboard, tabs.
 #include <windows.h>
 // behind windows.h
 #include <gtest/gtest-spi.h>
 #include <gtest/gtest.h>
 
-#include <cstdio>
-
 #include "driver/Input.h"
-#include "driver/Picture.h"
-#include "driver/ResourceCounts.h"
-#include "driver/SheetDriver.h"
-#include "DriverTestSheet.h"
+#include "DriverFixture.h"
 
 using namespace driver_test;
 using Events = std::vector<std::string>;
 
 namespace {
 
-class DriverControl : public testing::Test {
- protected:
-  // Runs the steps on an open sheet and closes it with OK.
-  void With(const Sheet::Body& steps) {
-    RunSheet([this] { return test_.Show(); },
-             [&steps](Sheet& sheet) -> SheetTask {
-               co_await steps(sheet);
-               if (sheet.IsOpen()) sheet.PressOk();
-             });
-  }
-
-  TestSheet test_;
-};
+class DriverControl : public Driver {};
 
 }  // namespace
 
@@ -205,12 +188,13 @@ TEST_F(DriverControl, AccessKeysAndTypingReachTheControls) {
 
 TEST_F(DriverControl, EnterIsOkAndEscIsCancel) {
   for (WORD key : {VK_RETURN, VK_ESCAPE}) {
-    const auto result = RunSheet([this] { return test_.Show(); }, [key](Sheet& sheet) -> SheetTask {
-      sheet.Control(kCheck).Focus();
-      sheet.Key(key);
-      co_await sheet.Settled();
-      EXPECT_FALSE(sheet.IsOpen());
-    });
+    const auto result = RunSheet([this] { return test_.Show(); },
+                                 [key](Sheet& sheet) -> SheetTask {
+                                   sheet.Control(kCheck).Focus();
+                                   sheet.Key(key);
+                                   co_await sheet.Settled();
+                                   EXPECT_FALSE(sheet.IsOpen());
+                                 });
     EXPECT_EQ(key == VK_RETURN ? 1 : 0, result.value);
   }
 }
@@ -287,68 +271,4 @@ TEST_F(DriverControl, HelpButtonAsksThePage) {
     co_await sheet.Settled();
     EXPECT_TRUE(test_.Saw("help"));
   });
-}
-
-// --- Pictures and counters --------------------------------------------------------------------------------------
-
-TEST_F(DriverControl, CapturesTheSheetAndWritesAPng) {
-  wchar_t path[MAX_PATH];
-  GetTempPathW(MAX_PATH, path);
-  const std::wstring file = std::wstring(path) + L"nempdf-driver-test.png";
-  With([&file](Sheet& sheet) -> SheetTask {
-    const Picture picture = Capture(sheet.Window());
-    RECT bounds = {};
-    GetWindowRect(sheet.Window(), &bounds);
-    EXPECT_EQ(bounds.right - bounds.left, picture.width);
-    EXPECT_GT(picture.ColourCount(), 20);
-    EXPECT_TRUE(SavePng(picture, file));
-    const Picture corner = Cut(picture, {picture.width - 3, -5, picture.width + 9, 2});
-    EXPECT_EQ(3, corner.width);
-    EXPECT_EQ(2, corner.height);
-    EXPECT_EQ(picture.At(picture.width - 3, 0), corner.At(0, 0));
-    co_return;
-  });
-  std::FILE* written = _wfopen(file.c_str(), L"rb");
-  ASSERT_NE(nullptr, written);
-  char signature[9] = {};
-  EXPECT_EQ(8u, std::fread(signature, 1, 8, written));
-  std::fclose(written);
-  DeleteFileW(file.c_str());
-  EXPECT_STREQ("\x89PNG\r\n\x1A\n", signature);
-}
-
-TEST(DriverCounts, SeeEachKindOfResource) {
-  const ResourceCounts before = Count();
-  HBRUSH brushes[10];
-  for (HBRUSH& brush : brushes) brush = CreateSolidBrush(5);
-  HANDLE events[7];
-  for (HANDLE& event : events) event = CreateEventW(nullptr, FALSE, FALSE, nullptr);
-  const HWND window = CreateWindowExW(0, L"Static", nullptr, 0, 0, 0, 0, 0, HWND_MESSAGE, nullptr, nullptr, nullptr);
-  void* block = HeapAlloc(GetProcessHeap(), 0, 100000);
-  const ResourceCounts held = Count() - before;
-  HeapFree(GetProcessHeap(), 0, block);
-  DestroyWindow(window);
-  for (HANDLE event : events) CloseHandle(event);
-  for (HBRUSH brush : brushes) DeleteObject(brush);
-  const ResourceCounts after = Count() - before;
-
-  EXPECT_EQ(10, held.gdiObjects);
-  EXPECT_EQ(7, held.handles);
-  EXPECT_EQ(1, held.windows);
-  EXPECT_GE(held.heapBytes, 100000u);
-  EXPECT_EQ(0, after.gdiObjects);
-  EXPECT_EQ(0, after.handles);
-  EXPECT_EQ(0, after.windows);
-}
-
-TEST_F(DriverControl, LeavesNothingBehind) {
-  const auto run = [this] { With([](Sheet& sheet) -> SheetTask { co_await sheet.Settled(); }); };
-  run();
-  run();
-  const ResourceCounts before = Count();
-  for (int i = 0; i < 5; ++i) run();
-  const ResourceCounts grown = Count() - before;
-  EXPECT_EQ(0, grown.gdiObjects) << Describe(grown);
-  EXPECT_EQ(0, grown.windows) << Describe(grown);
-  EXPECT_EQ(0, grown.handles) << Describe(grown);
 }

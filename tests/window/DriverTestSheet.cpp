@@ -27,7 +27,8 @@ const DialogTemplate& ChildTemplate() {
     page.Add(TRACKBAR_CLASSW, kSlider, At(7, 60, 80, 15), L"", WS_TABSTOP);
     page.Add(L"ScrollBar", kScrollBar, At(90, 60, 80, 10), L"", SBS_HORZ);
     page.Add(L"ListBox", kListBox, At(7, 80, 60, 30), L"", LBS_NOTIFY | WS_BORDER | WS_VSCROLL | WS_TABSTOP);
-    page.Add(WC_LISTVIEWW, kListView, At(70, 80, 100, 40), L"", LVS_REPORT | LVS_SHOWSELALWAYS | WS_BORDER | WS_TABSTOP);
+    page.Add(WC_LISTVIEWW, kListView, At(70, 80, 100, 40), L"",
+             LVS_REPORT | LVS_SHOWSELALWAYS | WS_BORDER | WS_TABSTOP);
     page.Add(L"Button", kBoxButton, At(180, 7, 60, 14), L"Bo&x", WS_TABSTOP);
     page.Add(L"Button", kTwoBoxesButton, At(180, 23, 60, 14), L"Two", WS_TABSTOP);
     page.Add(L"Button", kDialogButton, At(180, 39, 60, 14), L"Dialog", WS_TABSTOP);
@@ -63,7 +64,6 @@ const DialogTemplate& PopupTemplate() {
   return dialog;
 }
 
-// `parameter` not 0: Cancel and the close box do nothing.
 INT_PTR CALLBACK PopupProcedure(HWND dialog, UINT message, WPARAM wParam, LPARAM parameter) {
   if (message == WM_INITDIALOG) SetWindowLongPtrW(dialog, GWLP_USERDATA, parameter);
   if (message == WM_COMMAND && LOWORD(wParam) == IDOK)
@@ -82,12 +82,12 @@ std::string NotificationName(HWND control, int code) {
     const char* name;
   };
   static const Name kNames[] = {
-      {L"Button", BN_CLICKED, "BN_CLICKED"},          {L"Edit", EN_CHANGE, "EN_CHANGE"},
-      {L"Edit", EN_SETFOCUS, "EN_SETFOCUS"},          {L"Edit", EN_KILLFOCUS, "EN_KILLFOCUS"},
-      {L"ComboBox", CBN_SELCHANGE, "CBN_SELCHANGE"},  {L"ComboBox", CBN_DROPDOWN, "CBN_DROPDOWN"},
-      {L"ComboBox", CBN_CLOSEUP, "CBN_CLOSEUP"},      {L"ComboBox", CBN_SELENDOK, "CBN_SELENDOK"},
-      {L"ComboBox", CBN_SETFOCUS, "CBN_SETFOCUS"},    {L"ComboBox", CBN_EDITCHANGE, "CBN_EDITCHANGE"},
-      {L"ComboBox", CBN_KILLFOCUS, "CBN_KILLFOCUS"},  {L"ComboBox", CBN_SELENDCANCEL, "CBN_SELENDCANCEL"},
+      {L"Button", BN_CLICKED, "BN_CLICKED"},         {L"Edit", EN_CHANGE, "EN_CHANGE"},
+      {L"Edit", EN_SETFOCUS, "EN_SETFOCUS"},         {L"Edit", EN_KILLFOCUS, "EN_KILLFOCUS"},
+      {L"ComboBox", CBN_SELCHANGE, "CBN_SELCHANGE"}, {L"ComboBox", CBN_DROPDOWN, "CBN_DROPDOWN"},
+      {L"ComboBox", CBN_CLOSEUP, "CBN_CLOSEUP"},     {L"ComboBox", CBN_SELENDOK, "CBN_SELENDOK"},
+      {L"ComboBox", CBN_SETFOCUS, "CBN_SETFOCUS"},   {L"ComboBox", CBN_EDITCHANGE, "CBN_EDITCHANGE"},
+      {L"ComboBox", CBN_KILLFOCUS, "CBN_KILLFOCUS"}, {L"ComboBox", CBN_SELENDCANCEL, "CBN_SELENDCANCEL"},
       {L"ListBox", LBN_SELCHANGE, "LBN_SELCHANGE"},
   };
   for (const Name& name : kNames)
@@ -140,10 +140,11 @@ void OnButton(TestSheet& sheet, HWND page, int id) {
       break;
     case kDialogButton:
     case kStubbornButton:
-      sheet.dialogAnswer = static_cast<int>(
-          DialogBoxIndirectParamW(nullptr, PopupTemplate().Get(), page, PopupProcedure, id == kStubbornButton));
+      sheet.dialogAnswer = static_cast<int>(TestSheet::ShowDialog(id == kStubbornButton, page));
       break;
-    case kSlideButton: SetTimer(page, kSlideTimer, 30, nullptr); break;
+    case kSlideButton:
+      SetTimer(page, kSlideTimer, 30, nullptr);
+      break;
     case kPostButton:
       PostMessageW(page, kPosted, 3, 0);
       InvalidateRect(page, nullptr, TRUE);
@@ -189,11 +190,15 @@ INT_PTR CALLBACK ChildProcedure(HWND page, UINT message, WPARAM wParam, LPARAM l
         Owner(page).events.push_back("LVN_ITEMCHANGED " + std::to_string(kListView));
       return FALSE;
     }
-    case WM_HSCROLL: OnScroll(Owner(page), page, wParam, lParam); return TRUE;
+    case WM_HSCROLL:
+      OnScroll(Owner(page), page, wParam, lParam);
+      return TRUE;
     case WM_TIMER:
       if (++Owner(page).slideSteps == kSlideSteps) KillTimer(page, kSlideTimer);
       return TRUE;
-    case WM_PAINT: Owner(page).painted = true; return FALSE;
+    case WM_PAINT:
+      Owner(page).painted = true;
+      return FALSE;
     case kPosted:
       Owner(page).events.push_back("posted " + std::to_string(wParam));
       if (wParam > 1) PostMessageW(page, kPosted, wParam - 1, 0);
@@ -214,7 +219,9 @@ INT_PTR OnNotify(HWND host, const NMHDR& header) {
       sheet.events.push_back("apply " + std::to_string(tab));
       SetWindowLongPtrW(host, DWLP_MSGRESULT, PSNRET_NOERROR);
       return TRUE;
-    case PSN_HELP: sheet.events.push_back("help"); return TRUE;
+    case PSN_HELP:
+      sheet.events.push_back("help");
+      return TRUE;
   }
   return FALSE;
 }
@@ -235,7 +242,8 @@ INT_PTR CALLBACK HostProcedure(HWND host, UINT message, WPARAM wParam, LPARAM lP
       SetWindowLongPtrW(host, DWLP_MSGRESULT,
                         LOWORD(wParam) == kFirstPage && reinterpret_cast<HWND>(lParam) == GetDlgItem(host, 100));
       return TRUE;
-    case WM_NOTIFY: return OnNotify(host, *reinterpret_cast<NMHDR*>(lParam));
+    case WM_NOTIFY:
+      return OnNotify(host, *reinterpret_cast<NMHDR*>(lParam));
   }
   return FALSE;
 }
@@ -261,6 +269,10 @@ INT_PTR TestSheet::Show() {
   header.nPages = ARRAYSIZE(pages);
   header.ppsp = pages;
   return PropertySheetW(&header);
+}
+
+INT_PTR TestSheet::ShowDialog(bool stubborn, HWND owner) {
+  return DialogBoxIndirectParamW(nullptr, PopupTemplate().Get(), owner, PopupProcedure, stubborn);
 }
 
 int TestSheet::Count(const std::string& event) const {

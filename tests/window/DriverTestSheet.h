@@ -22,6 +22,9 @@ constexpr wchar_t kBoxTitle[] = L"NEM test", kBoxText[] = L"Delete the profile \
 class TestSheet {
  public:
   INT_PTR Show();
+  // A plain dialog with an edit: 1000 and the length of its text after OK. A stubborn one takes no Cancel.
+  static INT_PTR ShowDialog(bool stubborn = false, HWND owner = nullptr);
+
   bool Saw(const std::string& event) const { return Count(event) > 0; }
   int Count(const std::string& event) const;
   // The notifications of one control, in their order.

@@ -1,0 +1,48 @@
+// A box that a page shows over its controls: a text on a ground of its own, drawn by this object. Nobody can operate
+// it.
+#pragma once
+
+#include "window/CAccessibility.h"
+#include "window/CSubclassedControl.h"
+#include "window/Gdi.h"
+
+class CNoteBox : public CSubclassed<CButton>, private CAccessibleSource {
+ public:
+  // Ends the window as well.
+  ~CNoteBox() override;
+
+  // Creates the window, in place of an earlier one, as a child of `parent`, on top of its other children, and shows it.
+  // The rectangle is in client coordinates. False when there is no window.
+  bool Create(const CWnd& parent, int id, const RECT& rect);
+
+  void Destroy();
+
+  // The text in the box.
+  virtual const CUString& NoteText() const = 0;
+
+ protected:
+  struct NoteStyle {
+    int points;
+    int weight;
+    bool italic;
+  };
+  explicit CNoteBox(const NoteStyle& style) : style_(style) {}
+
+  virtual void Draw(HDC dc, const RECT& client) const = 0;
+  // Draws the text in the box's font, broken into lines. `format` is added to that.
+  void DrawNote(HDC dc, RECT rect, COLORREF color, UINT format = 0) const;
+
+  void OnDestroyed() override { accessibility_.Disconnect(); }
+  bool OnWindowMessage(WindowMessage& message) override;
+  bool OnReflected(WindowMessage& message) override;
+
+ private:
+  HWND AccessibleWindow() const override { return Handle(); }
+  CUString PartName(int) const override { return NoteText(); }
+  int PartState(int) const override;
+  RECT PartRect(int) const override { return ClientRect(); }
+
+  const NoteStyle style_;
+  GdiFont font_;
+  CAccessibility accessibility_;
+};

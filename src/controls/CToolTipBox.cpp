@@ -1,0 +1,61 @@
+#include "controls/CToolTipBox.h"
+
+// behind Windows.h
+#include <oleacc.h>
+
+#include "controls/ToolTipPlacement.h"
+
+namespace {
+
+constexpr COLORREF kGroundColor = 0xC8FFFF;
+constexpr COLORREF kFrameColor = 0x3C3C3C;
+constexpr int kInset = 2;  // pixels at 96 dpi
+
+}  // namespace
+
+bool CToolTipBox::Open(const CWnd& page, int id) {
+  const RECT client = page.ClientRect();
+  const IntRect place = PlaceToolTip(lineCount, widthInCharacters, mousePosition,
+                                     {client.left, client.top, client.right, client.bottom}, page.Dpi());
+  return Create(page, id, {place.left, place.top, place.right, place.bottom});
+}
+
+void CToolTipBox::Draw(HDC dc, const RECT& client) const {
+  const bool highContrast = IsHighContrast();
+  const GdiBrush ground(::CreateSolidBrush(highContrast ? ::GetSysColor(COLOR_INFOBK) : kGroundColor));
+  const GdiBrush frame(::CreateSolidBrush(highContrast ? ::GetSysColor(COLOR_INFOTEXT) : kFrameColor));
+  ::FillRect(dc, &client, ground.Get());
+  ::FrameRect(dc, &client, frame.Get());
+  RECT inside = client;
+  ::InflateRect(&inside, -Scale(kInset), -Scale(kInset));
+  DrawNote(dc, inside, highContrast ? ::GetSysColor(COLOR_INFOTEXT) : RGB(0, 0, 0));
+}
+
+void CToolTipBox::OnMouseMove(WPARAM keys, LPARAM point) const {
+  const CWnd page = Parent();
+  POINT onPage{GET_X_LPARAM(point), GET_Y_LPARAM(point)};
+  ::MapWindowPoints(Handle(), page.Handle(), &onPage, 1);
+  // When a window appears under it, the system reports the mouse anew though it stands still.
+  if (onPage.x == mousePosition.x && onPage.y == mousePosition.y) return;
+  page.Send(WM_MOUSEMOVE, keys, MAKELPARAM(onPage.x, onPage.y));
+}
+
+bool CToolTipBox::OnWindowMessage(WindowMessage& message) {
+  switch (message.message) {
+    case WM_NCHITTEST:
+      // The box stands under the mouse: what lies below must not be hovered or clicked through it.
+      message.result = HTCLIENT;
+      return true;
+    case WM_MOUSEMOVE:
+      OnMouseMove(message.wParam, message.lParam);
+      return true;
+    case WM_LBUTTONDOWN:
+    case WM_LBUTTONDBLCLK:
+    case WM_LBUTTONUP:
+      return true;  // takes no focus
+    default:
+      return CNoteBox::OnWindowMessage(message);
+  }
+}
+
+int CToolTipBox::PartRole(int) const { return ROLE_SYSTEM_TOOLTIP; }

@@ -1,0 +1,28 @@
+#include "Component.h"
+
+EXPORT int NemPdfGetVersion(uint32_t* version) {
+#ifdef VERSION_FAILS
+  (void)version;
+  return 0;
+#else
+  *version = 0x2100004;
+  return 1;
+#endif
+}
+
+#ifdef LACKS_THIRD_EXPORT
+EXPORT int NemPdfGetErrorText(uint32_t code, char* buffer, int size) {
+  return code == 5 ? Answer(buffer, size, "fifth") : 0;
+}
+#else
+COMMON_FUNCTIONS(NemPdf)
+#endif
+
+EXPORT int NemPdfMerge(const char* first, const char* second, const char* target) {
+  (void)target;
+  return Note("NemPdfMerge", first, second);
+}
+EXPORT int NemPdfJoin(const char* first, const char* second, const char* target) {
+  (void)first;
+  return Note("NemPdfJoin", second, target);
+}

@@ -1,0 +1,74 @@
+#include "Component.h"
+
+static int theJob;
+EXPORT int openJobs; /* created and not yet freed */
+
+EXPORT int NemPrGetVersion(uint32_t* version) {
+#ifdef MINOR_0
+  *version = 0x2000004;
+#else
+  *version = 0x2100004;
+#endif
+  return 1;
+}
+EXPORT int NemPrGetVersionText(char* buffer, int size) { return Answer(buffer, size, "2.10.4 raw"); }
+
+COMMON_FUNCTIONS(NemPr)
+
+NOTED_ONE(NemPrPrint)
+EXPORT int NemPrShowPrintDialog(void* owner) { return Note("NemPrShowPrintDialog", owner ? "owner" : 0, 0); }
+
+#ifndef MINOR_0
+NOTED_ONE(NemPrLoad)
+NOTED_ONE(NemPrSave)
+NOTED_ONE(NemPrLoad2)
+NOTED_ONE(NemPrSave2)
+NOTED_ONE(NemPrPrint2)
+EXPORT int NemPrShowPrintSetupDialog(void* owner) { return Note("NemPrShowPrintSetupDialog", owner ? "owner" : 0, 0); }
+NOTED_ONE(NemMailSend)
+#endif
+
+EXPORT int NemPrJobCreate(void** job) {
+#if defined(CREATE_FAILS)
+  *job = 0;
+  return 0;
+#elif defined(CREATE_GIVES_NO_HANDLE)
+  *job = 0;
+  return 1;
+#else
+  *job = &theJob;
+  ++openJobs;
+  return 1;
+#endif
+}
+EXPORT int NemPrJobFree(void** job) {
+  openJobs -= *job == &theJob;
+  *job = 0;
+  return 1;
+}
+
+static const char* Name(void* job) { return job == &theJob ? "job" : "none"; }
+
+#define JOB_FUNCTION(name) \
+  EXPORT int name(void* job, const char* filename) { return Note(#name, Name(job), filename); }
+JOB_FUNCTION(NemPrJobLoad)
+JOB_FUNCTION(NemPrJobSave)
+JOB_FUNCTION(NemPrJobPrint)
+JOB_FUNCTION(NemPrJobConvert)
+JOB_FUNCTION(NemPrJobMailSend)
+
+EXPORT int NemPrJobSetProperty(void* job, const char* name, const char* value) {
+  (void)name;
+  return Note("NemPrJobSetProperty", Name(job), value);
+}
+EXPORT int NemPrJobGetProperty(void* job, const char* name, char* buffer, int size) {
+  (void)name;
+  return Answer(buffer, size, job == &theJob ? "of the job" : "");
+}
+EXPORT int NemPrJobGetError(void* job, uint32_t* code) {
+  *code = job == &theJob ? 77 : 0;
+  return 1;
+}
+EXPORT int NemPrJobGetErrorText(void* job, char* buffer, int size) {
+  return Answer(buffer, size, job == &theJob ? "error of the job" : "");
+}

@@ -1,0 +1,525 @@
+// The bindings, on sibling libraries made for the tests (tests/components).
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+
+#include "environment/NemEpdfDll.h"
+#include "environment/NemPdfmDll.h"
+#include "environment/NemPrintJob.h"
+#include "environment/NemVdApiDll.h"
+#include "support/ComponentFolder.h"
+
+namespace {
+
+constexpr wchar_t kPdf[] = L"NemPdf64.dll";
+constexpr wchar_t kPrint[] = L"NemPrt64.dll";
+
+// The calls that a component of the tests has noted, and forgets then.
+std::string TakeCalls(HDllBase& component) {
+  void* calls = nullptr;
+  if (!component.GetProc(L"calls", calls)) return "no component";
+  std::string result(static_cast<char*>(calls));
+  *static_cast<char*>(calls) = '\0';
+  return result;
+}
+
+template <class Binding>
+std::string VersionText(const Binding& component) {
+  CEString text("old");
+  component.GetVersionText(text);
+  return text.Text();
+}
+
+template <class Binding>
+std::string Property(Binding& component, const char* name) {
+  char buffer[64] = "";
+  return component.GetProperty(name, buffer, sizeof buffer) ? buffer : "failed";
+}
+
+// The least that a component can be.
+struct PlainDll : HDll {
+  bool Load(int, const wchar_t* directory, const wchar_t* filename) override {
+    return LoadFile(directory, filename, L"default.dll");
+  }
+};
+
+int OpenJobs(HMODULE module) {
+  return *reinterpret_cast<int*>(reinterpret_cast<void*>(GetProcAddress(module, "openJobs")));
+}
+
+}  // namespace
+
+// --- HDllBase, HDll ----------------------------------------------------------------------------------------------
+
+TEST(HDllBase, StartsUnloaded) {
+  HDllBase dll;
+  EXPECT_FALSE(dll.IsLoaded());
+  EXPECT_EQ(nullptr, dll.GetModule());
+  EXPECT_EQ(0u, dll.lastError);
+  EXPECT_TRUE(dll.path.IsEmpty());
+  EXPECT_TRUE(dll.FreeModule());
+}
+
+TEST(HDllBase, KeepsModuleAndFullPath) {
+  const std::wstring file = ComponentFolder(L"complete") + L"NemEpdf64.dll";
+  HDllBase dll;
+  ASSERT_TRUE(dll.LoadLibrary(file.c_str()));
+  EXPECT_EQ(GetModuleHandleW(L"NemEpdf64.dll"), dll.GetModule());
+  EXPECT_EQ(0, lstrcmpiW(file.c_str(), dll.path.Text()));
+  EXPECT_EQ(0u, dll.lastError);
+}
+
+TEST(HDllBase, StaysWithItsFile) {
+  HDllBase dll;
+  ASSERT_TRUE(dll.LoadLibrary((ComponentFolder(L"complete") + L"NemEpdf64.dll").c_str()));
+  const HMODULE module = dll.GetModule();
+  EXPECT_TRUE(dll.LoadLibrary(L"kernel32.dll"));
+  EXPECT_EQ(module, dll.GetModule());
+}
+
+TEST(HDllBase, KeepsTheSystemsErrorOfAFailedLoad) {
+  HDllBase dll;
+  EXPECT_FALSE(dll.LoadLibrary(L"C:\\no such folder\\none.dll"));
+  EXPECT_FALSE(dll.IsLoaded());
+  EXPECT_TRUE(dll.lastError == ERROR_MOD_NOT_FOUND || dll.lastError == ERROR_PATH_NOT_FOUND) << dll.lastError;
+}
+
+TEST(HDllBase, StoresNullForAMissingFunction) {
+  HDllBase dll;
+  ASSERT_TRUE(dll.LoadLibrary(L"kernel32.dll"));
+  void* pointer = &dll;
+  EXPECT_FALSE(dll.GetProc(L"NoSuchFunction", pointer));
+  EXPECT_EQ(nullptr, pointer);
+  EXPECT_EQ(static_cast<DWORD>(ERROR_PROC_NOT_FOUND), dll.lastError);
+  EXPECT_TRUE(dll.GetProc(L"GetTickCount", pointer));
+  EXPECT_EQ(reinterpret_cast<void*>(GetProcAddress(dll.GetModule(), "GetTickCount")), pointer);
+}
+
+TEST(HDllBase, FreesItsLibraryAtTheEnd) {
+  {
+    HDllBase dll;
+    ASSERT_TRUE(dll.LoadLibrary((ComponentFolder(L"complete") + L"NemPdfVdApi64.dll").c_str()));
+    EXPECT_NE(nullptr, GetModuleHandleW(L"NemPdfVdApi64.dll"));
+  }
+  EXPECT_EQ(nullptr, GetModuleHandleW(L"NemPdfVdApi64.dll"));
+}
+
+TEST(HDllBase, ClearsTheModuleEvenWhenFreeingFails) {
+  HDllBase dll;
+  dll.module = reinterpret_cast<HMODULE>(0x10000);
+  EXPECT_FALSE(dll.FreeModule());
+  EXPECT_FALSE(dll.IsLoaded());
+  EXPECT_NE(0u, dll.lastError);
+}
+
+TEST(HDllBase, InitForgetsWithoutFreeing) {
+  const HMODULE module = LoadLibraryW((ComponentFolder(L"complete") + L"NemPdfVdApi64.dll").c_str());
+  {
+    HDllBase dll;
+    dll.module = module;
+    dll.path = L"x";
+    dll.lastError = 5;
+    dll.Init();
+    EXPECT_FALSE(dll.IsLoaded());
+    EXPECT_TRUE(dll.path.IsEmpty());
+    EXPECT_EQ(0u, dll.lastError);
+  }
+  EXPECT_TRUE(FreeLibrary(module));
+}
+
+TEST(HDll, HasNoNameAndNoVersion) {
+  PlainDll dll;
+  CEString text("old");
+  dll.GetName(text);
+  EXPECT_TRUE(text.IsEmpty());
+  EXPECT_EQ("", VersionText(dll));
+}
+
+TEST(HDll, PutsNothingBetweenDirectoryAndFile) {
+  const std::wstring folder = ComponentFolder(L"complete");
+  NemPdfmDll withSeparator, without;
+  EXPECT_TRUE(withSeparator.Load(1, folder.c_str(), kPdf));
+  EXPECT_FALSE(without.Load(1, folder.substr(0, folder.size() - 1).c_str(), kPdf));
+  EXPECT_FALSE(without.IsLoaded());
+  EXPECT_NE(0u, without.lastError);
+}
+
+TEST(HDll, TakesItsUsualFileForNullOrEmpty) {
+  const std::wstring folder = ComponentFolder(L"complete");
+  for (const wchar_t* filename : {static_cast<const wchar_t*>(nullptr), L""}) {
+    NemEpdfDll epdf;
+    NemVdApiDll vdApi;
+    EXPECT_TRUE(epdf.Load(1, folder.c_str(), filename));
+    EXPECT_TRUE(vdApi.Load(1, folder.c_str(), filename));
+    // The other two have the names of 32-bit files, which are not there.
+    NemPdfmDll pdf;
+    NemPrintDll print;
+    EXPECT_FALSE(pdf.Load(1, folder.c_str(), filename));
+    EXPECT_FALSE(print.Load(1, folder.c_str(), filename));
+    EXPECT_FALSE(pdf.IsLoaded() || print.IsLoaded());
+  }
+}
+
+TEST(HDll, HasTheUsual32BitFileNamesOfPdfAndPrint) {
+  const std::wstring folder = ComponentFolder(L"complete"), own = ComponentFolder(L"renamed");
+  CreateDirectoryW(own.c_str(), nullptr);
+  for (const auto& [from, to] : {std::pair(kPdf, L"NemPdf32.dll"), std::pair(kPrint, L"NemPrt32.dll")})
+    ASSERT_TRUE(CopyFileW((folder + from).c_str(), (own + to).c_str(), FALSE));
+  {
+    NemPdfmDll pdf;
+    NemPrintDll print;
+    EXPECT_TRUE(pdf.Load(1, own.c_str(), nullptr));
+    EXPECT_TRUE(print.Load(1, own.c_str(), nullptr));
+    ASSERT_TRUE(SetDllDirectoryW(own.c_str()));
+    NemPrintJob job;
+    EXPECT_TRUE(job.LoadDefault());
+    EXPECT_NE(nullptr, job.jobHandle);
+    SetDllDirectoryW(nullptr);
+  }
+  for (const wchar_t* file : {L"NemPdf32.dll", L"NemPrt32.dll"}) DeleteFileW((own + file).c_str());
+  RemoveDirectoryW(own.c_str());
+}
+
+TEST(HDll, LeavesTheSearchToThePlatformWithoutADirectory) {
+  for (const wchar_t* directory : {static_cast<const wchar_t*>(nullptr), L""}) {
+    NemEpdfDll before;
+    EXPECT_FALSE(before.Load(1, directory, nullptr));
+    ASSERT_TRUE(SetDllDirectoryW(ComponentFolder(L"complete").c_str()));
+    NemEpdfDll found;
+    EXPECT_TRUE(found.Load(1, directory, nullptr));
+    SetDllDirectoryW(nullptr);
+  }
+}
+
+// --- All bindings ------------------------------------------------------------------------------------------------
+
+template <class Binding>
+void ExpectNames(const char* name, const char* shortName) {
+  const Binding component;
+  CEString text;
+  component.GetName(text);
+  EXPECT_STREQ(name, text.Text());
+  component.GetShortName(text);
+  EXPECT_STREQ(shortName, text.Text());
+}
+
+TEST(Bindings, HaveTheirNames) {
+  ExpectNames<NemVdApiDll>("NEM Tiff vonder API", "NEM Pdf vonder API");
+  ExpectNames<NemEpdfDll>("NEM pdf toolbox", "Epdf");
+  ExpectNames<NemPdfmDll>("NEM pdf toolbox", "Pdftoolbox");
+  ExpectNames<NemPrintDll>("NEM print", "Print");
+}
+
+template <class Binding>
+void ExpectNothingBeforeLoad() {
+  Binding component;
+  char buffer[8] = "";
+  uint32_t number = 0;
+  EXPECT_EQ(0, component.SetProperty("a", "b"));
+  EXPECT_EQ(0, component.GetProperty("a", buffer, sizeof buffer));
+  EXPECT_EQ(0, component.GetLastError(&number));
+  EXPECT_EQ(0, component.GetLastErrorText(buffer, sizeof buffer));
+  EXPECT_EQ(0, component.GetErrorText(5, buffer, sizeof buffer));
+  EXPECT_EQ(0, component.GetVersion(&number));
+  EXPECT_EQ("n/a", VersionText(component));
+}
+
+TEST(Bindings, AnswerNothingBeforeTheyAreLoaded) {
+  ExpectNothingBeforeLoad<NemVdApiDll>();
+  ExpectNothingBeforeLoad<NemEpdfDll>();
+  ExpectNothingBeforeLoad<NemPdfmDll>();
+  ExpectNothingBeforeLoad<NemPrintDll>();
+  ExpectNothingBeforeLoad<NemPrintJobDll>();
+  ExpectNothingBeforeLoad<NemPrintJob>();
+  NemPrintJob job;
+  EXPECT_EQ(0, job.LoadJob("f") + job.SaveJob("f") + job.MailSendJob("f") + job.Print("f"));
+}
+
+TEST(Bindings, OnlyPrintHasAPropertyTable) {
+  EXPECT_EQ(nullptr, NemVdApiDll().GetPropertyTable());
+  EXPECT_EQ(nullptr, NemEpdfDll().GetPropertyTable());
+  EXPECT_EQ(nullptr, NemPdfmDll().GetPropertyTable());
+  EXPECT_EQ(kPrintPropertyTable, NemPrintDll().GetPropertyTable());
+  EXPECT_EQ(kPrintPropertyTable, NemPrintJob().GetPropertyTable());
+}
+
+template <class Binding>
+void ExpectPassesOn(Binding& component, const char* prefix) {
+  char buffer[64] = "";
+  uint32_t number = 0;
+  EXPECT_EQ(1, component.SetProperty("name", "value"));
+  EXPECT_EQ(std::string(prefix) + "SetProperty(name,value)\n", TakeCalls(component));
+  EXPECT_EQ("asked", Property(component, "asked"));
+  EXPECT_EQ(1, component.GetLastError(&number));
+  EXPECT_EQ(5u, number);
+  EXPECT_EQ(1, component.GetLastErrorText(buffer, sizeof buffer));
+  EXPECT_STREQ("last", buffer);
+  EXPECT_EQ(1, component.GetErrorText(5, buffer, sizeof buffer));
+  EXPECT_STREQ("fifth", buffer);
+  EXPECT_EQ(0, component.GetErrorText(6, buffer, sizeof buffer));
+}
+
+TEST(Bindings, PassArgumentsAndAnswersOn) {
+  const std::wstring folder = ComponentFolder(L"complete");
+  NemEpdfDll epdf;
+  NemPdfmDll pdf;
+  NemPrintDll print;
+  ASSERT_TRUE(epdf.Load(1, folder.c_str(), nullptr));
+  ASSERT_TRUE(pdf.Load(1, folder.c_str(), kPdf));
+  ASSERT_TRUE(print.Load(1, folder.c_str(), kPrint));
+  ExpectPassesOn(epdf, "NemEpdf");
+  ExpectPassesOn(pdf, "NemPdf");
+  ExpectPassesOn(print, "NemPr");
+}
+
+TEST(NemVdApiDll, PassesOnNothingButTheVersion) {
+  NemVdApiDll vdApi;
+  ASSERT_TRUE(vdApi.Load(1, ComponentFolder(L"complete").c_str(), nullptr));
+  char buffer[8] = "";
+  uint32_t code = 0;
+  EXPECT_EQ("1.0.0", VersionText(vdApi));
+  EXPECT_EQ(0, vdApi.SetProperty("a", "b"));
+  EXPECT_EQ(0, vdApi.GetProperty("a", buffer, sizeof buffer));
+  EXPECT_EQ(0, vdApi.GetLastError(&code));
+  EXPECT_EQ(0, vdApi.GetLastErrorText(buffer, sizeof buffer));
+  EXPECT_EQ(0, vdApi.GetErrorText(5, buffer, sizeof buffer));
+  EXPECT_EQ("", TakeCalls(vdApi));
+}
+
+TEST(NemEpdfDll, CallsEachFunctionUnderItsName) {
+  NemEpdfDll epdf;
+  ASSERT_TRUE(epdf.Load(1, ComponentFolder(L"complete").c_str(), nullptr));
+  EXPECT_EQ("3.5.12", VersionText(epdf));
+  EXPECT_EQ(1, epdf.IsEPdf("f"));
+  EXPECT_EQ(1, epdf.IsEncryptedPdf("g"));
+  EXPECT_EQ("NemEpdfIsEPdf(f,)\nNemEpdfIsEncryptedPdf(g,)\n", TakeCalls(epdf));
+  EXPECT_EQ(1, epdf.IsPasswordValid("f", "p"));
+  EXPECT_EQ("NemEpdfIsPasswordValid(f,p)\n", TakeCalls(epdf));
+  EXPECT_EQ(1, epdf.GetEPdf("f", "p", "t"));
+  EXPECT_EQ("NemEpdfGetEPdf(f,p)\n", TakeCalls(epdf));
+  EXPECT_EQ(1, epdf.GetEmbeddedFile("f", "p", "t"));
+  EXPECT_EQ("NemEpdfGetEmbeddedFile(f,p)\n", TakeCalls(epdf));
+  EXPECT_EQ(1, epdf.GetEPdfInfo("f", "p", nullptr, 0));
+  EXPECT_EQ("NemEpdfGetEPdfInfo(f,p)\n", TakeCalls(epdf));
+  EXPECT_EQ(1, epdf.GetEPdfSettings("f", "p", nullptr, 0));
+  EXPECT_EQ("NemEpdfGetEPdfSettings(f,p)\n", TakeCalls(epdf));
+}
+
+// --- PDF ---------------------------------------------------------------------------------------------------------
+
+TEST(NemPdfmDll, CallsEachFunctionUnderItsName) {
+  NemPdfmDll pdf;
+  ASSERT_TRUE(pdf.Load(1, ComponentFolder(L"complete").c_str(), kPdf));
+  EXPECT_EQ("2.10.4", VersionText(pdf));
+  EXPECT_EQ(1, pdf.Merge("a", "b", "c"));
+  EXPECT_EQ("NemPdfMerge(a,b)\n", TakeCalls(pdf));
+  EXPECT_EQ(1, pdf.Join("a", "b", "c"));
+  EXPECT_EQ("NemPdfJoin(b,c)\n", TakeCalls(pdf));
+}
+
+TEST(NemPdfmDll, KeepsWhatItFoundInFrontOfAMissingExport) {
+  NemPdfmDll pdf;
+  const std::wstring folder = ComponentFolder(L"lacking");
+  EXPECT_FALSE(pdf.Load(1, folder.c_str(), kPdf));
+  EXPECT_TRUE(pdf.IsLoaded());
+  EXPECT_EQ(static_cast<DWORD>(ERROR_PROC_NOT_FOUND), pdf.lastError);
+  char buffer[64] = "";
+  EXPECT_EQ(1, pdf.GetErrorText(5, buffer, sizeof buffer));
+  EXPECT_STREQ("fifth", buffer);
+  EXPECT_EQ("2.10.4", VersionText(pdf));
+  EXPECT_EQ(0, pdf.SetProperty("a", "b"));
+  EXPECT_EQ(0, pdf.Merge("a", "b", "c")) << "stands behind the missing one";
+  EXPECT_TRUE(pdf.Load(1, folder.c_str(), kPdf)) << "is loaded already";
+}
+
+TEST(NemPdfmDll, HasNoVersionWhenTheComponentTellsNone) {
+  NemPdfmDll pdf;
+  ASSERT_TRUE(pdf.Load(1, ComponentFolder(L"silent").c_str(), kPdf));
+  EXPECT_EQ("n/a", VersionText(pdf));
+}
+
+// --- Print -------------------------------------------------------------------------------------------------------
+
+namespace {
+
+std::string PrintCalls(NemPrintDll& print) {
+  print.LoadSettings("l");
+  print.SaveSettings("s");
+  print.Print("p");
+  return TakeCalls(print);
+}
+
+}  // namespace
+
+TEST(NemPrintDll, BindsTheSecondFormInMode2Only) {
+  const std::wstring folder = ComponentFolder(L"complete");
+  for (const int mode : {0, 1, 2, 3}) {
+    NemPrintDll print;
+    ASSERT_TRUE(print.Load(mode, folder.c_str(), kPrint));
+    EXPECT_EQ(0x2100004u, print.version);
+    const std::string calls = PrintCalls(print);
+    EXPECT_NE(std::string::npos, calls.find(mode == 2 ? "NemPrLoad2(l,)" : "NemPrLoad(l,)"));
+    EXPECT_NE(std::string::npos, calls.find(mode == 2 ? "NemPrSave2(s,)" : "NemPrSave(s,)"));
+    EXPECT_NE(std::string::npos, calls.find(mode == 2 ? "NemPrPrint2(p,)" : "NemPrPrint(p,)"));
+  }
+}
+
+TEST(NemPrintDll, CallsDialogsAndMail) {
+  NemPrintDll print;
+  ASSERT_TRUE(print.Load(1, ComponentFolder(L"complete").c_str(), kPrint));
+  EXPECT_EQ(1, print.ShowPrintDialog(GetDesktopWindow()));
+  EXPECT_EQ(1, print.ShowPrintSetupDialog(nullptr));
+  EXPECT_EQ("NemPrShowPrintDialog(owner,)\nNemPrShowPrintSetupDialog(,)\n", TakeCalls(print));
+  EXPECT_EQ(1, print.MailSend("m"));
+  EXPECT_EQ("NemMailSend(m,)\n", TakeCalls(print));
+}
+
+TEST(NemPrintDll, Minor0NeedsNeitherFilesNorSetUpNorMail) {
+  const std::wstring folder = ComponentFolder(L"minor0");
+  NemPrintDll print;
+  ASSERT_TRUE(print.Load(1, folder.c_str(), kPrint));
+  EXPECT_EQ(0x2000004u, print.version);
+  EXPECT_EQ("2.0.4", VersionText(print));
+  EXPECT_EQ(0, print.LoadSettings("l"));
+  EXPECT_EQ(0, print.SaveSettings("s"));
+  EXPECT_EQ(0, print.ShowPrintSetupDialog(nullptr));
+  EXPECT_EQ(0, print.MailSend("m"));
+  EXPECT_EQ(1, print.Print("p"));
+  EXPECT_EQ(1, print.ShowPrintDialog(nullptr));
+  EXPECT_EQ(1, print.SetProperty("a", "b")) << "stands behind the ones left out";
+
+  NemPrintDll second;
+  EXPECT_FALSE(second.Load(2, folder.c_str(), kPrint)) << "the second form is needed in any version";
+}
+
+TEST(NemPrintJobDll, RoutesPropertiesToTheJobIfThereIsOne) {
+  NemPrintJobDll print;
+  ASSERT_TRUE(print.Load(1, ComponentFolder(L"complete").c_str(), kPrint));
+  EXPECT_EQ(nullptr, print.jobHandle);
+  ExpectPassesOn(print, "NemPr");
+
+  ASSERT_EQ(1, print.JobCreate(&print.jobHandle));
+  EXPECT_EQ("of the job", Property(print, "asked"));
+  EXPECT_EQ(1, print.SetProperty("a", "b"));
+  EXPECT_EQ("NemPrJobSetProperty(job,b)\n", TakeCalls(print));
+  uint32_t code = 0;
+  char buffer[64] = "";
+  EXPECT_EQ(1, print.GetLastError(&code));
+  EXPECT_EQ(77u, code);
+  EXPECT_EQ(1, print.GetLastErrorText(buffer, sizeof buffer));
+  EXPECT_STREQ("error of the job", buffer);
+  EXPECT_EQ(1, print.GetErrorText(5, buffer, sizeof buffer));
+  EXPECT_STREQ("fifth", buffer) << "belongs to the component";
+  EXPECT_EQ(1, print.JobFree(&print.jobHandle));
+}
+
+TEST(NemPrintJobDll, CallsEachFunctionUnderItsName) {
+  NemPrintJobDll print;
+  ASSERT_TRUE(print.Load(1, ComponentFolder(L"complete").c_str(), kPrint));
+  NemPrintJobDllInterface& face = print;
+  EXPECT_TRUE(face.IsLoaded());
+  NemPrintJobDllInterface::JobHandle job = nullptr;
+  ASSERT_EQ(1, face.JobCreate(&job));
+  face.JobLoad(job, "1");
+  face.JobSave(job, "2");
+  face.JobPrint(job, "3");
+  face.JobConvert(job, "4");
+  print.JobMailSend(job, "5");
+  EXPECT_EQ(
+      "NemPrJobLoad(job,1)\nNemPrJobSave(job,2)\nNemPrJobPrint(job,3)\nNemPrJobConvert(job,4)\n"
+      "NemPrJobMailSend(job,5)\n",
+      TakeCalls(print));
+  char buffer[64] = "";
+  EXPECT_EQ(1, face.GetVersionTextRaw(buffer, sizeof buffer));
+  EXPECT_STREQ("2.10.4 raw", buffer);
+  uint32_t version = 0;
+  EXPECT_EQ(1, face.GetVersionValue(&version));
+  EXPECT_EQ(0x2100004u, version);
+  EXPECT_EQ(1, face.JobFree(&job));
+}
+
+TEST(NemPrintJob, OwnsItsJob) {
+  HDllBase keep;
+  const std::wstring folder = ComponentFolder(L"complete");
+  ASSERT_TRUE(keep.LoadLibrary((folder + kPrint).c_str()));
+  {
+    NemPrintJob job;
+    ASSERT_TRUE(job.Load(1, folder.c_str(), kPrint));
+    EXPECT_NE(nullptr, job.jobHandle);
+    EXPECT_EQ(1, OpenJobs(keep.GetModule()));
+    EXPECT_TRUE(job.Load(1, folder.c_str(), kPrint));
+    EXPECT_EQ(1, OpenJobs(keep.GetModule())) << "a second load makes no second job";
+    EXPECT_EQ("of the job", Property(job, "asked"));
+    TakeCalls(keep);
+    EXPECT_EQ(1, job.LoadJob("1"));
+    EXPECT_EQ(1, job.SaveJob("2"));
+    EXPECT_EQ(1, job.MailSendJob("3"));
+    EXPECT_EQ("NemPrJobLoad(job,1)\nNemPrJobSave(job,2)\nNemPrJobMailSend(job,3)\n", TakeCalls(keep));
+  }
+  EXPECT_EQ(0, OpenJobs(keep.GetModule()));
+  keep.FreeModule();
+  EXPECT_EQ(nullptr, GetModuleHandleW(kPrint)) << "the job's library was freed too";
+}
+
+TEST(NemPrintJob, HasNoPropertiesWithoutAJob) {
+  for (const wchar_t* folder : {L"createfails", L"nohandle"}) {
+    NemPrintJob job;
+    EXPECT_FALSE(job.Load(1, ComponentFolder(folder).c_str(), kPrint));
+    EXPECT_TRUE(job.IsLoaded());
+    EXPECT_EQ(nullptr, job.jobHandle);
+    EXPECT_EQ(0u, job.lastError);
+    EXPECT_EQ("failed", Property(job, "asked"));
+    EXPECT_EQ(0, job.SetProperty("a", "b"));
+    EXPECT_EQ(0, job.LoadJob("f"));
+    EXPECT_EQ(0, job.SaveJob("f"));
+    EXPECT_EQ(0, job.MailSendJob("f"));
+    EXPECT_EQ("", TakeCalls(job));
+    uint32_t code = 0;
+    EXPECT_EQ(1, job.GetLastError(&code)) << "the component's own";
+    EXPECT_EQ(5u, code);
+    EXPECT_EQ("2.10.4", VersionText(job));
+  }
+}
+
+// --- FormatComponentError ----------------------------------------------------------------------------------------
+
+namespace {
+
+std::string FormattedError(TavexDll& component, uint32_t* code, uint32_t base) {
+  std::string result;
+  const auto keep = [](const char* text, void* userData) { *static_cast<std::string*>(userData) += text; };
+  EXPECT_EQ(0, component.FormatComponentError(code, keep, &result, base));
+  return result;
+}
+
+}  // namespace
+
+TEST(FormatComponentError, TellsTheSystemsErrorFirst) {
+  NemPdfmDll pdf;
+  ASSERT_TRUE(pdf.Load(1, ComponentFolder(L"complete").c_str(), kPdf));
+  pdf.lastError = 126;
+  uint32_t code = 99;
+  EXPECT_EQ("Systemfehler 126.\n", FormattedError(pdf, &code, 1000));
+  EXPECT_EQ(99u, code);
+}
+
+TEST(FormatComponentError, AsksTheComponentOtherwise) {
+  NemPdfmDll pdf;
+  ASSERT_TRUE(pdf.Load(1, ComponentFolder(L"complete").c_str(), kPdf));
+  uint32_t code = 99;
+  EXPECT_EQ(" 5: fifth\n", FormattedError(pdf, &code, 0));
+  EXPECT_EQ(5u, code);
+  EXPECT_EQ("Unbekannter Fehler 1005.\n", FormattedError(pdf, &code, 1000));
+  EXPECT_EQ(1005u, code);
+  EXPECT_EQ(" 5: fifth\n", FormattedError(pdf, nullptr, 0));
+  EXPECT_EQ(0, pdf.FormatComponentError(&code, nullptr, nullptr, 0));
+}
+
+TEST(FormatComponentError, KnowsWhenNothingIsKnown) {
+  NemPdfmDll pdf;
+  uint32_t code = 99;
+  EXPECT_EQ("Unbekannter Fehler. Fehlernummer unbekannt.\n", FormattedError(pdf, &code, 1000));
+  EXPECT_EQ(99u, code);
+}

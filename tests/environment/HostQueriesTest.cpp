@@ -1,0 +1,236 @@
+// What the library learns of its host and its user.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include <string>
+#include <vector>
+
+#include "driver/ImportPatch.h"
+#include "driver/SelfProcess.h"
+#include "environment/DefaultPaper.h"
+#include "environment/HostApplication.h"
+#include "environment/Shell.h"
+#include "environment/TextLimit.h"
+#include "support/ComponentFolder.h"
+#include "support/PrintText.h"
+#include "support/RegistryValue.h"
+#include "support/TempFile.h"
+#include "support/TracedThread.h"
+
+using Lines = std::vector<std::wstring>;
+
+// --- Host application --------------------------------------------------------------------------------------------
+
+namespace {
+
+// What the stand-in for the host writes about itself: the plain name and the friendly one.
+std::wstring NamesInside(const wchar_t* folder) {
+  TempFile names("nempdf_host_names.txt");
+  std::wstring commandLine = L"\"" + ComponentFolder(folder) + L"WINWORD.EXE\" " + names.Name();
+  STARTUPINFOW startup = {};
+  startup.cb = sizeof startup;
+  PROCESS_INFORMATION process = {};
+  if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, FALSE, 0, nullptr, nullptr, &startup, &process))
+    return L"not started";
+  WaitForSingleObject(process.hProcess, INFINITE);
+  CloseHandle(process.hProcess);
+  CloseHandle(process.hThread);
+  return names.Text();
+}
+
+}  // namespace
+
+TEST(HostApplication, IsCalledByItsFileAndVersion) {
+  EXPECT_EQ(L"WINWORD.EXE 15.0.4420.1017\nMicrosoft\u00AE Word 2013(15.0.4420.1017)\n", NamesInside(L"2013"));
+  EXPECT_EQ(L"WINWORD.EXE 16.0.4266.1001\nMicrosoft\u00AE Word 16.0.4266.1001\n", NamesInside(L"16"));
+}
+
+TEST(HostApplication, AnUnknownOneIsCalledByItsFile) {
+  for (const bool friendly : {false, true}) {
+    const CUString name = GetHostApplicationName(friendly);
+    EXPECT_EQ(0, name.Find(L"environment_tests.exe ")) << testing::PrintToString(name);
+  }
+}
+
+TEST(GetFileVersion, ReadsTheFixedRecord) {
+  EXPECT_STREQ(L"15.0.4420.1017", GetFileVersion((ComponentFolder(L"2013") + L"WINWORD.EXE").c_str()).Text());
+}
+
+TEST(GetFileVersion, IsEmptyWithoutARecord) {
+  TempFile plain("nempdf_plain.txt");
+  plain.Put("no program at all");
+  TracedThread thread;
+  EXPECT_TRUE(GetFileVersion(plain.Name()).IsEmpty());
+  EXPECT_TRUE(GetFileVersion((ComponentFolder(L"complete") + L"NemPdf64.dll").c_str()).IsEmpty());
+  EXPECT_TRUE(GetFileVersion(L"C:\\no such folder\\none.exe").IsEmpty());
+  EXPECT_TRUE(GetFileVersion(L"").IsEmpty());
+  EXPECT_TRUE(GetFileVersion(nullptr).IsEmpty());
+  EXPECT_EQ(Lines{}, thread.Lines());
+}
+
+// --- Default paper -----------------------------------------------------------------------------------------------
+
+namespace {
+
+constexpr wchar_t kInternational[] = L"Control Panel\\International";
+constexpr wchar_t kYes[] = L"IsA4PaperDefault = Yes";
+constexpr wchar_t kNo[] = L"IsA4PaperDefault = No, Use 'LETTER'";
+constexpr wchar_t kNotRead[] = L"IsA4PaperDefault: RegQueryValue 'iCountry' FAILED";
+
+// What the countries setting leads to, and all that is traced about it.
+class DefaultPaperTest : public testing::Test {
+ protected:
+  RegistryValue country{HKEY_CURRENT_USER, kInternational, L"iCountry"};
+  TracedThread thread;
+
+  void ExpectPaper(bool isA4, const Lines& lines) {
+    EXPECT_EQ(isA4, IsA4PaperDefault());
+    EXPECT_EQ(lines, thread.Lines());
+    EXPECT_EQ(0u, thread.Error().trace->errorCount) << "the lines are plain ones";
+  }
+};
+
+}  // namespace
+
+TEST_F(DefaultPaperTest, GoesByTheCountry) {
+  for (const wchar_t* code : {L"1", L"2", L"50", L"59", L"500", L"599"}) {
+    country.Set(code);
+    ExpectPaper(false, {std::wstring(L"IsA4PaperDefault: Country = ") + code, kNo});
+  }
+  for (const wchar_t* code : {L"3", L"49", L"60", L"499", L"600", L"  49x"}) {
+    country.Set(code);
+    ExpectPaper(true, {std::wstring(L"IsA4PaperDefault: Country = ") + code, kYes});
+  }
+}
+
+TEST_F(DefaultPaperTest, IsLetterWithoutACountry) { ExpectPaper(false, {kNotRead, kNo}); }
+
+TEST_F(DefaultPaperTest, TakesTextOnly) {
+  const DWORD number = 49;
+  country.SetBytes(REG_DWORD, &number, sizeof number);
+  ExpectPaper(false, {L"IsA4PaperDefault: Country = 1", kNotRead, kNo});
+}
+
+TEST_F(DefaultPaperTest, TakesNoMoreThan32Bytes) {
+  country.SetBytes(REG_SZ, L"0000000000000049x", 32);  // without a terminator
+  ExpectPaper(true, {L"IsA4PaperDefault: Country = 0000000000000049", kYes});
+  country.Set(L"0000000000000049");
+  ExpectPaper(false, {kNotRead, kNo});
+}
+
+TEST_F(DefaultPaperTest, IsLetterWithoutTheKey) {
+  HKEY moved = nullptr;
+  ASSERT_EQ(ERROR_SUCCESS, RegOpenKeyExW(HKEY_CURRENT_USER, L"Control Panel", 0, KEY_ALL_ACCESS, &moved));
+  ASSERT_EQ(ERROR_SUCCESS, RegRenameKey(moved, L"International", L"InternationalBefore"));
+  const bool isA4 = IsA4PaperDefault();
+  RegRenameKey(moved, L"InternationalBefore", L"International");
+  RegCloseKey(moved);
+  EXPECT_FALSE(isA4);
+  const Lines lines = thread.Lines();
+  ASSERT_FALSE(lines.empty());
+  EXPECT_EQ(L"IsA4PaperDefault: RegOpenKey 'Control Panel\\International' FAILED", lines.back());
+}
+
+// --- Shell -------------------------------------------------------------------------------------------------------
+
+namespace {
+
+SHELLEXECUTEINFOW AdminToolInfo(const wchar_t* file) {
+  SHELLEXECUTEINFOW info = {};
+  info.cbSize = sizeof info;
+  info.fMask = SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI;
+  info.lpFile = file;
+  info.lpParameters = L"one \"two three\"";
+  return info;
+}
+
+// Taken before anything is patched: finding it takes the function itself.
+const auto realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", &GetProcAddress);
+
+FARPROC WINAPI WithoutShellExecuteEx(HMODULE module, const char* name) {
+  if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF && std::string_view(name) == "ShellExecuteExW") return nullptr;
+  return realGetProcAddress(module, name);
+}
+
+struct AdminRecord : TempFile {
+  AdminRecord() : TempFile("nempdf_shell_record.txt") { SetEnvironmentVariableW(L"NEMPDF_ADMIN_RECORD", Name()); }
+  ~AdminRecord() { SetEnvironmentVariableW(L"NEMPDF_ADMIN_RECORD", nullptr); }
+};
+
+}  // namespace
+
+TEST(ExecuteShell, RunsAProgramAndKeepsItsProcess) {
+  AdminRecord record;
+  const std::wstring tool = ComponentFolder(L"admin") + L"NEMadmin64.exe";
+  SHELLEXECUTEINFOW info = AdminToolInfo(tool.c_str());
+  ASSERT_TRUE(ExecuteShell(info));
+  ASSERT_NE(nullptr, info.hProcess);
+  WaitForSingleObject(info.hProcess, INFINITE);
+  CloseHandle(info.hProcess);
+  EXPECT_NE(std::wstring::npos, record.Text().find(L"one \"two three\""));
+}
+
+TEST(ExecuteShell, FailsWithoutTheFile) {
+  SHELLEXECUTEINFOW info = AdminToolInfo(L"C:\\no such folder\\none.exe");
+  EXPECT_FALSE(ExecuteShell(info));
+  EXPECT_EQ(nullptr, info.hProcess);
+}
+
+TEST(ExecuteShell, FallsBackToTheOlderFunction) {
+  AdminRecord record;
+  const std::wstring tool = ComponentFolder(L"admin") + L"NEMadmin64.exe";
+  ASSERT_GT(PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithoutShellExecuteEx)), 0);
+  SHELLEXECUTEINFOW info = AdminToolInfo(tool.c_str());
+  const bool started = ExecuteShell(info);
+  SHELLEXECUTEINFOW missing = AdminToolInfo(L"C:\\no such folder\\none.exe");
+  const bool startedMissing = ExecuteShell(missing);
+  RestoreImport("kernel32.dll", "GetProcAddress");
+  EXPECT_TRUE(started);
+  EXPECT_EQ(nullptr, info.hProcess);
+  EXPECT_FALSE(startedMissing);
+}
+
+// --- Text limit --------------------------------------------------------------------------------------------------
+
+namespace {
+
+constexpr int kEdit = 1000, kFocused = 1001, kMissing = 1002;
+
+class TextLimitTest : public testing::Test {
+ protected:
+  TextLimitTest() {
+    for (const int id : {kEdit, kFocused})
+      CreateWindowExW(0, L"EDIT", id == kEdit ? L"12345" : L"abc", WS_CHILD | WS_VISIBLE, 0, 0, 50, 20, dialog_,
+                      reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), nullptr, nullptr);
+    SetFocus(dialog_);
+  }
+  ~TextLimitTest() override { DestroyWindow(dialog_); }
+
+  bool IsFocused() const { return GetFocus() == GetDlgItem(dialog_, kFocused); }
+  DWORD Selection() const { return static_cast<DWORD>(SendDlgItemMessageW(dialog_, kFocused, EM_GETSEL, 0, 0)); }
+
+  HWND dialog_ =
+      CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 200, 100, nullptr, nullptr, nullptr, nullptr);
+};
+
+}  // namespace
+
+TEST_F(TextLimitTest, IsReachedByAsManyCharacters) {
+  EXPECT_TRUE(IsTextAtLimit(dialog_, kEdit, kFocused, 5, false));
+  EXPECT_TRUE(IsFocused());
+  EXPECT_EQ(MAKELONG(0, 0), static_cast<LONG>(Selection()));
+  EXPECT_TRUE(IsTextAtLimit(dialog_, kEdit, kFocused, 4, true));
+  EXPECT_EQ(MAKELONG(0, 3), static_cast<LONG>(Selection()));
+}
+
+TEST_F(TextLimitTest, IsNotReachedByFewer) {
+  EXPECT_FALSE(IsTextAtLimit(dialog_, kEdit, kFocused, 6, true));
+  EXPECT_FALSE(IsFocused());
+}
+
+TEST_F(TextLimitTest, IsNotReachedWithoutTheControls) {
+  EXPECT_FALSE(IsTextAtLimit(dialog_, kEdit, kMissing, 5, true));
+  EXPECT_FALSE(IsTextAtLimit(dialog_, kMissing, kFocused, 0, true));
+  EXPECT_FALSE(IsFocused());
+}

@@ -1,0 +1,218 @@
+#include <windows.h>
+
+#include "environment/ProductLocations.h"
+
+#include <gtest/gtest.h>
+
+#include <stdexcept>
+#include <string>
+#include <string_view>
+#include <vector>
+
+#include "driver/ImportPatch.h"
+#include "driver/SelfProcess.h"
+#include "environment/PrinterQueries.h"
+#include "environment/Spooler.h"
+#include "support/ComponentFolder.h"
+#include "support/PrintText.h"
+#include "support/RegistryValue.h"
+#include "support/TempFile.h"
+#include "support/TestPrinter.h"
+#include "support/TracedThread.h"
+
+namespace {
+
+using Lines = std::vector<std::wstring>;
+
+std::wstring ProgramDirectory() {
+  wchar_t path[MAX_PATH];
+  GetModuleFileNameW(nullptr, path, MAX_PATH);
+  return std::wstring(path).substr(0, std::wstring(path).rfind(L'\\') + 1);
+}
+
+}  // namespace
+
+TEST(ProductLocations, AreTheLibrarysOwnWithoutAPrinter) {
+  TracedThread thread;
+  EXPECT_EQ(ProgramDirectory(), GetAddInNEMDllPath().Text());
+  EXPECT_EQ(ProgramDirectory(), GetProductDirectory().Text());
+  EXPECT_EQ(Lines{}, thread.Lines());
+}
+
+TEST(ProductLocations, AreTheDriversWithAPrinter) {
+  const TestDriver driver;
+  const TestPrinter printer(L"Alpha");
+  EXPECT_EQ(driver.Directory(), GetAddInNEMDllPath().Text());
+  EXPECT_EQ(driver.Directory(), GetProductDirectory().Text());
+}
+
+// --- The administrator's tool ------------------------------------------------------------------------------------
+
+namespace {
+
+constexpr wchar_t kUpgradeKey[] =
+    L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Installer\\UpgradeCodes\\00112233445566778899AABBCCDDEEFF";
+constexpr wchar_t kProductKeyOfInstaller[] =
+    L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Installer\\UserData\\S-1-5-18\\Products\\"
+    L"FFEEDDCCBBAA99887766554433221100";
+
+class AdminToolTest : public testing::Test {
+ protected:
+  AdminToolTest() { SetEnvironmentVariableW(L"NEMPDF_ADMIN_RECORD", record.Name()); }
+  ~AdminToolTest() override { SetEnvironmentVariableW(L"NEMPDF_ADMIN_RECORD", nullptr); }
+
+  void Install(const std::wstring& folder) {
+    const auto bytes = static_cast<DWORD>((folder.size() + 1) * sizeof(wchar_t));
+    RegSetKeyValueW(HKEY_LOCAL_MACHINE, kUpgradeKey, L"FFEEDDCCBBAA99887766554433221100", REG_SZ, L"", 2);
+    RegSetKeyValueW(HKEY_LOCAL_MACHINE, (std::wstring(kProductKeyOfInstaller) + L"\\InstallProperties").c_str(),
+                    L"InstallLocation", REG_SZ, folder.c_str(), bytes);
+  }
+
+  RegistryTree upgrade{HKEY_LOCAL_MACHINE, kUpgradeKey};
+  RegistryTree product{HKEY_LOCAL_MACHINE, kProductKeyOfInstaller};
+  TempFile record{"nempdf_admin_record.txt"};
+};
+
+}  // namespace
+
+TEST_F(AdminToolTest, RunsToItsEnd) {
+  Install(ComponentFolder(L"admin"));
+  EXPECT_TRUE(RunAdminTool(L"--RestartSpooler"));
+  // Its last deed is done already.
+  const std::wstring commandLine = record.Text();
+  EXPECT_NE(std::wstring::npos, commandLine.find(L"NEMadmin64.exe"));
+  EXPECT_NE(std::wstring::npos, commandLine.find(L" --RestartSpooler"));
+}
+
+TEST_F(AdminToolTest, FailsWhereItIsNotInstalled) {
+  EXPECT_FALSE(RunAdminTool(L"--RestartSpooler"));
+  Install(ComponentFolder(L"complete"));
+  EXPECT_FALSE(RunAdminTool(L"--RestartSpooler"));
+  EXPECT_FALSE(record.Exists());
+}
+
+// --- Printers that the test's spooler cannot have ----------------------------------------------------------------
+//
+// The spooler is bound at its first use, so each of these stands in a process of its own, with some functions of the
+// spooler replaced from the start.
+
+namespace {
+
+constexpr wchar_t kServerPrinter[] = L"\\\\server\\Alpha";
+
+const auto realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", &GetProcAddress);
+
+// One printer, which belongs to a print server and is connected to it.
+PRINTER_INFO_2W ServerPrinter() {
+  PRINTER_INFO_2W info = {};
+  info.pServerName = const_cast<wchar_t*>(L"\\\\server");
+  info.pPrinterName = const_cast<wchar_t*>(kServerPrinter);
+  info.pDriverName = const_cast<wchar_t*>(kTestDriverName);
+  return info;
+}
+
+BOOL AnswerWith(const PRINTER_INFO_2W& info, BYTE* buffer, DWORD size, DWORD* needed) {
+  *needed = sizeof info;
+  if (size < sizeof info) {
+    SetLastError(ERROR_INSUFFICIENT_BUFFER);
+    return FALSE;
+  }
+  memcpy(buffer, &info, sizeof info);
+  return TRUE;
+}
+
+BOOL WINAPI OpenAny(wchar_t*, HANDLE* printer, PRINTER_DEFAULTSW*) {
+  *printer = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(1234));
+  return TRUE;
+}
+BOOL WINAPI CloseAny(HANDLE) { return TRUE; }
+BOOL WINAPI OpenNone(wchar_t*, HANDLE*, PRINTER_DEFAULTSW*) {
+  SetLastError(ERROR_ACCESS_DENIED);
+  return FALSE;
+}
+BOOL WINAPI GetServerPrinter(HANDLE, DWORD, BYTE* buffer, DWORD size, DWORD* needed) {
+  return AnswerWith(ServerPrinter(), buffer, size, needed);
+}
+BOOL WINAPI GetNoPrinter(HANDLE, DWORD, BYTE*, DWORD, DWORD*) {
+  SetLastError(ERROR_INVALID_HANDLE);
+  return FALSE;
+}
+BOOL WINAPI EnumServerPrinters(DWORD flags, wchar_t*, DWORD, BYTE* buffer, DWORD size, DWORD* needed, DWORD* count) {
+  *count = 0;
+  *needed = 0;
+  if (flags != PRINTER_ENUM_CONNECTIONS) return TRUE;
+  if (!AnswerWith(ServerPrinter(), buffer, size, needed)) return FALSE;
+  *count = 1;
+  return TRUE;
+}
+BOOL WINAPI EnumThrowing(DWORD, wchar_t*, DWORD, BYTE*, DWORD, DWORD*, DWORD*) { throw std::runtime_error("no"); }
+
+decltype(&OpenAny) open = OpenAny;
+decltype(&GetServerPrinter) get = GetServerPrinter;
+decltype(&EnumServerPrinters) enumerate = EnumServerPrinters;
+
+FARPROC WINAPI GetSpoolerProc(HMODULE module, const char* name) {
+  if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF) {
+    const std::string_view wanted(name);
+    if (wanted == "OpenPrinterW") return reinterpret_cast<FARPROC>(open);
+    if (wanted == "ClosePrinter") return reinterpret_cast<FARPROC>(&CloseAny);
+    if (wanted == "GetPrinterW") return reinterpret_cast<FARPROC>(get);
+    if (wanted == "EnumPrintersW") return reinterpret_cast<FARPROC>(enumerate);
+  }
+  return realGetProcAddress(module, name);
+}
+
+void PatchSpooler() { PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&GetSpoolerProc)); }
+
+}  // namespace
+
+TEST(FakeSpooler, DISABLED_ServerPrinter) {
+  PatchSpooler();
+  EXPECT_TRUE(IsServerPrinter(kServerPrinter));
+  EXPECT_TRUE(IsServerPrinterHandle(nullptr));
+  CUStringArray names;
+  EXPECT_TRUE(GetPrinterNames(names, kTestDriverName));
+  ASSERT_EQ(1, names.Count());
+  EXPECT_STREQ(kServerPrinter, names[0].Text());
+}
+
+TEST(FakeSpooler, DISABLED_PrinterThatCannotBeOpened) {
+  open = OpenNone;
+  PatchSpooler();
+  TracedThread thread;
+  EXPECT_TRUE(GetAddInNEMDllPath().IsEmpty());
+  EXPECT_EQ(Lines{L"GetAddInNEMDllPath: Invalid printer handle 0"}, thread.Lines());
+  EXPECT_EQ(1, thread.Error().trace->errorCount);
+}
+
+TEST(FakeSpooler, DISABLED_PrinterThatIsNotValid) {
+  get = GetNoPrinter;
+  PatchSpooler();
+  TracedThread thread;
+  EXPECT_TRUE(GetAddInNEMDllPath().IsEmpty());
+  EXPECT_EQ(Lines{L"GetAddInNEMDllPath: Invalid printer handle 1234"}, thread.Lines());
+  EXPECT_FALSE(IsServerPrinter(kServerPrinter));
+  EXPECT_EQ(Lines{L"IsServerPrinter: Invalid printer handle 1234"}, thread.Lines());
+}
+
+TEST(FakeSpooler, DISABLED_SpoolerThatThrows) {
+  enumerate = EnumThrowing;
+  PatchSpooler();
+  TracedThread thread;
+  EXPECT_TRUE(GetAddInNEMDllPath().IsEmpty());
+  EXPECT_EQ(Lines{L"GetAddInNEMDllPath: caught throwed exception"}, thread.Lines());
+  EXPECT_EQ(1, thread.Error().trace->errorCount);
+}
+
+class FakeSpoolerProcess : public testing::TestWithParam<const wchar_t*> {};
+
+TEST_P(FakeSpoolerProcess, Passes) {
+  const ProcessResult result =
+      RunSelf(std::wstring(L"--gtest_also_run_disabled_tests --gtest_filter=FakeSpooler.DISABLED_") + GetParam());
+  EXPECT_EQ(0u, result.exitCode) << result.output;
+  EXPECT_NE(std::string::npos, result.output.find("[  PASSED  ] 1 test.")) << result.output;
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FakeSpoolerProcess,
+                         testing::Values(L"ServerPrinter", L"PrinterThatCannotBeOpened", L"PrinterThatIsNotValid",
+                                         L"SpoolerThatThrows"));

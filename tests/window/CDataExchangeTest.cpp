@@ -1,0 +1,289 @@
+// Each step of a control exchange in both directions, and what a failed step does.
+#include "window/CDataExchange.h"
+
+#include <gtest/gtest.h>
+
+#include "driver/DialogTemplate.h"
+#include "driver/Text.h"
+#include "MessageIds.h"
+#include "support/FakeSheet.h"
+#include "support/PrintText.h"
+
+namespace {
+
+enum : int { kCheck = 100, kThreeState, kEdit, kStatic, kList, kDropDown, kRadio = 110, kLastRadio = 112 };
+
+constexpr ValueRow kRows[] = {{MSG_PAGE_FONTS, 7}, {MSG_PAGE_LINKS, 0}, {MSG_PAGE_ACTIONS, -3}, {}};
+
+DialogTemplate Template() {
+  DialogTemplate dialog(WS_POPUP, {200, 150});
+  dialog.Add(L"Button", kCheck, At(0, 0, 50, 10), L"", BS_AUTOCHECKBOX);
+  dialog.Add(L"Button", kThreeState, At(0, 10, 50, 10), L"", BS_AUTO3STATE);
+  dialog.Add(L"Edit", kEdit, At(0, 20, 50, 12), L"", ES_AUTOHSCROLL);
+  dialog.Add(L"Static", kStatic, At(0, 40, 50, 12));
+  dialog.Add(L"ComboBox", kList, At(0, 60, 80, 60), L"", CBS_DROPDOWNLIST);
+  dialog.Add(L"ComboBox", kDropDown, At(0, 80, 80, 60), L"", CBS_DROPDOWN | CBS_AUTOHSCROLL);
+  for (int id = kRadio; id <= kLastRadio; ++id)
+    dialog.Add(L"Button", id, At(100, (id - kRadio) * 12, 50, 10), L"", BS_AUTORADIOBUTTON);
+  return dialog;
+}
+
+class DataExchange : public testing::Test {
+ protected:
+  DataExchange() {
+    dialog_ = CWnd(CreateDialogIndirectParamW(
+        nullptr, Template().Get(), nullptr, [](HWND, UINT, WPARAM, LPARAM) -> INT_PTR { return FALSE; }, 0));
+    FillFromTable(CComboBox(dialog_.Item(kList)), kRows);
+  }
+  ~DataExchange() override { DestroyWindow(dialog_.Handle()); }
+
+  CDataExchange Loading() { return {dialog_, false}; }
+  CDataExchange Saving() { return {dialog_, true}; }
+  LRESULT CheckOf(int id) { return dialog_.Item(id).Send(BM_GETCHECK); }
+  void SetCheck(int id, int check) { dialog_.Item(id).Send(BM_SETCHECK, static_cast<WPARAM>(check)); }
+  CUString TextOf(int id) { return dialog_.Item(id).Text(); }
+  std::vector<int> CheckedRadios() {
+    std::vector<int> checked;
+    for (int id = kRadio; id <= kLastRadio; ++id)
+      if (CheckOf(id) == BST_CHECKED) checked.push_back(id - kRadio);
+    return checked;
+  }
+  int SelectedRow() { return CComboBox(dialog_.Item(kList)).Selection(); }
+  void SelectRow(int row) { CComboBox(dialog_.Item(kList)).Select(row); }
+
+  LanguageScope english_{kEnglish};
+  CWnd dialog_;
+};
+
+TEST_F(DataExchange, KnowsItsDirection) {
+  CDataExchange loading = Loading(), saving = Saving();
+  EXPECT_TRUE(loading.IsLoading());
+  EXPECT_FALSE(loading.IsSaving());
+  EXPECT_TRUE(saving.IsSaving());
+  EXPECT_FALSE(saving.IsLoading());
+  EXPECT_FALSE(saving.HasFailed());
+  EXPECT_EQ(0, saving.FailedControl());
+}
+
+// --- Check boxes and radio buttons ---------------------------------------------------------------------------------
+
+TEST_F(DataExchange, CheckShowsAnyValueButZeroAsOn) {
+  for (const auto& [value, check] :
+       {std::pair{0, BST_UNCHECKED}, {1, BST_CHECKED}, {-1, BST_CHECKED}, {77, BST_CHECKED}}) {
+    int member = value;
+    CDataExchange exchange = Loading();
+    exchange.Check(kCheck, member);
+    EXPECT_EQ(check, CheckOf(kCheck)) << value;
+    EXPECT_EQ(value, member) << "loading leaves the member alone";
+  }
+}
+
+TEST_F(DataExchange, CheckStoresZeroOrOne) {
+  uint8_t member = 77;
+  for (const auto& [check, value] : {std::pair{BST_CHECKED, 1}, {BST_UNCHECKED, 0}}) {
+    SetCheck(kCheck, check);
+    CDataExchange exchange = Saving();
+    exchange.Check(kCheck, member);
+    EXPECT_EQ(value, member);
+    EXPECT_EQ(check, CheckOf(kCheck));
+  }
+  SetCheck(kThreeState, BST_INDETERMINATE);
+  member = 1;
+  CDataExchange exchange = Saving();
+  exchange.Check(kThreeState, member);
+  EXPECT_EQ(0, member) << "neither on nor off is not on";
+}
+
+TEST_F(DataExchange, RadioTurnsOnTheOneOfItsIndex) {
+  for (int16_t index : {0, 2, 1}) {
+    CDataExchange exchange = Loading();
+    exchange.Radio(kRadio, kLastRadio, index);
+    EXPECT_EQ(std::vector<int>{index}, CheckedRadios());
+  }
+}
+
+TEST_F(DataExchange, RadioStoresTheIndexOfTheOneThatIsOn) {
+  for (int on = 0; on <= kLastRadio - kRadio; ++on) {
+    CheckRadioButton(dialog_.Handle(), kRadio, kLastRadio, kRadio + on);
+    uint16_t index = 9;
+    CDataExchange exchange = Saving();
+    exchange.Radio(kRadio, kLastRadio, index);
+    EXPECT_EQ(on, index);
+    EXPECT_FALSE(exchange.HasFailed());
+  }
+}
+
+TEST_F(DataExchange, RadioWithNoneOnFailsAndKeepsTheMember) {
+  int index = 2;
+  CDataExchange exchange = Saving();
+  exchange.Radio(kRadio, kLastRadio, index);
+  EXPECT_EQ(2, index);
+  EXPECT_TRUE(exchange.HasFailed());
+  EXPECT_EQ(kRadio, exchange.FailedControl());
+}
+
+TEST_F(DataExchange, RadioIndexOfNoButtonTurnsAllOff) {
+  CheckRadioButton(dialog_.Handle(), kRadio, kLastRadio, kRadio);
+  for (int index : {-1, 3}) {
+    CDataExchange exchange = Loading();
+    exchange.Radio(kRadio, kLastRadio, index);
+    EXPECT_EQ(std::vector<int>(), CheckedRadios()) << index;
+  }
+}
+
+// --- Texts and numbers ---------------------------------------------------------------------------------------------
+
+TEST_F(DataExchange, TextMovesBothWays) {
+  for (const int id : {int{kEdit}, int{kStatic}, int{kDropDown}}) {
+    for (const wchar_t* text : {L"Name", L"", L"\x0645 \xD83D\xDE00"}) {
+      CUString member(text);
+      CDataExchange loading = Loading();
+      loading.Text(id, member);
+      EXPECT_EQ(text, TextOf(id)) << id;
+      CUString saved(L"before");
+      CDataExchange saving = Saving();
+      saving.Text(id, saved);
+      EXPECT_EQ(text, saved) << id;
+    }
+  }
+}
+
+TEST_F(DataExchange, LongTextIsNotCut) {
+  CUString member;
+  for (int i = 0; i < 20'000; ++i) member.Append(i % 2 ? L"x" : L"y");
+  dialog_.Item(kEdit).Send(EM_SETLIMITTEXT, 10);  // limits the typing only
+  CDataExchange loading = Loading();
+  loading.Text(kEdit, member);
+  CUString saved;
+  CDataExchange saving = Saving();
+  saving.Text(kEdit, saved);
+  EXPECT_EQ(member, saved);
+}
+
+TEST_F(DataExchange, NumberIsShownInDecimal) {
+  for (const auto& [value, text] : {std::pair{0, L"0"}, {42, L"42"}, {-7, L"-7"}, {INT32_MAX, L"2147483647"}}) {
+    int member = value;
+    CDataExchange exchange = Loading();
+    exchange.Number(kEdit, member);
+    EXPECT_EQ(text, TextOf(kEdit));
+  }
+}
+
+TEST_F(DataExchange, NumberIsReadAndTextWithoutOneCountsAsZero) {
+  for (const auto& [text, value] : {std::pair{L"42", 42}, {L" 7 mm", 7}, {L"-12", -12}, {L"abc", 0}, {L"", 0}}) {
+    dialog_.Item(kEdit).SetText(text);
+    int16_t member = 99;
+    CDataExchange exchange = Saving();
+    exchange.Number(kEdit, member);
+    EXPECT_EQ(value, member) << ToUtf8(text);
+    EXPECT_FALSE(exchange.HasFailed());
+  }
+}
+
+// --- Choices -------------------------------------------------------------------------------------------------------
+
+TEST_F(DataExchange, FillFromTableShowsTheTextsInTheirOrder) {
+  const CComboBox combo(dialog_.Item(kList));
+  for (int times = 0; times < 2; ++times) {
+    ASSERT_EQ(3, combo.Count()) << "filling again does not double the rows";
+    EXPECT_EQ(L"Fonts", combo.RowText(0));
+    EXPECT_EQ(L"Links", combo.RowText(1));
+    EXPECT_EQ(L"Actions", combo.RowText(2));
+    FillFromTable(combo, kRows);
+  }
+}
+
+TEST_F(DataExchange, ChoiceSelectsTheRowOfItsValueOrTheFirst) {
+  for (const auto& [value, row] : {std::pair{7, 0}, {0, 1}, {-3, 2}, {5, 0}, {INT32_MIN, 0}}) {
+    SelectRow(1);
+    int member = value;
+    CDataExchange exchange = Loading();
+    exchange.Choice(kList, kRows, member);
+    EXPECT_EQ(row, SelectedRow()) << value;
+    EXPECT_EQ(value, member);
+  }
+}
+
+TEST_F(DataExchange, ChoiceStoresTheValueOfTheSelectedRow) {
+  for (const auto& [row, value] : {std::pair{0, 7}, {1, 0}, {2, -3}}) {
+    SelectRow(row);
+    int16_t member = 99;
+    CDataExchange exchange = Saving();
+    exchange.Choice(kList, kRows, member);
+    EXPECT_EQ(value, member);
+    EXPECT_FALSE(exchange.HasFailed());
+  }
+}
+
+TEST_F(DataExchange, ChoiceWithoutASelectionStoresTheFirstRowAndFails) {
+  SelectRow(-1);
+  int member = 99;
+  CDataExchange exchange = Saving();
+  exchange.Choice(kList, kRows, member);
+  EXPECT_EQ(7, member);
+  EXPECT_TRUE(exchange.HasFailed());
+  EXPECT_EQ(kList, exchange.FailedControl());
+}
+
+// --- Failure -------------------------------------------------------------------------------------------------------
+
+TEST_F(DataExchange, FirstFailureEndsTheExchangeAndNamesItsControl) {
+  CDataExchange exchange = Saving();
+  exchange.Fail(kEdit);
+  exchange.Fail(kCheck);
+  EXPECT_EQ(kEdit, exchange.FailedControl());
+  EXPECT_TRUE(exchange.HasFailed());
+  EXPECT_FALSE(exchange.IsSaving());
+  EXPECT_FALSE(exchange.IsLoading());
+}
+
+TEST_F(DataExchange, StepsBehindAFailureStoreNothing) {
+  SetCheck(kCheck, BST_CHECKED);
+  CheckRadioButton(dialog_.Handle(), kRadio, kLastRadio, kRadio + 1);
+  dialog_.Item(kEdit).SetText(L"5");
+  SelectRow(1);
+  int check = 44, radio = 44, number = 44, choice = 44;
+  CUString text(L"kept");
+  CDataExchange exchange = Saving();
+  exchange.Fail(kStatic);
+  exchange.Check(kCheck, check);
+  exchange.Radio(kRadio, kLastRadio, radio);
+  exchange.Text(kEdit, text);
+  exchange.Number(kEdit, number);
+  exchange.Choice(kList, kRows, choice);
+  EXPECT_EQ((std::vector<int>{44, 44, 44, 44}), (std::vector<int>{check, radio, number, choice}));
+  EXPECT_EQ(L"kept", text);
+  EXPECT_EQ(kStatic, exchange.FailedControl());
+}
+
+TEST_F(DataExchange, StepsBehindAFailureShowNothing) {
+  dialog_.Item(kEdit).SetText(L"before");
+  SelectRow(2);
+  int value = 1, row = 0;
+  CUString text(L"new");
+  CDataExchange exchange = Loading();
+  exchange.Fail(kStatic);
+  exchange.Check(kCheck, value);
+  exchange.Radio(kRadio, kLastRadio, value);
+  exchange.Text(kEdit, text);
+  exchange.Number(kEdit, value);
+  exchange.Choice(kList, kRows, row);
+  EXPECT_EQ(BST_UNCHECKED, CheckOf(kCheck));
+  EXPECT_EQ(std::vector<int>(), CheckedRadios());
+  EXPECT_EQ(L"before", TextOf(kEdit));
+  EXPECT_EQ(2, SelectedRow());
+}
+
+TEST_F(DataExchange, ControlsThatAreMissingReadAsOffAndEmpty) {
+  int check = 1, number = 9;
+  CUString text(L"before");
+  CDataExchange exchange = Saving();
+  exchange.Check(999, check);
+  exchange.Text(999, text);
+  exchange.Number(999, number);
+  EXPECT_EQ(0, check);
+  EXPECT_EQ(L"", text);
+  EXPECT_EQ(0, number);
+}
+
+}  // namespace
