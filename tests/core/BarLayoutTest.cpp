@@ -1,4 +1,8 @@
-__PRE__TEST(BarLayout, TitleCapAndAreaAt96Dpi) {
+#include "core/BarTestModel.h"
+
+namespace {
+
+TEST(BarLayout, TitleCapAndAreaAt96Dpi) {
   BarModel model = MakeSheetBar();
   model.Arrange(149, 420, 96);
   EXPECT_EQ((IntRect{0, 0, 144, 31}), model.Layout().title);

@@ -229,6 +229,14 @@ class GlueLogic : public CNemUIPage {
   int resolutionOverride = -1;
 };
 
+constexpr PropertyBinding<GlueLogic> kBindings[] = {
+    Bind<&GlueLogic::scale, &CDialogProperties::Scale>(),
+    Bind<&GlueLogic::watermark, &CDialogProperties::WatermarkFilename>(),
+    BindReadOnly<&GlueLogic::readOnly, &CDialogProperties::Used>(),
+    BindInSet<&GlueLogic::fixed, &CDialogProperties::GraphicResolution, 0>(),
+    BindOverride<&GlueLogic::resolutionOverride, &AdminSettings::GraphicResolution_Override>(),
+};
+
 class GluePage : public CNemUISettingsPage<GlueLogic> {
  public:
   using CNemUISettingsPage::CNemUISettingsPage;
@@ -237,16 +245,7 @@ class GluePage : public CNemUISettingsPage<GlueLogic> {
   std::string steps;
 
  protected:
-  std::span<const PropertyBinding<GlueLogic>> Bindings() const override {
-    static constexpr PropertyBinding<GlueLogic> kBindings[] = {
-        Bind<&GlueLogic::scale, &CDialogProperties::Scale>(),
-        Bind<&GlueLogic::watermark, &CDialogProperties::WatermarkFilename>(),
-        BindReadOnly<&GlueLogic::readOnly, &CDialogProperties::Used>(),
-        BindInSet<&GlueLogic::fixed, &CDialogProperties::GraphicResolution, 0>(),
-        BindOverride<&GlueLogic::resolutionOverride, &AdminSettings::GraphicResolution_Override>(),
-    };
-    return kBindings;
-  }
+  std::span<const PropertyBinding<GlueLogic>> Bindings() const override { return kBindings; }
   void OnPropertiesRead() override { steps += IsLoaded() ? "read again " : "read "; }
   void OnPropertiesWritten() override { steps += "written "; }
 };
