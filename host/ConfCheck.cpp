@@ -7,7 +7,6 @@
 #include <string_view>
 #include <utility>
 
-#include "DriverLIB/AFile.h"
 #include "environment/AdminValidation.h"
 #include "environment/ConfGrammar.h"
 #include "Text.h"
@@ -27,20 +26,28 @@ std::wstring Widened(std::string_view bytes) {
 
 // --- Unknown keys ----------------------------------------------------------------------------------------------------
 
-// A key without its ending and in small letters: what remains the same when an administrator mistypes it.
-std::string Core(std::string_view key) {
-  std::string core;
-  for (const char byte : key) core += byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte;
-  constexpr std::string_view kEnding = "_override";
-  if (core.ends_with(kEnding)) core.resize(core.size() - kEnding.size());
-  return core;
+constexpr std::string_view kEnding = "_Override";
+
+char Lowered(char byte) { return byte >= 'A' && byte <= 'Z' ? static_cast<char>(byte - 'A' + 'a') : byte; }
+
+// Keys are plain ASCII.
+template <class Key>
+bool EqualsNoCase(std::string_view bytes, const Key& key) {
+  return std::ranges::equal(bytes, key, {}, Lowered,
+                            [](auto character) { return Lowered(static_cast<char>(character)); });
 }
 
+// What remains of a key without its ending.
+template <class Key>
+Key Stem(Key key) {
+  const bool ends = key.size() >= kEnding.size() && EqualsNoCase(kEnding, key.substr(key.size() - kEnding.size()));
+  return ends ? key.substr(0, key.size() - kEnding.size()) : key;
+}
+
+// The key with this stem, however it is written.
 const AdminKey* FindMeantKey(std::string_view key) {
-  for (const AdminKey* entry = kAdminKeys; entry->key; ++entry) {
-    const std::wstring_view name = entry->key;
-    if (Core(std::string(name.begin(), name.end())) == Core(key)) return entry;
-  }
+  for (const AdminKey* entry = kAdminKeys; entry->key; ++entry)
+    if (EqualsNoCase(Stem(key), Stem(std::wstring_view(entry->key)))) return entry;
   return nullptr;
 }
 
@@ -215,9 +222,16 @@ bool CheckEncoding(std::string_view bytes, std::vector<ConfFinding>& findings) {
 }  // namespace
 
 ConfReport CheckConfFile(const std::wstring& name, AdminSettings& record) {
-  ConfReport report;
   AFile file(name.c_str());
-  const std::optional<std::string> bytes = file.OpenRead() ? ReadBytes(file) : std::nullopt;
+  if (file.OpenRead()) return CheckConfFile(file, record);
+  ConfReport report;
+  report.reason = file.errorText.View();
+  return report;
+}
+
+ConfReport CheckConfFile(AFile& file, AdminSettings& record) {
+  ConfReport report;
+  const std::optional<std::string> bytes = ReadBytes(file);
   if (!bytes) {
     report.reason = file.errorText.View();
     return report;

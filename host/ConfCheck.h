@@ -5,6 +5,7 @@
 #include <string>
 #include <vector>
 
+#include "DriverLIB/AFile.h"
 #include "environment/AdminSettings.h"
 
 namespace host {
@@ -25,6 +26,9 @@ struct ConfReport {
 // files have left in the record counts, as it does in the library: a printer's own file first, then the general one.
 // No finding shows a value, which may be a password.
 ConfReport CheckConfFile(const std::wstring& name, AdminSettings& record);
+
+// The same for a file that is open and stands at its start.
+ConfReport CheckConfFile(AFile& file, AdminSettings& record);
 
 // The findings of a readable file, a line each, as "NAME:LINE: text"; one line also for a file without any.
 std::wstring DescribeReport(const std::wstring& name, const ConfReport& report);

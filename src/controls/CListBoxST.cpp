@@ -27,7 +27,7 @@ int TextWidth(HDC dc, const CUString& text) {
 
 }  // namespace
 
-// --- Rows ------------------------------------------------------------------------------------------------------------
+// --- Rows -----------------------------------------------------------------------------------------------------------
 
 int CListBoxST::AddItem(const wchar_t* text, int image, int indent) {
   const ULONG_PTR key = ++lastKey_;
@@ -113,7 +113,7 @@ bool CListBoxST::IsItemEnabled(int row) const {
   return record && !(record->flags & kDisabled);
 }
 
-// --- Look ------------------------------------------------------------------------------------------------------------
+// --- Look -----------------------------------------------------------------------------------------------------------
 
 void CListBoxST::SetHighlightMode(int mode) {
   if (mode < static_cast<int>(HighlightMode::Row) || mode > static_cast<int>(HighlightMode::Text)) return;
@@ -157,7 +157,7 @@ void CListBoxST::SetImageSize(int width, int height) {
   Invalidate();
 }
 
-// --- Measures --------------------------------------------------------------------------------------------------------
+// --- Measures -------------------------------------------------------------------------------------------------------
 
 ListRowMeasures CListBoxST::Measures(int indent) const {
   return {imageWidth_, imageHeight_, Scale(kGap), Scale(indent_ * indent)};
@@ -184,7 +184,7 @@ RECT CListBoxST::ItemRect(int row) const {
   return rect;
 }
 
-// --- Drawing ---------------------------------------------------------------------------------------------------------
+// --- Drawing --------------------------------------------------------------------------------------------------------
 
 // Rows cover their own ground.
 void CListBoxST::EraseBelowRows(HDC dc) const {
@@ -233,7 +233,7 @@ void CListBoxST::DrawRow(HDC dc, const DRAWITEMSTRUCT& item) const {
   ::DrawFocusRect(dc, &highlight);
 }
 
-// --- Messages --------------------------------------------------------------------------------------------------------
+// --- Messages -------------------------------------------------------------------------------------------------------
 
 bool CListBoxST::OnReflected(WindowMessage& message) {
   switch (message.message) {

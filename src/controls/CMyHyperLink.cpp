@@ -48,7 +48,7 @@ void CMyHyperLink::OnAttached() {
   SetFont(Font());
 }
 
-// --- Following -------------------------------------------------------------------------------------------------------
+// --- Following ------------------------------------------------------------------------------------------------------
 
 void CMyHyperLink::Follow() {
   // The page may open a box or another page: nothing may hold the mouse then.
@@ -67,7 +67,7 @@ void CMyHyperLink::Follow() {
   Invalidate();
 }
 
-// --- Mouse -----------------------------------------------------------------------------------------------------------
+// --- Mouse ----------------------------------------------------------------------------------------------------------
 
 bool CMyHyperLink::IsOver(LPARAM point) const {
   const RECT client = ClientRect();
@@ -101,8 +101,7 @@ void CMyHyperLink::OnMouseGone() {
   if (::GetCapture() == Handle()) ::ReleaseCapture();
 }
 
-// --- Drawing
-// -----------------------------------------------------------------------------------------------------------
+// --- Drawing --------------------------------------------------------------------------------------------------------
 
 COLORREF CMyHyperLink::Color() const {
   return IsHighContrast() ? ::GetSysColor(COLOR_HOTLIGHT) : LinkColor(hover_, visited_);
@@ -137,8 +136,7 @@ bool CMyHyperLink::OnReflected(WindowMessage& message) {
   return true;
 }
 
-// --- Messages
-// ----------------------------------------------------------------------------------------------------------
+// --- Messages -------------------------------------------------------------------------------------------------------
 
 bool CMyHyperLink::OnWindowMessage(WindowMessage& message) {
   if (accessibility_.OnMessage(*this, message)) return true;
@@ -195,8 +193,7 @@ bool CMyHyperLink::OnWindowMessage(WindowMessage& message) {
   }
 }
 
-// --- Screen readers
-// ----------------------------------------------------------------------------------------------------
+// --- Screen readers -------------------------------------------------------------------------------------------------
 
 CUString CMyHyperLink::PartName(int) const { return Style() & SS_NOPREFIX ? Text() : WithoutMarks(Text()); }
 

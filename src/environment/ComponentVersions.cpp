@@ -16,21 +16,24 @@ struct ComponentQuery {
 
 constexpr int kMode = 1;
 
+// The component stays loaded until its exception has been dealt with: what it threw may need its code to go away.
 template <class Binding>
-CUString VersionOf(const wchar_t* directory, const ComponentQuery& query) try {
-  Binding component;
-  if (!component.Load(kMode, directory, query.filename)) {
-    TraceInfo(query.failure, component.lastError);
+CUString VersionOf(const wchar_t* directory, const ComponentQuery& query) {
+  Binding component;  // outlives the handler: what the component threw is destroyed by its own code
+  try {
+    if (!component.Load(kMode, directory, query.filename)) {
+      TraceInfo(query.failure, component.lastError);
+      return {};
+    }
+    CEString text;
+    component.GetVersionText(text);
+    CUString version;
+    version.AssignNarrow(text);
+    return version;
+  } catch (...) {
+    TraceError(query.exception);
     return {};
   }
-  CEString text;
-  component.GetVersionText(text);
-  CUString version;
-  version.AssignNarrow(text);
-  return version;
-} catch (...) {
-  TraceError(query.exception);
-  return {};
 }
 
 }  // namespace

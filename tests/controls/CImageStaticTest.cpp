@@ -1,7 +1,10 @@
 #include "controls/CImageStatic.h"
 
+#include <set>
+
 #include "ControlDialog.h"
 #include "Pictures.h"
+#include "PlatformSpy.h"
 
 namespace {
 
@@ -78,8 +81,7 @@ void ExpectBlended(const Picture& picture, UINT bitmapId, UINT maskId, bool flip
     }
 }
 
-// --- Loading
-// -----------------------------------------------------------------------------------------------------------
+// --- Loading --------------------------------------------------------------------------------------------------------
 
 TEST(CImageStatic, FailsWithoutABitmapAndShowsNothing) {
   const struct {
@@ -132,8 +134,7 @@ TEST(CImageStatic, LeavesNothingOfAnEarlierImage) {
   EXPECT_TRUE(Paint(fresh.control).pixels == Capture(test.control.Handle()).pixels);
 }
 
-// --- Painting
-// ------------------------------------------------------------------------------------------------------------
+// --- Painting -------------------------------------------------------------------------------------------------------
 
 TEST(CImageStatic, TakesAlphaFromTheMask) {
   ImagePage test;
@@ -227,7 +228,7 @@ TEST(CImageStatic, PrintsWhatItPaints) {
   EXPECT_TRUE(painted.pixels == Capture(test.control.Handle()).pixels);
 }
 
-// --- Place -----------------------------------------------------------------------------------------------------------
+// --- Place ----------------------------------------------------------------------------------------------------------
 
 TEST(CImageStatic, IsCentredAtFirst) {
   ImagePage test;
@@ -273,6 +274,47 @@ TEST(CImageStatic, TurnsOverInAMirroredPageWhatHasADirection) {
   test.image.SetAlignment(0, 0);
   test.image.SetImage(kMirroredBitmap, kNoTransparentColor, kMirroredMask);
   ExpectBlended(Cut(Paint(test.control), {kWidth - kSize, 0, kWidth, kSize}), kMirroredBitmap, kMirroredMask, true);
+}
+
+// --- Dpi ------------------------------------------------------------------------------------------------------------
+
+TEST(CImageStatic, GrowsWithTheDpi) {
+  const DpiScope dpi(144);
+  for (const UINT mask : {kPlainMask, UINT{0}}) {
+    ImagePage test;
+    test.image.SetImage(kPlainBitmap, kNoTransparentColor, mask);
+    EXPECT_EQ((IntRect{8, 3, 32, 27}), test.image.TargetRect()) << "24 pixels high and wide";
+    test.image.SetAlignment(0, 2);
+    EXPECT_EQ((IntRect{3, 3, 27, 27}), test.image.TargetRect()) << "and so does the margin";
+  }
+}
+
+TEST(CImageStatic, MixesNoColorsWithTheTransparentOne) {
+  const DpiScope dpi(144);
+  const Picture bitmap = LoadPicture(kPlainBitmap);
+  const COLORREF key = ColorOf(bitmap.At(0, 0));
+  ImagePage test;
+  ASSERT_TRUE(test.image.SetImage(kPlainBitmap, key));
+  const Picture target = Target(test);
+  ASSERT_EQ(24, target.width);
+  const std::set<uint32_t> colors(bitmap.pixels.begin(), bitmap.pixels.end());
+  EXPECT_EQ(0, CountPixels(target, key));
+  EXPECT_GT(CountPixels(target, kMarkedGround), 100);
+  for (const uint32_t pixel : target.pixels)
+    ASSERT_TRUE(pixel == PixelOf(kMarkedGround) || colors.contains(pixel)) << std::hex << pixel;
+}
+
+TEST(CImageStatic, HasFinerPicturesForFinerDisplays) {
+  const DpiScope dpi(192);
+  ImagePage test;
+  test.page.ground = RGB(0, 0, 0);
+  ASSERT_TRUE(test.image.SetImage(kPlainBitmap, kNoTransparentColor, kPlainMask));
+  const Picture target = Target(test);
+  ASSERT_EQ(2 * kSize, target.width);
+  int differing = 0;  // pairs of rows that a mere doubling would make alike
+  for (int y = 0; y < kSize; ++y)
+    for (int x = 0; x < 2 * kSize; ++x) differing += target.At(x, 2 * y) != target.At(x, 2 * y + 1);
+  EXPECT_GT(differing, 20);
 }
 
 }  // namespace

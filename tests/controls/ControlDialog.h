@@ -91,7 +91,7 @@ class ControlDialog : public CDialog {
   GdiBrush groundBrush_;
 };
 
-// --- Pictures --------------------------------------------------------------------------------------------------------
+// --- Pictures -------------------------------------------------------------------------------------------------------
 
 constexpr COLORREF kMarkedGround = RGB(200, 230, 180);  // no colour of the system
 
@@ -125,7 +125,7 @@ inline int CountPixels(const Picture& picture, COLORREF color) {
   return static_cast<int>(std::count(picture.pixels.begin(), picture.pixels.end(), PixelOf(color)));
 }
 
-// --- Surroundings ----------------------------------------------------------------------------------------------------
+// --- Surroundings ---------------------------------------------------------------------------------------------------
 
 // For its life the system says that the user runs a high-contrast scheme.
 class HighContrastScope {

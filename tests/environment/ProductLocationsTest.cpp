@@ -147,17 +147,17 @@ BOOL WINAPI EnumServerPrinters(DWORD flags, wchar_t*, DWORD, BYTE* buffer, DWORD
 }
 BOOL WINAPI EnumThrowing(DWORD, wchar_t*, DWORD, BYTE*, DWORD, DWORD*, DWORD*) { throw std::runtime_error("no"); }
 
-decltype(&OpenAny) open = OpenAny;
-decltype(&GetServerPrinter) get = GetServerPrinter;
-decltype(&EnumServerPrinters) enumerate = EnumServerPrinters;
+decltype(&OpenAny) openPrinter = OpenAny;
+decltype(&GetServerPrinter) getPrinter = GetServerPrinter;
+decltype(&EnumServerPrinters) enumPrinters = EnumServerPrinters;
 
 FARPROC WINAPI GetSpoolerProc(HMODULE module, const char* name) {
   if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF) {
     const std::string_view wanted(name);
-    if (wanted == "OpenPrinterW") return reinterpret_cast<FARPROC>(open);
+    if (wanted == "OpenPrinterW") return reinterpret_cast<FARPROC>(openPrinter);
     if (wanted == "ClosePrinter") return reinterpret_cast<FARPROC>(&CloseAny);
-    if (wanted == "GetPrinterW") return reinterpret_cast<FARPROC>(get);
-    if (wanted == "EnumPrintersW") return reinterpret_cast<FARPROC>(enumerate);
+    if (wanted == "GetPrinterW") return reinterpret_cast<FARPROC>(getPrinter);
+    if (wanted == "EnumPrintersW") return reinterpret_cast<FARPROC>(enumPrinters);
   }
   return realGetProcAddress(module, name);
 }
@@ -177,7 +177,7 @@ TEST(FakeSpooler, DISABLED_ServerPrinter) {
 }
 
 TEST(FakeSpooler, DISABLED_PrinterThatCannotBeOpened) {
-  open = OpenNone;
+  openPrinter = OpenNone;
   PatchSpooler();
   TracedThread thread;
   EXPECT_TRUE(GetAddInNEMDllPath().IsEmpty());
@@ -186,7 +186,7 @@ TEST(FakeSpooler, DISABLED_PrinterThatCannotBeOpened) {
 }
 
 TEST(FakeSpooler, DISABLED_PrinterThatIsNotValid) {
-  get = GetNoPrinter;
+  getPrinter = GetNoPrinter;
   PatchSpooler();
   TracedThread thread;
   EXPECT_TRUE(GetAddInNEMDllPath().IsEmpty());
@@ -196,7 +196,7 @@ TEST(FakeSpooler, DISABLED_PrinterThatIsNotValid) {
 }
 
 TEST(FakeSpooler, DISABLED_SpoolerThatThrows) {
-  enumerate = EnumThrowing;
+  enumPrinters = EnumThrowing;
   PatchSpooler();
   TracedThread thread;
   EXPECT_TRUE(GetAddInNEMDllPath().IsEmpty());
