@@ -134,7 +134,7 @@ class CConfChecker {
       const AdminSettings before = record_;
       ApplyAdminRule(static_cast<AdminRule>(rule), record_);
       for (const AdminKey* entry = kAdminKeys; entry->key; ++entry) {
-        if (FirstOf(*entry) != entry || !IsSet(*entry, before) || IsSet(*entry, record_)) continue;
+        if (!IsSet(*entry, before) || IsSet(*entry, record_) || FirstOf(*entry) != entry) continue;
         const auto stored = storedAt_.find(entry);
         const int number = stored == storedAt_.end() ? 0 : stored->second;
         Find(number, std::wstring(entry->key) + L": dropped, " + DescribeDrop(static_cast<AdminRule>(rule), *entry));
