@@ -81,8 +81,9 @@ TEST(SplitList, AListOfNEntriesCostsN) {
     }
     return std::chrono::duration<double>(best).count();
   };
-  // Sixteen times the entries cost some sixteen times as much; a cost by the square would be 256 times.
-  EXPECT_LT(cost(64000), 64 * cost(4000));
+  // 64 times the entries cost some 64 times as much; a cost by the square would be 4096 times. The bound lies far from
+  // both, since the machine may be busy.
+  EXPECT_LT(cost(64000), 800 * cost(1000));
 }
 
 TEST(SplitQuotedList, AnEntryInMarksKeepsItsSeparators) {
