@@ -134,7 +134,7 @@ class CConfChecker {
       const AdminSettings before = record_;
       ApplyAdminRule(static_cast<AdminRule>(rule), record_);
       for (const AdminKey* entry = kAdminKeys; entry->key; ++entry) {
-        if (!IsSet(*entry, before) || IsSet(*entry, record_) || FirstOf(*entry) != entry) continue;
+        if (!IsSet(*entry, before) || IsSet(*entry, record_)) continue;
         const auto stored = storedAt_.find(entry);
         const int number = stored == storedAt_.end() ? 0 : stored->second;
         Find(number, std::wstring(entry->key) + L": dropped, " + DescribeDrop(static_cast<AdminRule>(rule), *entry));
@@ -148,13 +148,6 @@ class CConfChecker {
   }
 
  private:
-  // A key that stands in the table twice is the row that the search finds.
-  static const AdminKey* FirstOf(const AdminKey& entry) {
-    const AdminKey* first = kAdminKeys;
-    while (std::wstring_view(first->key) != std::wstring_view(entry.key)) ++first;
-    return first;
-  }
-
   static std::wstring Name(const ConfLine& line) { return line.entry->key; }
 
   void Find(int number, std::wstring text) { findings_.push_back({number, std::move(text)}); }

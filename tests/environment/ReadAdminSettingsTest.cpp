@@ -30,6 +30,13 @@ class ReadAdminSettingsTest : public testing::Test {
     return ReadAdminSettings(handle.Get(), &record, printer.Name());
   }
 
+  // What was traced, without the look-ups in the registry that a message box makes.
+  Lines Traced() {
+    Lines lines = thread.Lines();
+    std::erase_if(lines, [](const std::wstring& line) { return line.starts_with(L"CRegistryEntry::"); });
+    return lines;
+  }
+
   LanguageScope english{kEnglish};
   TestDriver driver;
   TestPrinter printer{L"Invoices"};

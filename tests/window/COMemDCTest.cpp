@@ -68,6 +68,22 @@ TEST(COMemDC, WhatIsNoDisplayIsDrawnToDirectly) {
   ::DeleteMetaFile(::CloseMetaFile(recording));
 }
 
+TEST(COMemDC, EmptyClipBoxDrawsNothing) {
+  const Canvas canvas(20, 10, kGround);
+  ::IntersectClipRect(canvas, 0, 0, 0, 0);
+  {
+    const COMemDC surface(canvas);
+    Fill(surface, {0, 0, 20, 10}, kInk);
+  }
+  EXPECT_EQ(kGround, canvas.At(0, 0));
+}
+
+TEST(COMemDC, LeavesNoObjectsBehind) {
+  const Canvas canvas(20, 10, kGround);
+  for (int i = 0; i < 20'000; ++i) const COMemDC surface(canvas);
+  EXPECT_TRUE(COMemDC(canvas).IsBuffered()) << "the system has no room for more";
+}
+
 TEST(MemoryDC, IsLaidOutLikeItsTarget) {
   for (const bool mirrored : {false, true}) {
     const Canvas canvas(20, 1, kGround, mirrored);
