@@ -377,11 +377,18 @@ TEST_F(ConfFileCost, TwiceTheFileCostsThePlatformTwice) {
 }
 
 TEST_F(ConfFileCost, TwiceTheFileTakesTwiceAsLong) {
-  // The best of several runs is what the work itself takes. A machine that is busy gets more of them.
+  // The platform counts a process's time in ticks of some ten milliseconds, so one figure is of many readings.
+  const auto timeOf = [](const wchar_t* name) {
+    double seconds = 0;
+    for (int reading = 0; reading < 12; ++reading) seconds += CostOf(name).seconds;
+    return seconds;
+  };
+  // The best of several runs is what the work itself takes. A machine that is busy gets more of them. A cost by the
+  // square would be four times.
   double half = 1e9, whole = 1e9;
-  for (int run = 0; run < 20 && (run < 3 || whole > 2.3 * half); ++run) {
-    half = std::min(half, CostOf(halfFile.Name()).seconds);
-    whole = std::min(whole, CostOf(wholeFile.Name()).seconds);
+  for (int run = 0; run < 12 && (run < 2 || whole > 2.3 * half); ++run) {
+    half = std::min(half, timeOf(halfFile.Name()));
+    whole = std::min(whole, timeOf(wholeFile.Name()));
   }
-  EXPECT_LE(whole, 2.3 * half) << half << " s and " << whole << " s";
+  EXPECT_LE(whole, 3.0 * half) << half << " s and " << whole << " s";
 }
