@@ -52,7 +52,7 @@ class CSession {
     if (!WaitFor([this] { return (sheet_ = FindSheet()) != nullptr && FindControl(kBarId); },
                  "the sheet does not open"))
       return ExitCode();  // a host that refuses its settings opens none
-    TakePicture(L"1-cockpit");
+    TakePicture(L"1-opened");
 
     ClickFolder(kFileSizeFolder);
     Require([this] { return FindControl(kUserDefinedRadio) != nullptr; }, "the graphic page does not come up");

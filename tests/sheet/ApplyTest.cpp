@@ -209,6 +209,7 @@ TEST_F(Apply, BothTabsAreAskedAndOneThatFailsKeepsTheSheet) {
 }
 
 TEST_F(Apply, CancelAfterARefusedOkGivesZero) {
+  const PlatformSaysOne platform;
   test_.OfferDocument();
   test_.Script(1, 120).onWrite = [](TestPage&) { return false; };  // the first tab has accepted by then
   EXPECT_EQ(0, test_
@@ -222,6 +223,7 @@ TEST_F(Apply, CancelAfterARefusedOkGivesZero) {
 }
 
 TEST_F(Apply, OwnerThatDiesInAnApplyGivesZero) {
+  const PlatformSaysOne platform;
   const HWND owner =
       CreateWindowExW(0, L"STATIC", L"", WS_POPUP | WS_VISIBLE, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr);
   test_.Script(0, 120).onWrite = [owner](TestPage&) {

@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 
+#include "resources/ResourceIds.h"
 #include "support/TracedThread.h"
 #include "TestSheet.h"
 
@@ -292,6 +293,37 @@ TEST_F(TabKeys, PageThatIsShownFindsItsSiblingsOnItsOwnTab) {
     }
     sheet.PressCancel();
   });
+}
+
+class ThrowingSheet : public CPropertySheet {
+ protected:
+  bool OnTabChanging() override { throw std::runtime_error("test"); }
+};
+
+class PlainPage : public CPropertyPage {
+ public:
+  PlainPage() : CPropertyPage(IDD_NO_DOC_SETTINGS_PAGE) {}
+  int asked = 0;
+  bool OnKillActive() override {
+    ++asked;
+    return true;
+  }
+};
+
+TEST(ThrowingSheet, KeepsItsTabAndAsksNoPage) {
+  PlainPage first, second;
+  ThrowingSheet object;
+  object.AddPage(first);
+  object.AddPage(second);
+  RunSheet([&object] { return object.DoModal(nullptr, L"Sheet"); },
+           [&](Sheet& sheet) -> SheetTask {
+             sheet.SelectTab(1);
+             EXPECT_EQ(FALSE, SendMessageW(sheet.Window(), PSM_SETCURSEL, 1, 0));
+             co_await sheet.Settled();
+             EXPECT_EQ(0, sheet.CurrentTab());
+             EXPECT_EQ(0, first.asked);
+             sheet.PressCancel();
+           });
 }
 
 }  // namespace

@@ -2,6 +2,7 @@
 
 #include <algorithm>
 
+#include "driver/ImportPatch.h"
 #include "MessageIds.h"
 #include "resources/ResourceIds.h"
 
@@ -10,6 +11,13 @@ namespace {
 
 // The sheet whose pages are being made: what makes them takes no argument of ours.
 thread_local TestSheet* making = nullptr;
+
+decltype(&PropertySheetW) realPropertySheet = nullptr;
+
+INT_PTR WINAPI SayOne(LPCPROPSHEETHEADERW header) {
+  realPropertySheet(header);
+  return 1;
+}
 
 // Runs a function of the script; one that is not there agrees.
 bool Ask(const std::function<bool(TestPage&)>& step, TestPage& page) { return !step || step(page); }
@@ -133,5 +141,12 @@ TestSheet::TestSheet(const std::vector<PageCatalogueRow>& rows) : language_(kEng
 int TestSheet::Count(const std::string& event) const {
   return static_cast<int>(std::count(log.begin(), log.end(), event));
 }
+
+PlatformSaysOne::PlatformSaysOne() {
+  realPropertySheet = RealFunction("comctl32.dll", "PropertySheetW", &PropertySheetW);
+  PatchImport("comctl32.dll", "PropertySheetW", reinterpret_cast<void*>(&SayOne));
+}
+
+PlatformSaysOne::~PlatformSaysOne() { RestoreImport("comctl32.dll", "PropertySheetW"); }
 
 }  // namespace sheet_test

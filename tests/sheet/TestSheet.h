@@ -119,4 +119,13 @@ class TestSheet {
   std::unique_ptr<CNemUISheet> sheet_;
 };
 
+// While it lives, the platform says 1 of every sheet that has run, whatever came of it.
+class PlatformSaysOne {
+ public:
+  PlatformSaysOne();
+  ~PlatformSaysOne();
+  PlatformSaysOne(const PlatformSaysOne&) = delete;
+  PlatformSaysOne& operator=(const PlatformSaysOne&) = delete;
+};
+
 }  // namespace sheet_test
