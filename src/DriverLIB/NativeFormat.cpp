@@ -12,8 +12,8 @@ namespace {
 
 enum class Size { kDefault, kShort, kLong, kLongLong };
 
-// One specification, from "%" to the conversion.
-struct Specification {
+// One directive, from "%" to the conversion.
+struct Directive {
   bool left = false, zero = false, alternate = false, space = false, plus = false;
   int width = 0;
   int precision = -1;  // none
@@ -34,8 +34,8 @@ class Formatter {
       if (*format != '%') {
         Put(*format++);
       } else {
-        const Specification specification = Parse(++format);
-        if (specification.conversion) Convert(specification);
+        const Directive directive = Parse(++format);
+        if (directive.conversion) Convert(directive);
       }
     }
     buffer_[used_] = 0;
@@ -64,45 +64,45 @@ class Formatter {
   }
 
   template <class Source>
-  void PutPadded(const Specification& specification, std::basic_string_view<Source> text) {
-    const int padding = specification.width - static_cast<int>(text.size());
-    if (!specification.left) Pad(specification.PadCharacter(), padding);
+  void PutPadded(const Directive& directive, std::basic_string_view<Source> text) {
+    const int padding = directive.width - static_cast<int>(text.size());
+    if (!directive.left) Pad(directive.PadCharacter(), padding);
     Put(text);
-    if (specification.left) Pad(' ', padding);
+    if (directive.left) Pad(' ', padding);
   }
 
-  // Reads the specification behind a "%" and moves behind it. No conversion at the end of the format.
-  Specification Parse(const Character*& format) {
-    Specification specification;
-    ParseFlags(format, specification);
-    specification.width = ParseNumber(format);
-    if (specification.width < 0) {
-      specification.left = true;
-      specification.width = -specification.width;
+  // Reads the directive behind a "%" and moves behind it. No conversion at the end of the format.
+  Directive Parse(const Character*& format) {
+    Directive directive;
+    ParseFlags(format, directive);
+    directive.width = ParseNumber(format);
+    if (directive.width < 0) {
+      directive.left = true;
+      directive.width = -directive.width;
     }
-    if (*format == '.') specification.precision = std::max(ParseNumber(++format), -1);
-    specification.size = ParseSize(format);
-    if (*format) specification.conversion = *format++;
-    return specification;
+    if (*format == '.') directive.precision = std::max(ParseNumber(++format), -1);
+    directive.size = ParseSize(format);
+    if (*format) directive.conversion = *format++;
+    return directive;
   }
 
-  static void ParseFlags(const Character*& format, Specification& specification) {
+  static void ParseFlags(const Character*& format, Directive& directive) {
     for (;; ++format) {
       switch (*format) {
         case '-':
-          specification.left = true;
+          directive.left = true;
           break;
         case '0':
-          specification.zero = true;
+          directive.zero = true;
           break;
         case '#':
-          specification.alternate = true;
+          directive.alternate = true;
           break;
         case ' ':
-          specification.space = true;
+          directive.space = true;
           break;
         case '+':
-          specification.plus = true;
+          directive.plus = true;
           break;
         default:
           return;
@@ -145,34 +145,34 @@ class Formatter {
     }
   }
 
-  void Convert(const Specification& specification) {
-    switch (specification.conversion) {
+  void Convert(const Directive& directive) {
+    switch (directive.conversion) {
       case 'd':
       case 'i':
       case 'u':
       case 'o':
       case 'x':
       case 'X':
-        return ConvertInteger(specification);
+        return ConvertInteger(directive);
       case 'c':
       case 'C':
-        return ConvertCharacter(specification);
+        return ConvertCharacter(directive);
       case 's':
       case 'S':
-        return ConvertString(specification);
+        return ConvertString(directive);
       case 'p':
-        return ConvertPointer(specification);
+        return ConvertPointer(directive);
       case 'e':
       case 'E':
       case 'f':
       case 'g':
       case 'G':
-        return ConvertDouble(specification);
+        return ConvertDouble(directive);
       case 'n':
         arguments_.NextPointer();
         return;  // nothing is ever written through an argument
       default:
-        return Put(specification.conversion);
+        return Put(directive.conversion);
     }
   }
 
@@ -198,88 +198,88 @@ class Formatter {
     return {digits.rbegin(), digits.rend()};
   }
 
-  void ConvertInteger(Specification specification) {
-    const wchar_t conversion = specification.conversion;
+  void ConvertInteger(Directive directive) {
+    const wchar_t conversion = directive.conversion;
     const bool isSigned = conversion == 'd' || conversion == 'i';
     const bool hexadecimal = conversion == 'x' || conversion == 'X';
-    const int64_t value = NextInteger(specification.size, isSigned);
+    const int64_t value = NextInteger(directive.size, isSigned);
     const bool negative = isSigned && value < 0;
     const auto magnitude = negative ? 0 - static_cast<uint64_t>(value) : static_cast<uint64_t>(value);
 
     std::string prefix;
-    if (isSigned) prefix = negative ? "-" : specification.plus ? "+" : specification.space ? " " : "";
-    if (specification.alternate && hexadecimal && value != 0) prefix = conversion == 'x' ? "0x" : "0X";
+    if (isSigned) prefix = negative ? "-" : directive.plus ? "+" : directive.space ? " " : "";
+    if (directive.alternate && hexadecimal && value != 0) prefix = conversion == 'x' ? "0x" : "0X";
     std::string digits = Digits(magnitude, hexadecimal ? 16 : conversion == 'o' ? 8 : 10, conversion == 'X');
-    const auto least = static_cast<size_t>(specification.precision < 0 ? 1 : specification.precision);
+    const auto least = static_cast<size_t>(directive.precision < 0 ? 1 : directive.precision);
     if (digits.size() < least) digits.insert(0, least - digits.size(), '0');
-    if (conversion == 'o' && specification.alternate && !digits.starts_with('0')) digits.insert(0, 1, '0');
-    PutNumber(specification, prefix, digits, specification.precision < 0);
+    if (conversion == 'o' && directive.alternate && !digits.starts_with('0')) digits.insert(0, 1, '0');
+    PutNumber(directive, prefix, digits, directive.precision < 0);
   }
 
-  void PutNumber(Specification specification, const std::string& prefix, const std::string& digits, bool mayZeroPad) {
+  void PutNumber(Directive directive, const std::string& prefix, const std::string& digits, bool mayZeroPad) {
     const int length = static_cast<int>(prefix.size() + digits.size());
-    const bool zeroPad = mayZeroPad && specification.PadCharacter() == '0';
-    if (!specification.left && !zeroPad) Pad(' ', specification.width - length);
+    const bool zeroPad = mayZeroPad && directive.PadCharacter() == '0';
+    if (!directive.left && !zeroPad) Pad(' ', directive.width - length);
     Put(std::string_view(prefix));
-    if (zeroPad) Pad('0', specification.width - length);
+    if (zeroPad) Pad('0', directive.width - length);
     Put(std::string_view(digits));
-    if (specification.left) Pad(' ', specification.width - length);
+    if (directive.left) Pad(' ', directive.width - length);
   }
 
   // Whether a text or character argument is wide.
-  static bool IsWide(const Specification& specification) {
-    if (specification.size == Size::kShort) return false;
-    if (specification.size != Size::kDefault) return true;
-    const bool sameKind = specification.conversion == 's' || specification.conversion == 'c';
+  static bool IsWide(const Directive& directive) {
+    if (directive.size == Size::kShort) return false;
+    if (directive.size != Size::kDefault) return true;
+    const bool sameKind = directive.conversion == 's' || directive.conversion == 'c';
     return sameKind == (sizeof(Character) == sizeof(wchar_t));
   }
 
-  void ConvertCharacter(const Specification& specification) {
+  void ConvertCharacter(const Directive& directive) {
     const int32_t value = arguments_.NextInt32();
     const auto character =
-        IsWide(specification) ? static_cast<wchar_t>(value) : static_cast<wchar_t>(static_cast<unsigned char>(value));
-    PutPadded(specification, std::wstring_view(&character, 1));
+        IsWide(directive) ? static_cast<wchar_t>(value) : static_cast<wchar_t>(static_cast<unsigned char>(value));
+    PutPadded(directive, std::wstring_view(&character, 1));
   }
 
-  void ConvertString(const Specification& specification) {
+  void ConvertString(const Directive& directive) {
     const void* text = arguments_.NextPointer();
     if (!text) {
-      PutText(specification, "(null)");
-    } else if (IsWide(specification)) {
-      PutText(specification, static_cast<const wchar_t*>(text));
+      PutText(directive, "(null)");
+    } else if (IsWide(directive)) {
+      PutText(directive, static_cast<const wchar_t*>(text));
     } else {
-      PutText(specification, static_cast<const char*>(text));
+      PutText(directive, static_cast<const char*>(text));
     }
   }
 
   // Looks no further into `text` than the precision allows: it need not be terminated then.
   template <class Source>
-  void PutText(const Specification& specification, const Source* text) {
+  void PutText(const Directive& directive, const Source* text) {
     size_t length = 0;
-    while ((specification.precision < 0 || length < static_cast<size_t>(specification.precision)) && text[length])
+    while ((directive.precision < 0 || length < static_cast<size_t>(directive.precision)) && text[length])
       ++length;
-    PutPadded(specification, std::basic_string_view<Source>(text, length));
+    PutPadded(directive, std::basic_string_view<Source>(text, length));
   }
 
-  void ConvertPointer(Specification specification) {
+  void ConvertPointer(Directive directive) {
     std::string digits = Digits(reinterpret_cast<uintptr_t>(arguments_.NextPointer()), 16, true);
     digits.insert(0, 16 - digits.size(), '0');
-    PutPadded(specification, std::string_view(digits));
+    PutPadded(directive, std::string_view(digits));
   }
 
-  void ConvertDouble(const Specification& specification) {
+  void ConvertDouble(const Directive& directive) {
     const double value = arguments_.NextDouble();
     std::string format = "%";
-    if (specification.plus) format += '+';
-    if (specification.space) format += ' ';
-    if (specification.alternate) format += '#';
+    if (directive.plus) format += '+';
+    if (directive.space) format += ' ';
+    if (directive.alternate) format += '#';
     format += ".*";
-    format += static_cast<char>(specification.conversion);
-    const int precision = specification.precision < 0 ? 6 : specification.precision;
+    format += static_cast<char>(directive.conversion);
+    const int precision = directive.precision < 0 ? 6 : directive.precision;
     std::string text(static_cast<size_t>(std::snprintf(nullptr, 0, format.c_str(), precision, value)), '\0');
     std::snprintf(text.data(), text.size() + 1, format.c_str(), precision, value);
     const size_t signLength = text.find_first_of("+- ") == 0 ? 1 : 0;
-    PutNumber(specification, text.substr(0, signLength), text.substr(signLength), true);
+    PutNumber(directive, text.substr(0, signLength), text.substr(signLength), true);
   }
 
   Character* buffer_;
