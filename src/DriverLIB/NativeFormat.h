@@ -34,7 +34,7 @@ class VariadicArguments : public FormatArguments {
   va_list arguments_;
 };
 
-// One value in pointer width, for every specification that asks.
+// One value in pointer width, for every directive that asks.
 class SingleArgument : public FormatArguments {
  public:
   explicit SingleArgument(uintptr_t value) : value_(value) {}
