@@ -21,8 +21,10 @@ target_compile_definitions(NemPdfFlags INTERFACE $<$<CONFIG:RelWithDebInfo,Debug
 if(WIN32)
   target_compile_definitions(NemPdfFlags INTERFACE UNICODE _UNICODE STRICT NOMINMAX WINVER=0x0A00
                                                    _WIN32_WINNT=0x0A00 NTDDI_VERSION=0x0A000000 _WIN32_IE=0x0A00)
-  target_link_options(NemPdfFlags INTERFACE -fstack-protector-strong)  # links the protector's own small library
   target_compile_options(NemPdfFlags INTERFACE -ffunction-sections -fdata-sections -Wno-cast-function-type)
+  # What -fstack-protector-strong calls, in place of the tool chain's own library.
+  add_library(NemPdfStackProtector STATIC ${PROJECT_SOURCE_DIR}/src/DriverLIB/StackProtector.cpp)
+  target_link_libraries(NemPdfFlags INTERFACE NemPdfStackProtector)
 else()
   # 16-bit wide characters, as on Windows. libc's wide functions must not be called then: tests/support/ShortWide.cpp
   # stands in for the few that the standard library itself needs.

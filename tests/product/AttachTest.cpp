@@ -1,5 +1,7 @@
 // The library's life in a process: what loading, threads, unloading and the end of the process leave in the trace.
 #include <windows.h>
+// behind windows.h
+#include <psapi.h>
 
 #include <gtest/gtest.h>
 
@@ -126,6 +128,21 @@ TEST_F(AttachTest, TheEndOfTheProcessClosesTheTrace) {
   const std::wstring text = cleanUp.Text();
   EXPECT_TRUE(EndsIn(text, L"Trace closed.\r\n"));
   EXPECT_EQ(text.find(L"Trace closed."), text.rfind(L"Trace closed."));
+}
+
+// Whatever a library loads from its DllMain or before costs every host, and runs under the loader's lock.
+TEST_F(AttachTest, LoadingBringsInNoOtherLibrary) {
+  user.Delete();
+  const auto modules = [] {
+    HMODULE handles[256];
+    DWORD bytes = 0;
+    EXPECT_TRUE(K32EnumProcessModules(GetCurrentProcess(), handles, sizeof handles, &bytes));
+    return bytes / sizeof handles[0];
+  };
+  const size_t before = modules();
+  HMODULE library = LoadLibraryW(kCopy);
+  EXPECT_EQ(before + 1, modules());
+  FreeLibrary(library);
 }
 
 TEST_F(AttachTest, LoadingAndUnloadingLeavesNothingBehind) {
