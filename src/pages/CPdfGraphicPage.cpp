@@ -159,7 +159,8 @@ BOOL CPdfGraphicPage::OnInitDialog() {
   helpLink_.SetUnderline(true);
   videoLink_.Attach(*this, IDC_GRAPHIC_VIDEO_LINK);
   videoLink_.SetUrl(MessageText(MSG_VIDEO_ADDRESS).Text());
-  videoLink_.Show(PrimaryLanguage(GetUILanguage()) == LANG_GERMAN);  // the video speaks German
+  // The video is offered in Germany: the ids of Austria and others do not have it, though their texts are the same.
+  videoLink_.Show(GetUILanguage() == MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN));
 
   for (size_t i = 0; i < std::size(kPagePictures); ++i) {
     pictures_[i].Attach(*this, kPagePictures[i].controlId);
@@ -200,8 +201,8 @@ void CPdfGraphicPage::LoadControls(CDataExchange& exchange) {
 
 void CPdfGraphicPage::SaveControls(CDataExchange& exchange) {
   exchange.Choice(IDC_GRAPHIC_COMPRESSION, kCompressions, compressMethod);
-  jpegQuality = static_cast<uint16_t>(NumberIn(QualityField(*this)));
-  resolution = static_cast<uint16_t>(NumberIn(ResolutionField(*this)));
+  exchange.Number(IDC_GRAPHIC_QUALITY, jpegQuality);
+  exchange.Number(IDC_GRAPHIC_RESOLUTION, resolution);
   exchange.Choice(IDC_GRAPHIC_COLOR_DEPTH, kColorReductions, colorReduction);
   enhancedReplacements = 0;
 }

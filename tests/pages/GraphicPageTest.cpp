@@ -3,7 +3,9 @@
 #include "driver/SheetDriver.h"
 #include "MessageIds.h"
 #include "pages/CNemUIPdfGraphicPage.h"
+#include "Pictures.h"
 #include "resources/ResourceIds.h"
+#include "support/Accessible.h"
 #include "support/FakeSheet.h"
 #include "ui/PropertyAccess.h"
 
@@ -47,11 +49,21 @@ class GraphicPage : public testing::Test {
   }
   bool IsShown(int id) { return CWnd(page_.Handle()).Item(id).IsShown(); }
   void ChooseUserDefined() { Control(IDC_GRAPHIC_USER_DEFINED).Click(); }
+  // What the slider tells of a movement of the user to this position.
+  void MoveSlider(int position, int code) {
+    const HWND slider = Control(IDC_GRAPHIC_SLIDER).Window();
+    SendMessageW(slider, TBM_SETPOS, TRUE, position);
+    page_.Send(WM_HSCROLL, MAKEWPARAM(code, position), reinterpret_cast<LPARAM>(slider));
+  }
   // OK: what the controls hold goes into the properties.
   bool Save() { return page_.UpdateData(true) && page_.UpdateDataSuper(true); }
   void MoveMouse(int id) {
     const RECT area = CWnd(page_.Handle()).Item(id).RectIn(page_);
     page_.Send(WM_MOUSEMOVE, 0, MAKELPARAM((area.left + area.right) / 2, (area.top + area.bottom) / 2));
+  }
+  void MoveMouseTo(POINT screen) {
+    const POINT point = CWnd(page_.Handle()).ScreenToClient(screen);
+    page_.Send(WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y));
   }
   std::vector<int> EnabledControls() {
     std::vector<int> enabled;
@@ -149,6 +161,16 @@ TEST_F(GraphicPage, ListsWithoutASelectionFailTheSaveAndStoreTheFirstRow) {
   }
 }
 
+TEST_F(GraphicPage, AFailedSaveStoresNothingBehindTheFailure) {
+  OpenWith(601, 1, 33, 1);
+  Control(IDC_GRAPHIC_QUALITY).SetText(L"44");
+  Control(IDC_GRAPHIC_RESOLUTION).SetText(L"55");
+  SendMessageW(Control(IDC_GRAPHIC_COMPRESSION).Window(), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+  EXPECT_FALSE(page_.UpdateData(true));
+  EXPECT_EQ(33, page_.jpegQuality);
+  EXPECT_EQ(601, page_.resolution);
+}
+
 // --- Presets -------------------------------------------------------------------------------------------------------
 
 struct PresetCase {
@@ -189,8 +211,7 @@ TEST_P(GraphicPresetPage, SliderStoresItsValues) {
   const PresetCase& preset = GetParam();
   const PresetCase& other = kPresets[preset.number % 5];
   OpenWith(other.resolution, other.compression, other.jpegQuality, other.colors);
-  SendMessageW(Control(1146).Window(), TBM_SETPOS, TRUE, preset.number);
-  page_.Send(WM_HSCROLL, MAKEWPARAM(TB_THUMBTRACK, preset.number), reinterpret_cast<LPARAM>(Control(1146).Window()));
+  MoveSlider(preset.number, TB_THUMBTRACK);
   ExpectPresetShown(preset);
   ASSERT_TRUE(Save());
   EXPECT_EQ(preset.resolution, properties().GraphicResolution[0].GetLong());
@@ -221,7 +242,7 @@ TEST_F(GraphicPage, OtherValuesAreUserDefined) {
   EXPECT_FALSE(Control(IDC_GRAPHIC_BY_FILE_SIZE).IsChecked());
   EXPECT_EQ(3, Control(IDC_GRAPHIC_SLIDER).Position());
   for (const int caption : {1155, 1157, 1159}) EXPECT_EQ(L"userdefined", Control(caption).Text());
-  EXPECT_TRUE(IsShown(1151));
+  for (int picture = 1149; picture <= 1153; ++picture) EXPECT_EQ(picture == 1151, IsShown(picture)) << picture;
   EXPECT_EQ(L"86%", Control(IDC_GRAPHIC_QUALITY).Text());
   EXPECT_EQ(-1, Control(IDC_GRAPHIC_QUALITY).SelectedRow());
   EXPECT_EQ(86, Control(IDC_GRAPHIC_QUALITY_BAR).Position());
@@ -241,7 +262,10 @@ TEST_F(GraphicPage, UserDefinedStaysChosenThoughTheValuesEqualAPreset) {
   EXPECT_EQ(L"userdefined", Control(1155).Text());
   EXPECT_TRUE(Control(IDC_GRAPHIC_QUALITY).IsEnabled());
   ASSERT_TRUE(Save());
+  EXPECT_EQ(600, properties().GraphicResolution[0].GetLong());
+  EXPECT_EQ(4, properties().GraphicCompressMethod[0].GetLong());
   EXPECT_EQ(85, properties().GraphicJpegQuality[0].GetLong());
+  EXPECT_EQ(1, properties().GraphicColorReduction[0].GetLong());
 }
 
 TEST_F(GraphicPage, PresetModeTakesTheSlidersPreset) {
@@ -256,8 +280,7 @@ TEST_F(GraphicPage, PresetModeTakesTheSlidersPreset) {
 TEST_F(GraphicPage, SliderMovedInTheUserDefinedStateChoosesPresets) {
   OpenWith(601, 1, 33, 0);
   MoveMouse(IDC_GRAPHIC_SLIDER);
-  SendMessageW(Control(IDC_GRAPHIC_SLIDER).Window(), TBM_SETPOS, TRUE, 5);
-  page_.Send(WM_HSCROLL, MAKEWPARAM(TB_THUMBTRACK, 5), reinterpret_cast<LPARAM>(Control(IDC_GRAPHIC_SLIDER).Window()));
+  MoveSlider(5, TB_THUMBTRACK);
   EXPECT_TRUE(Control(IDC_GRAPHIC_BY_FILE_SIZE).IsChecked());
   EXPECT_EQ(5, Control(IDC_GRAPHIC_SLIDER).Position());
   EXPECT_EQ(L"maximum", Control(1155).Text());
@@ -265,12 +288,21 @@ TEST_F(GraphicPage, SliderMovedInTheUserDefinedStateChoosesPresets) {
   EXPECT_FALSE(Control(IDC_GRAPHIC_RESOLUTION).IsEnabled());
 }
 
+TEST_F(GraphicPage, EveryMovementOfTheSliderAppliesItsPreset) {
+  Open();
+  for (const int code : {TB_LINEUP, TB_LINEDOWN, TB_PAGEUP, TB_PAGEDOWN, TB_THUMBTRACK, TB_TOP, TB_BOTTOM}) {
+    page_.SetCockpitValues({4, 85, 600, 1});
+    MoveSlider(1, code);
+    EXPECT_EQ(L"minimum", Control(1155).Text()) << code;
+    EXPECT_EQ(96, page_.resolution) << code;
+  }
+}
+
 TEST_F(GraphicPage, ThumbPositionAndEndOfScrollApplyNothing) {
   for (const int code : {TB_THUMBPOSITION, TB_ENDTRACK}) {
     page_.Destroy();
     Open();
-    SendMessageW(Control(IDC_GRAPHIC_SLIDER).Window(), TBM_SETPOS, TRUE, 1);
-    page_.Send(WM_HSCROLL, MAKEWPARAM(code, 1), reinterpret_cast<LPARAM>(Control(IDC_GRAPHIC_SLIDER).Window()));
+    MoveSlider(1, code);
     EXPECT_EQ(L"big", Control(1155).Text()) << code;
   }
 }
@@ -292,20 +324,21 @@ struct TypedCase {
   const wchar_t* typed;
   const wchar_t* shown;  // when the combo has lost the focus
   int position;
+  int row;  // that is then selected
 };
 
 TEST_F(GraphicPage, LeavingAComboNormalisesWhatWasTyped) {
   const TypedCase cases[] = {
-      {IDC_GRAPHIC_RESOLUTION, L"700", L"700 dpi", 700},
-      {IDC_GRAPHIC_RESOLUTION, L"300", L"300 dpi (Printer, low)", 300},
-      {IDC_GRAPHIC_RESOLUTION, L"9999", L"2400 dpi", 2400},
-      {IDC_GRAPHIC_RESOLUTION, L"abc", L"Do not change", 0},
-      {IDC_GRAPHIC_RESOLUTION, L"", L"Do not change", 0},
-      {IDC_GRAPHIC_RESOLUTION, L"-5", L"Do not change", 0},
-      {IDC_GRAPHIC_QUALITY, L"86", L"86%", 86},
-      {IDC_GRAPHIC_QUALITY, L"60", L"60% low - medium", 60},
-      {IDC_GRAPHIC_QUALITY, L"150", L"100% maximum", 100},
-      {IDC_GRAPHIC_QUALITY, L"x", L"0%", 0},
+      {IDC_GRAPHIC_RESOLUTION, L"700", L"700 dpi", 700, -1},
+      {IDC_GRAPHIC_RESOLUTION, L"300", L"300 dpi (Printer, low)", 300, 4},
+      {IDC_GRAPHIC_RESOLUTION, L"9999", L"2400 dpi", 2400, 9},
+      {IDC_GRAPHIC_RESOLUTION, L"abc", L"Do not change", 0, 0},
+      {IDC_GRAPHIC_RESOLUTION, L"", L"Do not change", 0, 0},
+      {IDC_GRAPHIC_RESOLUTION, L"-5", L"Do not change", 0, 0},
+      {IDC_GRAPHIC_QUALITY, L"86", L"86%", 86, -1},
+      {IDC_GRAPHIC_QUALITY, L"60", L"60% low - medium", 60, 1},
+      {IDC_GRAPHIC_QUALITY, L"150", L"100% maximum", 100, 5},
+      {IDC_GRAPHIC_QUALITY, L"x", L"0%", 0, -1},
   };
   OpenWith(601, 1, 33, 1);
   for (const TypedCase& typed : cases) {
@@ -316,6 +349,7 @@ TEST_F(GraphicPage, LeavingAComboNormalisesWhatWasTyped) {
     Control(IDC_GRAPHIC_COLOR_DEPTH).Focus();
     EXPECT_EQ(typed.shown, Control(typed.combo).Text()) << typed.typed;
     EXPECT_EQ(typed.position, Control(bar).Position()) << typed.typed;
+    EXPECT_EQ(typed.row, Control(typed.combo).SelectedRow()) << typed.typed;
   }
 }
 
@@ -336,6 +370,32 @@ TEST_F(GraphicPage, SavingStoresTheNumberAsItStands) {
   ASSERT_TRUE(Save());
   EXPECT_EQ(150, properties().GraphicJpegQuality[0].GetLong());
   EXPECT_EQ(2400, properties().GraphicResolution[0].GetLong()) << "left in between, so normalised";
+  Control(IDC_GRAPHIC_RESOLUTION).SetText(L"abc");
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(0, properties().GraphicResolution[0].GetLong());
+}
+
+TEST_F(GraphicPage, TheBarsLimitWhatIsLoaded) {
+  OpenWith(5000, 1, 150, 1);
+  EXPECT_EQ(L"2400 dpi", Control(IDC_GRAPHIC_RESOLUTION).Text());
+  EXPECT_EQ(2400, Control(IDC_GRAPHIC_RESOLUTION_BAR).Position());
+  EXPECT_EQ(L"100% maximum", Control(IDC_GRAPHIC_QUALITY).Text());
+  EXPECT_EQ(100, Control(IDC_GRAPHIC_QUALITY_BAR).Position());
+}
+
+// What is read back is the text, so the texts of all languages begin with their number.
+TEST_F(GraphicPage, NumbersComeBackInEveryLanguage) {
+  for (const int language : {0x0409, 0x0407, 0x040C, 0x0401})
+    for (const auto& [resolution, quality] : {std::pair{601, 33}, {600, 85}, {0, 100}}) {
+      const LanguageScope scope(static_cast<uint16_t>(language));
+      Store(resolution, 1, quality, 0, 0);
+      CNemUIPdfGraphicPage page(&sheet_, kDescription, 0);
+      ASSERT_TRUE(page.Create(parent_.Window()));
+      page.resolution = page.jpegQuality = 7;
+      ASSERT_TRUE(page.UpdateData(true));
+      EXPECT_EQ(resolution, page.resolution) << language;
+      EXPECT_EQ(quality, page.jpegQuality) << language;
+    }
 }
 
 TEST_F(GraphicPage, TypingOverASelectedRowCountsMoreThanTheRow) {
@@ -412,6 +472,15 @@ TEST_F(GraphicPage, OnlyJpegHasAQuality) {
   }
 }
 
+TEST_F(GraphicPage, WithoutACompressionThereIsNoQuality) {
+  OpenWith(601, 1, 86, 1);
+  SendMessageW(Control(IDC_GRAPHIC_COMPRESSION).Window(), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+  ChooseUserDefined();
+  EXPECT_EQ((std::vector<int>{IDC_GRAPHIC_BY_FILE_SIZE, IDC_GRAPHIC_USER_DEFINED, IDC_GRAPHIC_RESOLUTION,
+                              IDC_GRAPHIC_RESOLUTION_BAR, IDC_GRAPHIC_COMPRESSION, IDC_GRAPHIC_COLOR_DEPTH}),
+            EnabledControls());
+}
+
 TEST_F(GraphicPage, MouseOverTheSliderOpensItInTheUserDefinedState) {
   OpenWith(601, 1, 86, 1);
   EXPECT_FALSE(Control(IDC_GRAPHIC_SLIDER).IsEnabled());
@@ -419,6 +488,20 @@ TEST_F(GraphicPage, MouseOverTheSliderOpensItInTheUserDefinedState) {
   EXPECT_TRUE(Control(IDC_GRAPHIC_SLIDER).IsEnabled());
   MoveMouse(IDC_GRAPHIC_HINT);
   EXPECT_FALSE(Control(IDC_GRAPHIC_SLIDER).IsEnabled());
+}
+
+TEST_F(GraphicPage, MouseMeetsTheSliderWhereItStandsInAMirroredPage) {
+  const LanguageScope arabic(0x0401);
+  OpenWith(601, 1, 86, 1);
+  RECT slider{};
+  GetWindowRect(Control(IDC_GRAPHIC_SLIDER).Window(), &slider);
+  const LONG y = (slider.top + slider.bottom) / 2;
+  const std::pair<LONG, bool> places[] = {
+      {slider.left + 3, true}, {slider.left - 3, false}, {slider.right - 4, true}, {slider.right + 3, false}};
+  for (const auto& [x, over] : places) {
+    MoveMouseTo({x, y});
+    EXPECT_EQ(over, Control(IDC_GRAPHIC_SLIDER).IsEnabled()) << x;
+  }
 }
 
 TEST_F(GraphicPage, MouseElsewhereLeavesTheSliderOfPresetModeAlone) {
@@ -433,20 +516,19 @@ struct OverrideCase {
   std::vector<int> disabled;
 };
 
+const OverrideCase kOverrides[] = {
+    {"resolution",
+     [](AdminSettings& admin) { admin.GraphicResolution_Override = 0; },
+     {IDC_GRAPHIC_RESOLUTION, IDC_GRAPHIC_RESOLUTION_BAR}},
+    {"quality",
+     [](AdminSettings& admin) { admin.GraphicJpegQuality_Override = 50; },
+     {IDC_GRAPHIC_QUALITY, IDC_GRAPHIC_QUALITY_BAR}},
+    {"compression", [](AdminSettings& admin) { admin.GraphicCompressMethod_Override = 1; }, {IDC_GRAPHIC_COMPRESSION}},
+    {"colours", [](AdminSettings& admin) { admin.GraphicColorReduction_Override = 0; }, {IDC_GRAPHIC_COLOR_DEPTH}},
+};
+
 TEST_F(GraphicPage, OverridesDisableTheirControlsAndPresetMode) {
-  const OverrideCase cases[] = {
-      {"resolution",
-       [](AdminSettings& admin) { admin.GraphicResolution_Override = 0; },
-       {IDC_GRAPHIC_RESOLUTION, IDC_GRAPHIC_RESOLUTION_BAR}},
-      {"quality",
-       [](AdminSettings& admin) { admin.GraphicJpegQuality_Override = 50; },
-       {IDC_GRAPHIC_QUALITY, IDC_GRAPHIC_QUALITY_BAR}},
-      {"compression",
-       [](AdminSettings& admin) { admin.GraphicCompressMethod_Override = 1; },
-       {IDC_GRAPHIC_COMPRESSION}},
-      {"colours", [](AdminSettings& admin) { admin.GraphicColorReduction_Override = 0; }, {IDC_GRAPHIC_COLOR_DEPTH}},
-  };
-  for (const OverrideCase& fixed : cases) {
+  for (const OverrideCase& fixed : kOverrides) {
     FakeSheet sheet;
     sheet.properties.GraphicResolution[0].SetLong(601);
     sheet.properties.GraphicCompressMethod[0].SetLong(1);
@@ -463,6 +545,21 @@ TEST_F(GraphicPage, OverridesDisableTheirControlsAndPresetMode) {
     EXPECT_TRUE(dialog.Item(IDC_GRAPHIC_USER_DEFINED).IsEnabled()) << fixed.name;
     // The property's value is shown, not the administrator's.
     EXPECT_EQ(601, CScrollBar(dialog.Item(IDC_GRAPHIC_RESOLUTION_BAR)).Position()) << fixed.name;
+  }
+}
+
+TEST_F(GraphicPage, EachOverrideLocksAPresetThatIsOn) {
+  for (const OverrideCase& fixed : kOverrides) {
+    FakeSheet sheet;
+    CopyAllSets(sheet.properties, properties());
+    fixed.fix(sheet.properties.adminSettings);
+    CNemUIPdfGraphicPage page(&sheet, kDescription, 0);
+    ASSERT_TRUE(page.Create(parent_.Window()));
+    const CWnd dialog(page.Handle());
+    EXPECT_TRUE(CButton(dialog.Item(IDC_GRAPHIC_BY_FILE_SIZE)).IsChecked()) << fixed.name;
+    EXPECT_FALSE(dialog.Item(IDC_GRAPHIC_BY_FILE_SIZE).IsEnabled()) << fixed.name;
+    EXPECT_FALSE(dialog.Item(IDC_GRAPHIC_SLIDER).IsEnabled()) << fixed.name;
+    EXPECT_TRUE(dialog.Item(IDC_GRAPHIC_USER_DEFINED).IsEnabled()) << fixed.name;
   }
 }
 
@@ -558,6 +655,12 @@ TEST_F(GraphicPage, CockpitSetsAllButWhatIsFixed) {
   }
 }
 
+TEST_F(GraphicPage, CockpitLeavesTheReplacementsAlone) {
+  Store(600, 4, 85, 1, 1);
+  page_.SetCockpitValues({4, 85, 600, 1});
+  EXPECT_EQ(1, page_.enhancedReplacements);
+}
+
 TEST_F(GraphicPage, CockpitShowsWhatItSets) {
   Open();
   page_.SetCockpitValues({4, 60, 150, 1});
@@ -569,15 +672,22 @@ TEST_F(GraphicPage, CockpitShowsWhatItSets) {
 
 TEST_F(GraphicPage, CaptionsOfThePresetAreBold) {
   Open();
+  LOGFONTW expected{};
+  GetObjectW(CWnd(page_.Handle()).Font(), sizeof expected, &expected);
+  ASSERT_NE(FW_BOLD, expected.lfWeight);
+  expected.lfWeight = FW_BOLD;
   for (const int caption : {1155, 1157, 1159}) {
     LOGFONTW font{};
     GetObjectW(CWnd(Control(caption).Window()).Font(), sizeof font, &font);
-    EXPECT_EQ(FW_BOLD, font.lfWeight) << caption;
+    EXPECT_EQ(0, memcmp(&expected, &font, offsetof(LOGFONTW, lfFaceName))) << caption;
+    EXPECT_STREQ(expected.lfFaceName, font.lfFaceName) << caption;
   }
 }
 
 TEST_F(GraphicPage, VideoLinkShowsInGermanOnly) {
-  for (const auto& [language, shown] : {std::pair{0x0409, false}, {0x0407, true}, {0x040C, false}, {0x0401, false}}) {
+  const std::pair<int, bool> languages[] = {{0x0409, false}, {0x0407, true},  {0x0807, false},  // German elsewhere
+                                            {0x0C07, false}, {0x040C, false}, {0x0401, false}};
+  for (const auto& [language, shown] : languages) {
     const LanguageScope scope(static_cast<uint16_t>(language));
     CNemUIPdfGraphicPage page(&sheet_, kDescription, 0);
     ASSERT_TRUE(page.Create(parent_.Window()));
@@ -585,10 +695,46 @@ TEST_F(GraphicPage, VideoLinkShowsInGermanOnly) {
   }
 }
 
-TEST_F(GraphicPage, PicturesAreThere) {
+TEST_F(GraphicPage, VideoLinkLeadsToTheAddressOfItsText) {
+  const ComScope com;
+  const LanguageScope german(0x0407);
   Open();
-  for (const int id : {1149, 1150, 1151, 1152, 1153, 1161, 1162})
-    EXPECT_NE(nullptr, CSubclassedControl::FromHandle(Control(id).Window())) << id;
+  const Accessible link(Control(IDC_GRAPHIC_VIDEO_LINK).Window());
+  ASSERT_TRUE(link);
+  EXPECT_EQ(MessageText(0x4001087C).Text(), link.Value(CHILDID_SELF));
+}
+
+// What a control draws, be it shown or not.
+std::vector<uint32_t> Print(const CWnd& control) {
+  const RECT client = control.ClientRect();
+  BITMAPINFO format{};
+  format.bmiHeader = {sizeof format.bmiHeader, client.right, -client.bottom, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
+  const HDC dc = CreateCompatibleDC(nullptr);
+  void* bits = nullptr;
+  const GdiBitmap bitmap(CreateDIBSection(dc, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
+  {
+    const SelectScope selected(dc, bitmap.Get());
+    control.Send(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
+    GdiFlush();
+  }
+  DeleteDC(dc);
+  const auto* pixels = static_cast<const uint32_t*>(bits);
+  return {pixels, pixels + client.right * client.bottom};
+}
+
+TEST_F(GraphicPage, EachPictureStandsInItsControl) {
+  const std::pair<int, PictureNumbers> pictures[] = {
+      {1153, Pictures::kPresetMinimum},    {1152, Pictures::kPresetSmall},   {1151, Pictures::kPresetCompact},
+      {1149, Pictures::kPresetBig},        {1150, Pictures::kPresetMaximum}, {1161, Pictures::kSignWarning16},
+      {1162, Pictures::kSignInformation16}};
+  Open();
+  for (const auto& [id, numbers] : pictures) {
+    const std::vector<uint32_t> found = Print(CWnd(Control(id).Window()));
+    CImageStatic expected;  // takes the control over
+    ASSERT_TRUE(expected.Attach(page_, id));
+    ASSERT_TRUE(expected.SetImage(numbers.bitmap, kNoTransparentColor, numbers.mask));
+    EXPECT_TRUE(Print(expected) == found) << id;
+  }
 }
 
 }  // namespace
