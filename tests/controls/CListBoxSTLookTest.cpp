@@ -40,6 +40,24 @@ TEST(CListBoxST, DisabledRowsShowTheSecondHalf) {
   EXPECT_TRUE(PictureOf(test, 1).pixels == PictureOf(test, 2).pixels);
 }
 
+TEST(CListBoxST, DisabledRowsWithoutASecondHalfAreGrey) {
+  constexpr ListPicture colorful[] = {{251, 252}};
+  const auto countColored = [](const Picture& picture) {
+    return std::count_if(picture.pixels.begin(), picture.pixels.end(), [](uint32_t pixel) {
+      const int red = pixel >> 16 & 0xFF, blue = pixel & 0xFF;
+      return std::abs(red - blue) > 40;  // more than the ground has
+    });
+  };
+  ListPage test;
+  test.list->SetImages(colorful, SecondHalf::None);
+  test.list->AddItem(L"", 0);
+  test.list->AddItem(L"", 0);
+  test.list->EnableItem(1, false);
+  EXPECT_GT(countColored(PictureOf(test, 0)), 10);
+  EXPECT_EQ(0, countColored(PictureOf(test, 1)));
+  EXPECT_GT(PictureOf(test, 1).ColourCount(), 2);
+}
+
 TEST(CListBoxST, SelectedRowsMayShowTheSecondHalf) {
   ListPage test(LBS_OWNERDRAWFIXED | LBS_MULTIPLESEL);
   test.list->SetImages(kFilePictures, SecondHalf::Selected);

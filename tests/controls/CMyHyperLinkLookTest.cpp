@@ -111,6 +111,20 @@ TEST(CMyHyperLink, ShowsTheHand) {
   EXPECT_EQ(hand, ::GetCursor());
 }
 
+HCURSOR WINAPI LoadNoHand(HINSTANCE instance, const wchar_t* name) {
+  if (name == IDC_HAND) return nullptr;
+  return RealFunction("user32.dll", "LoadCursorW", &LoadNoHand)(instance, name);
+}
+
+TEST(CMyHyperLink, ShowsTheArrowWhereTheSystemHasNoHand) {
+  PatchImport("user32.dll", "LoadCursorW", reinterpret_cast<void*>(&LoadNoHand));
+  LinkPage test;
+  RestoreImport("user32.dll", "LoadCursorW");
+  ::SetCursor(::LoadCursorW(nullptr, IDC_HAND));
+  test.MoveMouse(5, 5);
+  EXPECT_EQ(::LoadCursorW(nullptr, IDC_ARROW), ::GetCursor());
+}
+
 // --- Painting -------------------------------------------------------------------------------------------------------
 
 TEST(CMyHyperLink, StandsOnThePagesGround) {

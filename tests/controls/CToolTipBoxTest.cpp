@@ -87,6 +87,20 @@ TEST(CToolTipBox, IsPaleYellowWithAFrame) {
   }
 }
 
+TEST(CToolTipBox, InsetsItsTextByTwoPixels) {
+  TipPage test;
+  const Picture painted = Paint(*test.tip);
+  const WindowDC dc(test.tip->Handle());
+  RECT rect = test.tip->ClientRect();
+  ::FillRect(dc, &rect, GdiBrush(::CreateSolidBrush(kTipGround)).Get());
+  ::FrameRect(dc, &rect, GdiBrush(::CreateSolidBrush(kTipFrame)).Get());
+  ::InflateRect(&rect, -2, -2);
+  const SelectScope font(dc, test.tip->Font());
+  ::SetBkMode(dc, TRANSPARENT);
+  ::DrawTextW(dc, test.tip->text.Text(), -1, &rect, DT_WORDBREAK);
+  EXPECT_TRUE(painted.pixels == Capture(test.tip->Handle()).pixels);
+}
+
 TEST(CToolTipBox, BreaksLongLines) {
   TipPage test;
   ControlDialog& page = test.page;
