@@ -153,6 +153,18 @@ FARPROC WINAPI WithoutShellExecuteEx(HMODULE module, const char* name) {
   return realGetProcAddress(module, name);
 }
 
+INT_PTR shellResult;
+
+HINSTANCE WINAPI AnswerAsShell(HWND, const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*, INT) {
+  return reinterpret_cast<HINSTANCE>(shellResult);
+}
+
+FARPROC WINAPI WithShellResult(HMODULE module, const char* name) {
+  if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF && std::string_view(name) == "ShellExecuteW")
+    return reinterpret_cast<FARPROC>(&AnswerAsShell);
+  return realGetProcAddress(module, name);
+}
+
 struct AdminRecord : TempFile {
   AdminRecord() : TempFile("nempdf_shell_record.txt") { SetEnvironmentVariableW(L"NEMPDF_ADMIN_RECORD", Name()); }
   ~AdminRecord() { SetEnvironmentVariableW(L"NEMPDF_ADMIN_RECORD", nullptr); }
@@ -189,6 +201,17 @@ TEST(ExecuteShell, FallsBackToTheOlderFunction) {
   EXPECT_TRUE(started);
   EXPECT_EQ(nullptr, info.hProcess);
   EXPECT_FALSE(startedMissing);
+}
+
+// The function is bound at its first use, once for the process: no other test may have used it.
+TEST(OpenWithShell, SucceedsFromThirtyTwoOn) {
+  ASSERT_GT(PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithShellResult)), 0);
+  const std::pair<INT_PTR, bool> results[] = {{33, true}, {32, true}, {31, false}, {2, false}, {0, false}};
+  for (const auto& [result, success] : results) {
+    shellResult = result;
+    EXPECT_EQ(success, OpenWithShell(nullptr, L"https://www.nem-software.example/", SW_SHOWMINIMIZED)) << result;
+  }
+  RestoreImport("kernel32.dll", "GetProcAddress");
 }
 
 // --- Text limit --------------------------------------------------------------------------------------------------
