@@ -2,6 +2,8 @@
 
 #include <algorithm>
 
+#include "DriverLIB/MessageText.h"
+#include "MessageIds.h"
 #include "sheet/COL2CCmdUI.h"
 #include "sheet/COutlook2Ctrl.h"
 // behind Windows.h
@@ -83,6 +85,10 @@ int COutlook2Accessibility::PartState(int part) const {
 RECT COutlook2Accessibility::PartRect(int part) const {
   const IntRect rect = bar_.Model().RectOf(TargetOf(part));
   return {rect.left, rect.top, rect.right, rect.bottom};
+}
+
+CUString COutlook2Accessibility::PartAction(int part) const {
+  return HasPartAction(part) ? MessageText(MSG_BAR_ACTION) : CUString();
 }
 
 void COutlook2Accessibility::DoPartAction(int part) { bar_.Click(TargetOf(part)); }

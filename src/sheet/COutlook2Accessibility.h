@@ -17,6 +17,7 @@ class COutlook2Accessibility final : public CAccessibleSource {
   int PartRole(int part) const override;
   int PartState(int part) const override;
   RECT PartRect(int part) const override;
+  CUString PartAction(int part) const override;
   bool HasPartAction(int part) const override { return part != kSelf; }
   void DoPartAction(int part) override;
   int FocusedPart() const override;

@@ -4,6 +4,8 @@
 
 #include "sheet/BarOwner.h"
 #include "support/Accessible.h"
+#include "support/FakeSheet.h"
+#include "support/PrintText.h"
 
 namespace {
 
@@ -109,6 +111,21 @@ TEST_F(COutlook2AccessibilityTest, TheDefaultActionIsAClick) {
   EXPECT_EQ(2, owner.bar->Model().OpenFolder());
   EXPECT_EQ(4, bar.Count());
   EXPECT_EQ(DISP_E_MEMBERNOTFOUND, bar->accDoDefaultAction(Accessible::Part(0)));
+}
+
+TEST_F(COutlook2AccessibilityTest, TheDefaultActionHasAWordInEachLanguage) {
+  const std::pair<uint16_t, const wchar_t*> words[] = {{0x0409, L"Open"},
+                                                       {0x0407,
+                                                        L"\x00D6"
+                                                        L"ffnen"},
+                                                       {0x040C, L"Ouvrir"},
+                                                       {0x0401, L"\x0641\x062A\x062D"}};
+  const Accessible bar(owner.bar->Handle());
+  for (const auto& [language, word] : words) {
+    const LanguageScope scope(language);
+    for (LONG part = 1; part <= 6; ++part) EXPECT_EQ(word, bar.Action(part)) << language;
+    EXPECT_EQ(L"", bar.Action(0));
+  }
 }
 
 TEST_F(COutlook2AccessibilityTest, AReaderMayOutliveTheBar) {
