@@ -152,8 +152,9 @@ void COutlook2Painter::DrawPlainEntry(const BarTarget& target, const COL2SubItem
   if (Width(rect) >= Scale(kEntryPictureWidth)) {
     const int size = Scale(kEntryPictureSize), height = rect.bottom - rect.top;
     const RECT box = Square(rect.left + Scale(kEntryPictureLeft), rect.top + (height - size) / 2, size);
-    // A picture leaves its outer ring of pixels empty: unscaled, what there is to be seen of it fills the box.
-    DrawPicture(entry, Centered(box, Scale(kPictureSize)));
+    // A picture leaves its outer ring of pixels empty: unscaled, what there is to be seen of it fills the box. An icon
+    // need not.
+    DrawPicture(entry, entry.image ? Centered(box, Scale(kPictureSize)) : box);
   }
   RECT label = rect;
   label.left += Scale(kEntryTextLeft);

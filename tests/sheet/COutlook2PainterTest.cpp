@@ -198,6 +198,20 @@ TEST_F(COutlook2PainterTest, AnEntrysPictureStandsInABoxOfFourteen) {
   EXPECT_GE(ink.right - ink.left, 10);
 }
 
+TEST_F(COutlook2PainterTest, AnEntrysIconFillsTheBoxAndNoMore) {
+  std::vector<DWORD> red(16 * 16, 0xFFFF0000);
+  std::vector<BYTE> opaque(16 * 2, 0);
+  const GdiBitmap color(::CreateBitmap(16, 16, 1, 32, red.data())), mask(::CreateBitmap(16, 16, 1, 1, opaque.data()));
+  ICONINFO description{TRUE, 0, 0, mask.Get(), color.Get()};
+  Entry(0).icon =
+      OwnedHandle(::CreateIconIndirect(&description), [](void* icon) { ::DestroyIcon(static_cast<HICON>(icon)); });
+  const auto canvas = Draw();
+  const IntRect place = Entry(0).rect;
+  const RECT ink = Ink(*canvas, {place.left, place.top, place.right, place.bottom}, kSystem.face);
+  const RECT box{place.left + 8, place.top + 3, place.left + 22, place.top + 17};
+  EXPECT_TRUE(::EqualRect(&box, &ink)) << ink.left << ' ' << ink.top << ' ' << ink.right << ' ' << ink.bottom;
+}
+
 TEST_F(COutlook2PainterTest, NarrowElementsHaveNoPicture) {
   auto image = std::make_shared<AlphaImage>();
   ASSERT_TRUE(image->Load(321, 322, 96));
@@ -275,6 +289,95 @@ TEST_F(COutlook2PainterTest, TextsHaveTheirColors) {
   EXPECT_TRUE(has(kSystem.window));
   Entry(0).kind = BarEntryKind::Check;
   EXPECT_TRUE(has(kSystem.window));
+}
+
+// Texts without smoothing, so that every pixel of them has their colour, in fonts that are all unlike each other.
+class COutlook2PainterText : public COutlook2PainterTest {
+ protected:
+  static constexpr wchar_t kText[] = L"Text";
+
+  COutlook2PainterText() {
+    fonts.normal = Hard(-11, 400, false);
+    fonts.underlined = Hard(-11, 400, true);
+    fonts.bold = Hard(-11, 600, false);
+    fonts.title = Hard(20, 600, false);
+  }
+  static GdiFont Hard(int height, int weight, bool underlined) {
+    return DeriveFont(nullptr, [=](LOGFONTW& font) {
+      font.lfHeight = height;
+      font.lfWeight = weight;
+      font.lfUnderline = underlined;
+      font.lfQuality = NONANTIALIASED_QUALITY;
+    });
+  }
+
+  // Within `rect` the pictures differ by the text alone, which begins `left` from its left, in the middle of its
+  // height.
+  void ExpectText(const Canvas& without, const Canvas& with, const IntRect& rect, int left, const GdiFont& font,
+                  COLORREF color) {
+    const Canvas text(kWidth, kHeight, kGround);
+    {
+      const SelectScope selected(text, font.Get());
+      ::SetBkMode(text, TRANSPARENT);
+      RECT place{rect.left + left, rect.top, rect.right, rect.bottom};
+      ::DrawTextW(text, kText, -1, &place, DT_SINGLELINE | DT_VCENTER);
+    }
+    int inked = 0;
+    for (int y = rect.top; y < rect.bottom; ++y)
+      for (int x = rect.left; x < rect.right; ++x) {
+        const bool ink = text.At(x, y) != kGround;
+        inked += ink;
+        ASSERT_EQ(ink ? color : without.At(x, y), with.At(x, y)) << x << ", " << y;
+      }
+    EXPECT_GT(inked, 20);
+  }
+};
+
+TEST_F(COutlook2PainterText, TheTitleBeginsFourFromTheLeftInTheWindowColor) {
+  model.AddFolder(L"", 0);
+  model.AddFolder(kText, 0);
+  model.Open(2);
+  const auto without = Draw();
+  model.Open(3);
+  ExpectText(*without, *Draw(), model.Layout().title, 4, fonts.title, kSystem.window);
+}
+
+TEST_F(COutlook2PainterText, AFoldersTextIsBoldAndBeginsTwentyFourFromTheLeft) {
+  COL2Folder& folder = model.AddFolder(L"", 0);
+  const auto without = Draw();
+  folder.text = kText;
+  const auto with = Draw();
+  const IntRect inside{folder.rect.left + 1, folder.rect.top + 1, folder.rect.right - 1, folder.rect.bottom - 1};
+  ExpectText(*without, *with, inside, 24, fonts.bold, kSystem.buttonText);
+}
+
+TEST_F(COutlook2PainterText, AHeadersTextBeginsFourFromTheLeftInTheCaptionTextColor) {
+  COL2Item& group = *model.AddGroup(L" ", 0);
+  const auto without = Draw();
+  group.text = kText;
+  ExpectText(*without, *Draw(), group.rect, 4, fonts.normal, kSystem.captionText);
+}
+
+TEST_F(COutlook2PainterText, AnEntrysTextBeginsTwentyEightFromTheLeft) {
+  struct Row {
+    BarEntryKind kind;
+    bool isHot;
+    const GdiFont& font;
+    COLORREF color;
+  };
+  const Row rows[] = {{BarEntryKind::Plain, false, fonts.normal, kSystem.buttonText},
+                      {BarEntryKind::Plain, true, fonts.underlined, kSystem.buttonText},
+                      {BarEntryKind::Radio, false, fonts.normal, kSystem.window},
+                      {BarEntryKind::Check, true, fonts.normal, kSystem.window},
+                      {BarEntryKind::Link, true, fonts.normal, kSystem.captionText}};
+  for (const Row& row : rows) {
+    Entry(0).kind = row.kind;
+    hot = row.isHot ? EntryTarget(1, 0) : BarTarget();
+    Entry(0).text = L"";
+    const auto without = Draw();
+    Entry(0).text = kText;
+    ExpectText(*without, *Draw(), Entry(0).rect, 28, row.font, row.color);
+  }
 }
 
 TEST_F(COutlook2PainterTest, AnAmpersandIsALetter) {
