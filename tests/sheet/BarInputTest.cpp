@@ -130,6 +130,23 @@ TEST_F(BarMouse, TheHandIsShownOnFoldersAndLinks) {
   EXPECT_EQ(arrow, ::GetCursor());
 }
 
+TEST_F(BarMouse, TheHandIsShownBeforeTheMouseIsCaptured) {
+  owner.bar->OpenFolder(2, false);
+  owner.Add(200, BarEntryKind::Link);
+  const HCURSOR hand = ::LoadCursorW(nullptr, IDC_HAND), arrow = ::LoadCursorW(nullptr, IDC_ARROW);
+  const auto cursorAt = [&](POINT point) {
+    ::ClientToScreen(owner.bar->Handle(), &point);
+    ::SetCursorPos(point.x, point.y);
+    ::SetCursor(nullptr);
+    owner.bar->Send(WM_SETCURSOR, reinterpret_cast<WPARAM>(owner.bar->Handle()), MAKELPARAM(HTCLIENT, WM_MOUSEMOVE));
+    return ::GetCursor();
+  };
+  EXPECT_EQ(hand, cursorAt(owner.FolderPoint(0)));
+  EXPECT_EQ(arrow, cursorAt(owner.EntryPoint(2, 0)));
+  EXPECT_EQ(hand, cursorAt(owner.EntryPoint(2, 1)));
+  EXPECT_EQ(arrow, cursorAt({20, 10}));
+}
+
 TEST_F(BarMouse, OpeningAFolderForgetsTheHotEntry) {
   MoveTo(owner.EntryPoint(1, 1));
   owner.bar->OpenFolder(0, false);
