@@ -18,9 +18,6 @@ void CGlobalSettingsPage::AddChild(std::unique_ptr<CNemUIPage> page) {
 CNemUIPage* CGlobalSettingsPage::FindPage(int pageId) {
   for (CNemUIPage* page : tabs_.Pages())
     if (page->GetPageId() == pageId) return page;
-  // Before the host has a window its pages have not been entered into the tab control yet.
-  for (const auto& page : children_)
-    if (page->GetPageId() == pageId) return page.get();
   return nullptr;
 }
 
