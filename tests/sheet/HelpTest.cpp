@@ -262,6 +262,17 @@ TEST_F(SheetHelp, HelpButtonOnAPlaceholderOpensTheFile) {
   });
 }
 
+TEST_F(SheetHelp, HelpButtonWithoutAPageOpensTheFile) {
+  TestSheet test{std::vector<PageCatalogueRow>()};
+  test.Properties().HelpFilename.SetString(kFile);
+  test.Drive([this](Sheet& sheet) -> SheetTask {
+    sheet.PressHelp();
+    EXPECT_EQ(kFile, spy_.TakePath());
+    sheet.PressCancel();
+    co_return;
+  });
+}
+
 TEST_F(SheetHelp, LinkOpensItsTopic) {
   OnPage(108, [this](Sheet& sheet) -> SheetTask {
     sheet.Control(IDC_GRAPHIC_HELP_LINK).Click();

@@ -7,6 +7,7 @@
 #include "driver/Pages.h"
 #include "resources/ResourceIds.h"
 #include "sheet/BarContents.h"
+#include "support/Accessible.h"
 #include "support/PrintText.h"
 #include "TestSheet.h"
 
@@ -116,20 +117,15 @@ TEST_F(HostPage, ClickInTheBarSelects) {
   });
 }
 
-TEST_F(HostPage, ClickOnAPageThatIsMissingDoesNothing) {
-  test_.OfferDocument();
+TEST_F(HostPage, ClickOnAFolderWhoseFirstPageIsMissingDoesNothing) {
+  const ComScope com;
   Drive([&](Sheet& sheet) -> SheetTask {
     const ControlRef bar = sheet.Bar();
-    for (const int id : {100, 121}) {  // 121 has no instance on this tab
-      const POINT folder = BarFolderPoint(bar.Window(), FindPageById(id)->folder);
-      bar.ClickAt(folder.x, folder.y);
-      co_await sheet.Settled();
-      const POINT entry = BarEntryPoint(bar.Window(), FindPageById(id)->entry);
-      bar.ClickAt(entry.x, entry.y);
-      co_await sheet.Settled();
-      EXPECT_EQ(100, test_.CurrentId()) << id;
-    }
-    EXPECT_FALSE(sheet.SelectPage(121));
+    const POINT folder = BarFolderPoint(bar.Window(), FindPageById(115)->folder);
+    bar.ClickAt(folder.x, folder.y);
+    co_await sheet.Settled();
+    EXPECT_EQ(120, test_.CurrentId());
+    EXPECT_EQ(L"Cockpit", Accessible(bar.Window()).Name(1)) << "its folder stays open";
   });
 }
 
@@ -282,6 +278,38 @@ TEST_F(HostPage, ExchangesEveryCreatedPageEvenAfterAFailure) {
   });
 }
 
+TEST_F(HostPage, LoadingExchangeReadsEveryCreatedPageAndWritesNone) {
+  Drive([&](Sheet& sheet) -> SheetTask {
+    sheet.SelectPage(108);
+    std::vector<int> read;
+    for (const int id : {120, 108, 100})
+      test_.Script(0, id).onRead = [&read](TestPage& page) {
+        read.push_back(page.GetPageId());
+        return page.GetPageId() != 120;
+      };
+    test_.log.clear();
+    EXPECT_FALSE(test_.Host().UpdateDataSuper(false));
+    EXPECT_EQ((std::vector<int>{120, 108}), read);
+    EXPECT_EQ(std::vector<std::string>(), test_.TakeLog());
+    test_.Script(0, 120).onRead = nullptr;
+    EXPECT_TRUE(test_.Host().UpdateDataSuper(false));
+    co_return;
+  });
+}
+
+TEST_F(HostPage, AnswerOfTheCurrentPageIsThatOfTheHost) {
+  bool agrees = true;
+  test_.Script(0, 120).onSetActive = test_.Script(0, 120).onKillActive = [&agrees](TestPage&) { return agrees; };
+  Drive([&](Sheet&) -> SheetTask {
+    for (const bool answer : {false, true}) {
+      agrees = answer;
+      EXPECT_EQ(answer, test_.Host().OnSetActive());
+      EXPECT_EQ(answer, test_.Host().OnKillActive());
+    }
+    co_return;
+  });
+}
+
 TEST_F(HostPage, ExchangeWithoutCreatedPagesSucceedsAndWithoutASheetFails) {
   const PageDescription description{IDD_HOST_PAGE};
   FakeSheet sheet;
@@ -355,6 +383,74 @@ TEST(HostPageOrder, EveryEntryOfTheBarOpensItsPage) {
   });
 }
 
+// --- What the bar shows --------------------------------------------------------------------------------------------
+
+using Texts = std::vector<std::wstring>;
+
+// The title, the entries of the open folder, and the folders.
+Texts BarTexts(Sheet& sheet) {
+  const Accessible bar(sheet.Bar().Window());
+  Texts texts;
+  for (LONG part = 0; part <= bar.Count(); ++part) texts.push_back(bar.Name(part));
+  return texts;
+}
+
+// The place of the selected entry, counted from 1; -1 when there is none.
+LONG SelectedEntry(Sheet& sheet) { return Accessible(sheet.Bar().Window()).Selection(); }
+
+struct FolderTexts {
+  int pageId;  // of its pages, the last one that both tabs have
+  std::wstring title;
+  Texts entries;
+};
+
+const std::vector<FolderTexts> kFolderTexts = {
+    {120, L"Cockpit", {L"Cockpit"}},
+    {108, L"File size", {L"Graphical Optimization"}},
+    {119, L"Layout", {L"Page", L"Display", L"Fonts", L"Stationery Paper", L"Links", L"Attachments", L"Bookmark"}},
+    {112, L"Output", {L"Saving", L"Output format", L"Actions", L"E-Mail", L"Colorspace", L"ZUGFeRD invoice"}},
+    {116, L"Form", {L"Fields", L"Color settings"}},
+    {105, L"Security", {L"Security", L"Document Info"}},
+    {106, L"Info", {L"Info", L"Language selection", L"Update", L"Statistics"}},
+};
+
+TEST(HostPageBar, IsTheSameOnBothTabsAndOpensTheFolderOfAnActivatedPage) {
+  const ComScope com;
+  TestSheet test(AllRows());
+  test.OfferDocument().Drive([&](Sheet& sheet) -> SheetTask {
+    for (const int tab : {1, 0}) {
+      sheet.SelectTab(tab);
+      co_await sheet.Settled();
+      for (const FolderTexts& folder : kFolderTexts) {
+        Texts expected = {folder.title};
+        expected.insert(expected.end(), folder.entries.begin(), folder.entries.end());
+        for (const FolderTexts& each : kFolderTexts) expected.push_back(each.title);
+        EXPECT_TRUE(test.Object().ActivatePage(folder.pageId));
+        EXPECT_EQ(folder.pageId, test.CurrentId());
+        EXPECT_EQ(expected, BarTexts(sheet)) << tab;
+      }
+    }
+    sheet.PressCancel();
+  });
+}
+
+TEST(HostPageBar, EntriesOfMissingPagesStandThereAndDoNothing) {
+  const ComScope com;
+  TestSheet test(AllRows());
+  test.OfferDocument().Drive([&](Sheet& sheet) -> SheetTask {
+    for (const int id : {106, 107, 121, 123}) {  // the last three have no instance on this tab
+      bool shown = false;
+      co_await ClickPage(sheet, id, shown);
+      EXPECT_EQ(id == 106, shown) << id;
+      EXPECT_EQ(106, test.CurrentId()) << id;
+      EXPECT_EQ(1, SelectedEntry(sheet)) << id;
+      EXPECT_FALSE(sheet.SelectPage(id)) << id;
+    }
+    EXPECT_EQ(L"Statistics", Accessible(sheet.Bar().Window()).Name(4));
+    sheet.PressCancel();
+  });
+}
+
 // --- Places --------------------------------------------------------------------------------------------------------
 
 RECT InHost(Sheet& sheet, HWND window) { return CWnd(window).RectIn(CWnd(sheet.HostPage())); }
@@ -421,6 +517,10 @@ TEST_F(HostPage, TabControlIsNotTheUsers) {
     EXPECT_FALSE(tabs.IsVisible());
     EXPECT_EQ(HTTRANSPARENT, SendMessageW(tabs.Window(), WM_NCHITTEST, 0, MAKELPARAM(300, 200)));
     EXPECT_FALSE(CWnd(tabs.Window()).Style() & WS_TABSTOP);
+    RECT tab{};
+    SendMessageW(tabs.Window(), TCM_GETITEMRECT, 1, reinterpret_cast<LPARAM>(&tab));
+    EXPECT_EQ(1, tab.right - tab.left);
+    EXPECT_EQ(20, tab.bottom - tab.top);
     EXPECT_EQ(CWnd(sheet.HostPage()).Font(), CWnd(tabs.Window()).Font());
     co_return;
   });
@@ -430,31 +530,36 @@ TEST_F(HostPage, TabControlIsNotTheUsers) {
 
 TEST_F(HostPage, TabLeadsFromTheBarToTheChildPageToTheSheet) {
   Drive([&](Sheet& sheet) -> SheetTask {
-    sheet.SelectPage(108);
-    sheet.Bar().Focus();
-    for (const int expected : {IDC_NO_DOC_SETTINGS_LINK, kValueEdit, kNotesEdit, IDOK, IDCANCEL, IDHELP}) {
-      sheet.Key(VK_TAB);
-      co_await sheet.Settled();
-      EXPECT_EQ(expected, sheet.FocusedId());
+    for (const int page : {120, 108}) {
+      sheet.SelectPage(page);
+      EXPECT_EQ(sheet.Bar().Window(), GetNextDlgTabItem(sheet.HostPage(), nullptr, FALSE)) << "the bar comes first";
+      sheet.Bar().Focus();
+      for (const int expected : {IDC_NO_DOC_SETTINGS_LINK, kValueEdit, kNotesEdit, IDOK, IDCANCEL, IDHELP}) {
+        sheet.Key(VK_TAB);
+        co_await sheet.Settled();
+        EXPECT_EQ(expected, sheet.FocusedId()) << page;
+      }
+      for (int times = 0; times < 2; ++times) {  // by way of the row of the sheet's tabs
+        sheet.Key(VK_TAB);
+        co_await sheet.Settled();
+      }
+      EXPECT_EQ(kBarId, sheet.FocusedId());
+      for (int times = 0; times < 2; ++times) {
+        sheet.Key(VK_TAB, {VK_SHIFT});
+        co_await sheet.Settled();
+      }
+      EXPECT_EQ(IDHELP, sheet.FocusedId());
     }
-    for (int times = 0; times < 2; ++times) {  // by way of the row of the sheet's tabs
-      sheet.Key(VK_TAB);
-      co_await sheet.Settled();
-    }
-    EXPECT_EQ(kBarId, sheet.FocusedId());
-    for (int times = 0; times < 2; ++times) {
-      sheet.Key(VK_TAB, {VK_SHIFT});
-      co_await sheet.Settled();
-    }
-    EXPECT_EQ(IDHELP, sheet.FocusedId());
   });
 }
 
 TEST_F(HostPage, FocusOfThePageThatIsLeftGoesToTheNewOne) {
   Drive([&](Sheet& sheet) -> SheetTask {
-    sheet.Control(kNotesEdit).Focus();
-    sheet.SelectPage(108);
-    EXPECT_EQ(test_.Page(108).Item(IDC_NO_DOC_SETTINGS_LINK).Handle(), GetFocus());
+    for (const int id : {108, 120, 100, 108}) {
+      sheet.Control(kNotesEdit).Focus();
+      sheet.SelectPage(id);
+      EXPECT_EQ(test_.Page(id).Item(IDC_NO_DOC_SETTINGS_LINK).Handle(), GetFocus()) << id;
+    }
     co_return;
   });
 }
