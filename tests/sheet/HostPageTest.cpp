@@ -10,6 +10,7 @@
 #include "support/Accessible.h"
 #include "support/PrintText.h"
 #include "TestSheet.h"
+#include "ui/PageCatalogue.h"
 
 using namespace sheet_test;
 
@@ -321,6 +322,13 @@ TEST_F(HostPage, ExchangeWithoutCreatedPagesSucceedsAndWithoutASheetFails) {
   EXPECT_EQ(L"", alone.GetMsgBoxTitle());
 }
 
+TEST(HostPageStart, BeforeItNoPageIsFound) {
+  FakeSheet sheet;
+  CNemUIGlobalSettingsPage host(&sheet, {IDD_HOST_PAGE}, 0, AllPages());
+  EXPECT_EQ(nullptr, host.FindPage(108));
+  EXPECT_FALSE(host.SelectPage(108));
+}
+
 // --- Order ---------------------------------------------------------------------------------------------------------
 
 std::vector<std::wstring> TitlesIn(HWND tabControl) {
@@ -395,8 +403,14 @@ Texts BarTexts(Sheet& sheet) {
   return texts;
 }
 
-// The place of the selected entry, counted from 1; -1 when there is none.
-LONG SelectedEntry(Sheet& sheet) { return Accessible(sheet.Bar().Window()).Selection(); }
+// The places of the entries that are drawn as selected, counted from 1.
+std::vector<LONG> SelectedEntries(Sheet& sheet) {
+  const Accessible bar(sheet.Bar().Window());
+  std::vector<LONG> selected;
+  for (LONG part = 1; part <= bar.Count(); ++part)
+    if (bar.State(part) & STATE_SYSTEM_SELECTED) selected.push_back(part);
+  return selected;
+}
 
 struct FolderTexts {
   int pageId;  // of its pages, the last one that both tabs have
@@ -443,7 +457,7 @@ TEST(HostPageBar, EntriesOfMissingPagesStandThereAndDoNothing) {
       co_await ClickPage(sheet, id, shown);
       EXPECT_EQ(id == 106, shown) << id;
       EXPECT_EQ(106, test.CurrentId()) << id;
-      EXPECT_EQ(1, SelectedEntry(sheet)) << id;
+      EXPECT_EQ(std::vector<LONG>{1}, SelectedEntries(sheet)) << id;
       EXPECT_FALSE(sheet.SelectPage(id)) << id;
     }
     EXPECT_EQ(L"Statistics", Accessible(sheet.Bar().Window()).Name(4));

@@ -97,7 +97,9 @@ TEST_F(PageCatalogueTest, PagesOfTheBasicSettingsAreWhatTheirRowsSay) {
   for (const PageCatalogueRow& row : AllPages()) {
     SCOPED_TRACE(row.description.pageId);
     const Expected& expected = *Find(row.description.pageId);
-    EXPECT_EQ(expected.templateId, row.description.templateId);
+    EXPECT_EQ(std::tuple(expected.templateId, 0u, expected.imageId, expected.maskId),
+              std::tuple(row.description.templateId, row.description.iconId, row.description.imageId,
+                         row.description.maskId));
     if (row.onBasicSettings) ExpectPage(row.onBasicSettings, row, 0, expected.className, expected.templateId);
   }
 }
