@@ -35,3 +35,5 @@ bool IsA4PaperDefault() {
   TraceInfo(isA4 ? "IsA4PaperDefault = Yes" : "IsA4PaperDefault = No, Use 'LETTER'");
   return isA4;
 }
+
+const PaperRow& GetDefaultPaperRow() { return A4OrLetter(IsA4PaperDefault()); }

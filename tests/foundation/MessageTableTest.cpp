@@ -122,6 +122,9 @@ TEST(MessageTable, NumbersLeadTheRowsOfResolutionsAndQualitiesInEachLanguage) {
 
 // Words that are the same in that language. Any other text that equals the English one has been forgotten.
 TEST(MessageTable, TranslationsDifferFromTheEnglishText) {
+  const std::set<std::wstring> papers = {L"A0 841 x 1189 mm", L"A1 594 x 841 mm", L"A2 420 x 594 mm",
+                                         L"A3 297 x 420 mm",  L"A4 210 x 297 mm", L"A5 148 x 210 mm",
+                                         L"A6 105 x 148 mm",  L"B4 250 x 354 mm", L"B5 182 x 257 mm"};
   const std::map<WORD, std::set<std::wstring>> same = {
       {kGerman,
        {L"Cockpit", L"Layout", L"Info", L"E-Mail", L"Links", L"Update", L"Internet", L"JPEG", L"ZUGFeRD", L"PDF/A-1b",
@@ -137,6 +140,7 @@ TEST(MessageTable, TranslationsDifferFromTheEnglishText) {
     for (const auto& [id, raw] : english) {
       const std::wstring text = Text(english, id);
       if (Text(table, id) != text) continue;
+      if (language != kArabic && papers.contains(text)) continue;
       EXPECT_TRUE(same.at(language).contains(text)) << language << std::hex << " " << id;
     }
   }
@@ -247,6 +251,20 @@ constexpr KnownText kKnownTexts[] = {
     {0x400108D1, L"900 dpi"},
     {0x400108D2, L"1200 dpi (Printer, high)"},
     {0x400108D3, L"2400 dpi"},
+    {0x400109C4, L"Letter 8 1/2 x 11 inch"},
+    {0x400109C5, L"Legal 8 1/2 x 14 inch"},
+    {0x400109C6, L"Executive 7 1/4 x 10 1/2 inch"},
+    {0x400109D4, L"A0 841 x 1189 mm"},
+    {0x400109D3, L"A1 594 x 841 mm"},
+    {0x400109D0, L"A2 420 x 594 mm"},
+    {0x400109C7, L"A3 297 x 420 mm"},
+    {0x400109D2, L"A3 Extra Transverse 322 x 455 mm"},
+    {0x400109C8, L"A4 210 x 297 mm"},
+    {0x400109C9, L"A5 148 x 210 mm"},
+    {0x400109CA, L"A6 105 x 148 mm"},
+    {0x400109CB, L"B4 250 x 354 mm"},
+    {0x400109CC, L"B5 182 x 257 mm"},
+    {0x400109CD, L"User defined paper size"},
     {0x400108FC, L"minimum"},
     {0x400108FD, L"small"},
     {0x400108FE, L"Display, e-mail"},
