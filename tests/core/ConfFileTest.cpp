@@ -51,6 +51,8 @@ class ConfFileTest : public testing::Test {
 
 }  // namespace
 
+static_assert(sizeof(ConfFile) == sizeof(AFile), "only the way of use differs");
+
 // --- Opening ---------------------------------------------------------------------------------------------------------
 
 TEST(PrinterConfFileName, ReplacesThirteenCharacters) {

@@ -127,6 +127,21 @@ TEST_F(ReadAdminSettingsTest, NothingIsReadWithoutHandleOrRecord) {
   EXPECT_EQ(Lines{}, thread.Lines());
 }
 
+TEST_F(ReadAdminSettingsTest, NothingIsReadByAWrongKeyTable) {
+  const AdminKey table[] = {
+      {L"Odd", static_cast<AdminEntry>(9), {}},
+      {L"PdfVersion_Override", AdminEntry::Number, AdminField(&AdminSettings::PdfVersion_Override)},
+      {nullptr, AdminEntry::End, {}},
+  };
+  const DriverFile own(driver, L"Invoices.conf", "PdfVersion_Override = 14\r\n");
+  const DriverFile general(driver, L"NEMpdf.conf", "PdfVersion_Override = 17\r\n");
+  const CPrinterHandle handle(printer.Name().c_str());
+  EXPECT_FALSE(ReadAdminSettings(handle.Get(), &record, printer.Name(), table));
+  EXPECT_EQ(-1, record.PdfVersion_Override);
+  EXPECT_EQ((Lines{L"Unknown Entrytype!", L"Wrong Init!"}), thread.Lines());
+  EXPECT_EQ(2, thread.Error().trace->errorCount);
+}
+
 TEST_F(ReadAdminSettingsTest, MissingFilesAreNoFailure) {
   EXPECT_TRUE(Read(printer));
   EXPECT_EQ((Lines{L"Driver Conf file not found " + driver.Directory() + L"NEMpdf.conf",
@@ -229,6 +244,7 @@ TEST_F(ReadAdminSettingsTest, ABadLineShowsABoxAndEndsItsFile) {
   EXPECT_EQ(L"Acme", record.Author_Override);         // the other file is read as usual
   // In between the box asks the registry whether it is to be logged, which traces what is not there.
   Lines lines = thread.Lines();
+  EXPECT_EQ(lines.size(), static_cast<size_t>(thread.Error().trace->errorCount)) << "all are of the error level";
   std::erase_if(lines, [](const std::wstring& line) { return line.rfind(L"CRegistryEntry::", 0) == 0; });
   EXPECT_EQ((Lines{L"Driver Conf bad line PdfVersion = 15!", L"Error: ReadAdminSettings->Parse",
                    L"Error: not completly parsed"}),
