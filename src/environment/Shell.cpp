@@ -4,7 +4,7 @@
 
 namespace {
 
-constexpr INT_PTR kFirstShellSuccess = 32;  // smaller results are errors
+constexpr INT_PTR kShellErrorLimit = 32;  // smaller results of ShellExecuteW are errors
 
 template <class Function>
 Function* ShellFunction(const char* name) {
@@ -16,7 +16,7 @@ Function* ShellFunction(const char* name) {
 bool OpenWithShell(HWND owner, const wchar_t* target, int show) {
   static const auto execute = ShellFunction<decltype(::ShellExecuteW)>("ShellExecuteW");
   if (!execute) return false;
-  return reinterpret_cast<INT_PTR>(execute(owner, L"open", target, nullptr, nullptr, show)) >= kFirstShellSuccess;
+  return reinterpret_cast<INT_PTR>(execute(owner, L"open", target, nullptr, nullptr, show)) >= kShellErrorLimit;
 }
 
 bool ExecuteShell(SHELLEXECUTEINFOW& info) {
@@ -24,5 +24,5 @@ bool ExecuteShell(SHELLEXECUTEINFOW& info) {
   const auto execute = ShellFunction<decltype(::ShellExecuteW)>("ShellExecuteW");
   if (!execute) return false;
   const HINSTANCE result = execute(nullptr, L"open", info.lpFile, info.lpParameters, info.lpDirectory, SW_HIDE);
-  return reinterpret_cast<INT_PTR>(result) > kFirstShellSuccess;
+  return reinterpret_cast<INT_PTR>(result) > kShellErrorLimit;
 }

@@ -69,6 +69,39 @@ TEST(GetFileVersion, IsEmptyWithoutARecord) {
   EXPECT_EQ(Lines{}, thread.Lines());
 }
 
+namespace {
+
+// Taken before anything is patched: finding it takes the function itself.
+const auto realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", &GetProcAddress);
+
+bool IsName(const char* name, std::string_view wanted) {
+  return reinterpret_cast<ULONG_PTR>(name) > 0xFFFF && name == wanted;
+}
+
+DWORD WINAPI ThrowSize(const wchar_t*, DWORD*) { throw 1; }
+
+FARPROC WINAPI WithThrowingVersions(HMODULE module, const char* name) {
+  if (IsName(name, "GetFileVersionInfoSizeW")) return reinterpret_cast<FARPROC>(&ThrowSize);
+  return realGetProcAddress(module, name);
+}
+
+}  // namespace
+
+// In a process of its own, since the functions are looked up once.
+TEST(FakeVersions, DISABLED_Throw) {
+  PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithThrowingVersions));
+  TracedThread thread;
+  EXPECT_TRUE(GetFileVersion(L"C:\\any.exe").IsEmpty());
+  EXPECT_EQ(Lines{L"GetFileVersion: caught throwed exception"}, thread.Lines());
+  EXPECT_EQ(1, thread.Error().trace->errorCount);
+}
+
+TEST(GetFileVersion, TracesAnException) {
+  const ProcessResult result = RunSelf(L"--gtest_also_run_disabled_tests --gtest_filter=FakeVersions.DISABLED_Throw");
+  EXPECT_EQ(0u, result.exitCode) << result.output;
+  EXPECT_NE(std::string::npos, result.output.find("[  PASSED  ] 1 test.")) << result.output;
+}
+
 // --- Default paper -----------------------------------------------------------------------------------------------
 
 namespace {
@@ -119,6 +152,13 @@ TEST_F(DefaultPaperTest, TakesNoMoreThan32Bytes) {
   ExpectPaper(false, {kNotRead, kNo});
 }
 
+TEST_F(DefaultPaperTest, IsARowOfThePaperTable) {
+  country.Set(L"49");
+  EXPECT_EQ(FindPaper(kPaperA4), &GetDefaultPaperRow());
+  country.Set(L"1");
+  EXPECT_EQ(FindPaper(kPaperLetter), &GetDefaultPaperRow());
+}
+
 TEST_F(DefaultPaperTest, IsLetterWithoutTheKey) {
   HKEY moved = nullptr;
   ASSERT_EQ(ERROR_SUCCESS, RegOpenKeyExW(HKEY_CURRENT_USER, L"Control Panel", 0, KEY_ALL_ACCESS, &moved));
@@ -145,24 +185,27 @@ SHELLEXECUTEINFOW AdminToolInfo(const wchar_t* file) {
   return info;
 }
 
-// Taken before anything is patched: finding it takes the function itself.
-const auto realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", &GetProcAddress);
-
 FARPROC WINAPI WithoutShellExecuteEx(HMODULE module, const char* name) {
-  if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF && std::string_view(name) == "ShellExecuteExW") return nullptr;
-  return realGetProcAddress(module, name);
+  return IsName(name, "ShellExecuteExW") ? nullptr : realGetProcAddress(module, name);
 }
 
-INT_PTR shellResult;
+// What the older function was asked for, and how it answers.
+struct Execution {
+  HWND owner;
+  std::wstring verb, file, parameters, directory;
+  int show;
+} execution;
+INT_PTR executionResult;
 
-HINSTANCE WINAPI AnswerAsShell(HWND, const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*, INT) {
-  return reinterpret_cast<HINSTANCE>(shellResult);
+HINSTANCE WINAPI NoteExecution(HWND owner, const wchar_t* verb, const wchar_t* file, const wchar_t* parameters,
+                               const wchar_t* directory, int show) {
+  execution = {owner, verb, file, parameters, directory, show};
+  return reinterpret_cast<HINSTANCE>(executionResult);
 }
 
-FARPROC WINAPI WithShellResult(HMODULE module, const char* name) {
-  if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF && std::string_view(name) == "ShellExecuteW")
-    return reinterpret_cast<FARPROC>(&AnswerAsShell);
-  return realGetProcAddress(module, name);
+FARPROC WINAPI WithNotingShell(HMODULE module, const char* name) {
+  if (IsName(name, "ShellExecuteW")) return reinterpret_cast<FARPROC>(&NoteExecution);
+  return WithoutShellExecuteEx(module, name);
 }
 
 struct AdminRecord : TempFile {
@@ -203,12 +246,34 @@ TEST(ExecuteShell, FallsBackToTheOlderFunction) {
   EXPECT_FALSE(startedMissing);
 }
 
+TEST(ExecuteShell, HandsFileParametersAndDirectoryToTheOlderFunction) {
+  SHELLEXECUTEINFOW info = AdminToolInfo(L"C:\\tool.exe");
+  info.hwnd = GetDesktopWindow();
+  info.lpVerb = L"print";
+  info.lpDirectory = L"C:\\work";
+  info.nShow = SW_SHOWMAXIMIZED;
+  ASSERT_GT(PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithNotingShell)), 0);
+  executionResult = 32;
+  const bool limit = ExecuteShell(info);
+  executionResult = 33;
+  const bool above = ExecuteShell(info);
+  RestoreImport("kernel32.dll", "GetProcAddress");
+  EXPECT_FALSE(limit);
+  EXPECT_TRUE(above);
+  EXPECT_EQ(nullptr, execution.owner);
+  EXPECT_EQ(L"open", execution.verb);
+  EXPECT_EQ(L"C:\\tool.exe", execution.file);
+  EXPECT_EQ(L"one \"two three\"", execution.parameters);
+  EXPECT_EQ(L"C:\\work", execution.directory);
+  EXPECT_EQ(SW_HIDE, execution.show);
+}
+
 // The function is bound at its first use, once for the process: no other test may have used it.
 TEST(OpenWithShell, SucceedsFromThirtyTwoOn) {
-  ASSERT_GT(PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithShellResult)), 0);
+  ASSERT_GT(PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithNotingShell)), 0);
   const std::pair<INT_PTR, bool> results[] = {{33, true}, {32, true}, {31, false}, {2, false}, {0, false}};
   for (const auto& [result, success] : results) {
-    shellResult = result;
+    executionResult = result;
     EXPECT_EQ(success, OpenWithShell(nullptr, L"https://www.nem-software.example/", SW_SHOWMINIMIZED)) << result;
   }
   RestoreImport("kernel32.dll", "GetProcAddress");

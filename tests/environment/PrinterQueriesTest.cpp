@@ -38,6 +38,7 @@ class PrinterQueriesTest : public testing::Test {
 enum class OnAllocation { kFail, kClosePrinter };
 OnAllocation onAllocation;
 HANDLE printerToClose;
+UINT globalFlags;  // of the last allocation
 
 const auto realGlobalAlloc = RealFunction("kernel32.dll", "GlobalAlloc", &GlobalAlloc);
 const auto realLocalAlloc = RealFunction("kernel32.dll", "LocalAlloc", &LocalAlloc);
@@ -47,7 +48,10 @@ bool Grants() {
   if (const HANDLE printer = std::exchange(printerToClose, nullptr)) ClosePrinter(printer);
   return true;
 }
-HGLOBAL WINAPI PatchedGlobalAlloc(UINT flags, SIZE_T size) { return Grants() ? realGlobalAlloc(flags, size) : nullptr; }
+HGLOBAL WINAPI PatchedGlobalAlloc(UINT flags, SIZE_T size) {
+  globalFlags = flags;
+  return Grants() ? realGlobalAlloc(flags, size) : nullptr;
+}
 HLOCAL WINAPI PatchedLocalAlloc(UINT flags, SIZE_T size) { return Grants() ? realLocalAlloc(flags, size) : nullptr; }
 
 struct PatchedAllocation {
@@ -116,6 +120,17 @@ TEST_F(PrinterQueriesTest, TraceExhaustedMemory) {
   EXPECT_EQ(2, Errors());
 }
 
+TEST_F(PrinterQueriesTest, ZeroTheBlocksThatGlobalFreeTakes) {
+  SetData(L"Bytes", REG_BINARY, "ab", 2);
+  const PatchedAllocation patched(OnAllocation::kClosePrinter);
+  globalFlags = 0;
+  EXPECT_TRUE(GetPrinterInfo(printer.Handle(), 2));
+  EXPECT_TRUE(globalFlags & GMEM_ZEROINIT);
+  globalFlags = 0;
+  EXPECT_TRUE(GetPrinterRegData(printer.Handle(), L"Bytes"));
+  EXPECT_TRUE(globalFlags & GMEM_ZEROINIT);
+}
+
 TEST_F(PrinterQueriesTest, TraceAPrinterThatGoesMeanwhile) {
   for (const bool ofDriver : {false, true}) {
     const HANDLE handle = OpenAgain(printer);
@@ -168,6 +183,15 @@ TEST_F(PrinterQueriesTest, TraceDataThatCannotBeRead) {
   EXPECT_EQ(0u, size);
   EXPECT_EQ(Lines{L"GetPrinterRegData: 2nd GetPrinterData(Bytes) failed, Error=6"}, thread.Lines());
   EXPECT_EQ(2, Errors());
+}
+
+TEST_F(PrinterQueriesTest, GiveNoDataWithoutMemory) {
+  SetData(L"Bytes", REG_BINARY, "ab", 2);
+  const PatchedAllocation patched(OnAllocation::kFail);
+  DWORD size = 99;
+  EXPECT_FALSE(GetPrinterRegData(printer.Handle(), L"Bytes", &size));
+  EXPECT_EQ(0u, size);
+  EXPECT_EQ(Lines{}, thread.Lines()) << "nothing is read a second time";
 }
 
 TEST_F(PrinterQueriesTest, GivePrinterDataAsLines) {
@@ -245,6 +269,11 @@ TEST_F(PrinterQueriesTest, ListThePrintersOfADriver) {
 TEST_F(PrinterQueriesTest, ListThePrinterThatIsNamedLikeItsDriverFirst) {
   const TestPrinter like(kTestDriverName);
   EXPECT_EQ((Lines{kTestDriverName, L"Alpha"}), Names(kTestDriverName));
+}
+
+TEST_F(PrinterQueriesTest, ThatPrinterChangesPlacesWithTheFirst) {
+  const TestPrinter second(L"Beta"), like(kTestDriverName);
+  ASSERT_EQ((Lines{kTestDriverName, L"Beta", L"Alpha"}), Names(kTestDriverName));
 }
 
 TEST_F(PrinterQueriesTest, ListNothingWithoutADriverName) {

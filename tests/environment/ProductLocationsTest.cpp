@@ -46,6 +46,24 @@ TEST(ProductLocations, AreTheDriversWithAPrinter) {
   EXPECT_EQ(driver.Directory(), GetProductDirectory().Text());
 }
 
+namespace {
+
+HGLOBAL WINAPI NoGlobalAlloc(UINT, SIZE_T) { return nullptr; }
+
+}  // namespace
+
+TEST(ProductLocations, AreNotKnownWhenThePrintersAreNot) {
+  const TestDriver driver;
+  const TestPrinter printer(L"Alpha");
+  TracedThread thread;
+  ASSERT_GT(PatchImport("kernel32.dll", "GlobalAlloc", reinterpret_cast<void*>(&NoGlobalAlloc)), 0);
+  const CUString path = GetAddInNEMDllPath();
+  RestoreImport("kernel32.dll", "GlobalAlloc");
+  EXPECT_TRUE(path.IsEmpty());
+  EXPECT_EQ(Lines{L"GetAddInNEMDllPath: GetPrinterNames failed"}, thread.Lines());
+  EXPECT_EQ(1, thread.Error().trace->errorCount);
+}
+
 // --- The administrator's tool ------------------------------------------------------------------------------------
 
 namespace {
@@ -91,6 +109,67 @@ TEST_F(AdminToolTest, FailsWhereItIsNotInstalled) {
   EXPECT_FALSE(record.Exists());
 }
 
+namespace {
+
+const auto realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", &GetProcAddress);
+
+// What the shell was asked for, and how it answers.
+SHELLEXECUTEINFOW executed;
+std::wstring executedFile;
+HANDLE startedProcess;
+DWORD shellError;
+
+BOOL WINAPI NoteExecution(SHELLEXECUTEINFOW* info) {
+  executed = *info;
+  executedFile = info->lpFile;
+  info->hProcess = startedProcess;
+  if (shellError) SetLastError(shellError);
+  return TRUE;
+}
+
+FARPROC WINAPI WithNotingShell(HMODULE module, const char* name) {
+  if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF && std::string_view(name) == "ShellExecuteExW")
+    return reinterpret_cast<FARPROC>(&NoteExecution);
+  return realGetProcAddress(module, name);
+}
+
+// An error from before counts for nothing.
+bool RunNotedAdminTool(HANDLE process, DWORD error) {
+  startedProcess = process;
+  shellError = error;
+  PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithNotingShell));
+  SetLastError(ERROR_ACCESS_DENIED);
+  const bool ran = RunAdminTool(L"--RestartSpooler");
+  RestoreImport("kernel32.dll", "GetProcAddress");
+  return ran;
+}
+
+}  // namespace
+
+TEST_F(AdminToolTest, IsOpenedFromTheInstallLocation) {
+  Install(L"C:\\Product");
+  EXPECT_TRUE(RunNotedAdminTool(nullptr, ERROR_SUCCESS));
+  EXPECT_EQ(L"C:\\Product\\\\NEMadmin64.exe", executedFile);
+  EXPECT_STREQ(L"open", executed.lpVerb);
+  EXPECT_STREQ(L"--RestartSpooler", executed.lpParameters);
+  EXPECT_EQ(nullptr, executed.lpDirectory);
+  EXPECT_EQ(nullptr, executed.hwnd);
+  EXPECT_EQ(SW_SHOW, executed.nShow);
+  EXPECT_TRUE(executed.fMask & SEE_MASK_NOCLOSEPROCESS);
+}
+
+TEST_F(AdminToolTest, FailsByTheSystemsErrorWithoutAProcess) {
+  EXPECT_TRUE(RunNotedAdminTool(nullptr, ERROR_SUCCESS));
+  EXPECT_FALSE(RunNotedAdminTool(nullptr, ERROR_CANCELLED));
+}
+
+TEST_F(AdminToolTest, FailsWhenItsEndCannotBeAwaited) {
+  EXPECT_FALSE(RunNotedAdminTool(reinterpret_cast<HANDLE>(static_cast<INT_PTR>(0x7FFC)), ERROR_SUCCESS));
+  HANDLE ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
+  EXPECT_TRUE(RunNotedAdminTool(ended, ERROR_CANCELLED)) << "with a process its end alone counts";
+  EXPECT_FALSE(CloseHandle(ended)) << "was closed";
+}
+
 // --- Printers that the test's spooler cannot have ----------------------------------------------------------------
 //
 // The spooler is bound at its first use, so each of these stands in a process of its own, with some functions of the
@@ -99,8 +178,6 @@ TEST_F(AdminToolTest, FailsWhereItIsNotInstalled) {
 namespace {
 
 constexpr wchar_t kServerPrinter[] = L"\\\\server\\Alpha";
-
-const auto realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", &GetProcAddress);
 
 // One printer, which belongs to a print server and is connected to it.
 PRINTER_INFO_2W ServerPrinter() {
@@ -137,6 +214,20 @@ BOOL WINAPI GetNoPrinter(HANDLE, DWORD, BYTE*, DWORD, DWORD*) {
   SetLastError(ERROR_INVALID_HANDLE);
   return FALSE;
 }
+BOOL WINAPI GetPrinterAtOnce(HANDLE, DWORD, BYTE*, DWORD, DWORD* needed) {
+  *needed = 0;
+  SetLastError(ERROR_SUCCESS);
+  return TRUE;
+}
+BOOL WINAPI GetDriverAtOnce(HANDLE, wchar_t*, DWORD, BYTE*, DWORD, DWORD* needed) {
+  *needed = 0;
+  SetLastError(ERROR_SUCCESS);
+  return TRUE;
+}
+DWORD WINAPI GetEmptyData(HANDLE, wchar_t*, DWORD*, BYTE*, DWORD, DWORD* needed) {
+  *needed = 0;
+  return ERROR_SUCCESS;
+}
 BOOL WINAPI EnumServerPrinters(DWORD flags, wchar_t*, DWORD, BYTE* buffer, DWORD size, DWORD* needed, DWORD* count) {
   *count = 0;
   *needed = 0;
@@ -158,6 +249,8 @@ FARPROC WINAPI GetSpoolerProc(HMODULE module, const char* name) {
     if (wanted == "ClosePrinter") return reinterpret_cast<FARPROC>(&CloseAny);
     if (wanted == "GetPrinterW") return reinterpret_cast<FARPROC>(getPrinter);
     if (wanted == "EnumPrintersW") return reinterpret_cast<FARPROC>(enumPrinters);
+    if (wanted == "GetPrinterDriverW") return reinterpret_cast<FARPROC>(&GetDriverAtOnce);
+    if (wanted == "GetPrinterDataW") return reinterpret_cast<FARPROC>(&GetEmptyData);
   }
   return realGetProcAddress(module, name);
 }
@@ -195,6 +288,24 @@ TEST(FakeSpooler, DISABLED_PrinterThatIsNotValid) {
   EXPECT_EQ(Lines{L"IsServerPrinter: Invalid printer handle 1234"}, thread.Lines());
 }
 
+// A size of nothing is an answer, but no block.
+TEST(FakeSpooler, DISABLED_PrinterThatNeedsNoBlock) {
+  getPrinter = GetPrinterAtOnce;
+  PatchSpooler();
+  TracedThread thread;
+  EXPECT_TRUE(IsValidPrinterHandle(nullptr));
+  EXPECT_EQ(Lines{}, thread.Lines());
+  EXPECT_FALSE(GetPrinterInfo(nullptr, 2));
+  EXPECT_EQ(Lines{L"GetPrinterInfo2: GetPrinterPrinter(1st) error=00000000"}, thread.Lines());
+  EXPECT_FALSE(GetDriverInfo(nullptr, 2));
+  EXPECT_EQ(Lines{L"GetDriverInfo2: GetPrinterDriver(1st) error=00000000"}, thread.Lines());
+  DWORD size = 99;
+  EXPECT_FALSE(GetPrinterRegData(nullptr, L"Empty", &size));
+  EXPECT_EQ(0u, size);
+  EXPECT_EQ(Lines{L"GetPrinterRegData: 1st GetPrinterData(Empty) failed, Error=0"}, thread.Lines());
+  EXPECT_EQ(3, thread.Error().trace->errorCount);
+}
+
 TEST(FakeSpooler, DISABLED_SpoolerThatThrows) {
   enumPrinters = EnumThrowing;
   PatchSpooler();
@@ -215,4 +326,4 @@ TEST_P(FakeSpoolerProcess, Passes) {
 
 INSTANTIATE_TEST_SUITE_P(All, FakeSpoolerProcess,
                          testing::Values(L"ServerPrinter", L"PrinterThatCannotBeOpened", L"PrinterThatIsNotValid",
-                                         L"SpoolerThatThrows"));
+                                         L"PrinterThatNeedsNoBlock", L"SpoolerThatThrows"));
