@@ -33,8 +33,6 @@ class CBrowseForFolder {
   // No effect unless the picker is up.
   void EnableOk(bool enable);
 
-  CUString selectedFolder;  // the same path; empty when the chosen item was no folder of the file system
-
  protected:
   HWND DialogWindow() const { return dialogWindow_; }  // null unless the picker is up
 
@@ -48,5 +46,10 @@ class CBrowseForFolder {
   CUString title_;
   BROWSEINFOW info_ = {};
   wchar_t path_[MAX_PATH] = {};
+
+ public:
+  CUString selectedFolder;  // the same path; empty when the chosen item was no folder of the file system
+
+ private:
   HWND dialogWindow_ = nullptr;
 };

@@ -4,9 +4,11 @@
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <stdexcept>
 #include <string>
 #include <string_view>
+#include <utility>
 #include <vector>
 
 #include "driver/CommonDialogs.h"
@@ -169,6 +171,141 @@ TEST_F(CBrowseForFolderTest, ThrowsNothingIntoTheShell) {
   EXPECT_FALSE(picker.SelectFolder());
   EXPECT_EQ(1u, thread.Error().trace->errorCount);
 }
+
+// --- A shell of the test's own -----------------------------------------------------------------------------------
+
+namespace {
+
+constexpr UINT kEnableOkMessage = 1125;
+
+// The platform's interfaces have no virtual destructor.
+#pragma GCC diagnostic push
+#pragma GCC diagnostic ignored "-Wnon-virtual-dtor"
+
+// Counts what is given back.
+struct CountingAllocator final : IMalloc {
+  HRESULT WINAPI QueryInterface(REFIID, void**) override { return E_NOINTERFACE; }
+  ULONG WINAPI AddRef() override { return ++references; }
+  ULONG WINAPI Release() override { return --references; }
+  void* WINAPI Alloc(SIZE_T) override { return nullptr; }
+  void* WINAPI Realloc(void*, SIZE_T) override { return nullptr; }
+  void WINAPI Free(void* block) override { freed.push_back(block); }
+  SIZE_T WINAPI GetSize(void*) override { return 0; }
+  int WINAPI DidAlloc(void*) override { return -1; }
+  void WINAPI HeapMinimize() override {}
+
+  ULONG references = 0;
+  std::vector<void*> freed;
+};
+
+#pragma GCC diagnostic pop
+
+struct FakeShell {
+  BROWSEINFOW info = {};
+  bool isFolder = true;
+  ITEMIDLIST item = {};
+  CountingAllocator allocator;
+  std::vector<std::pair<UINT, LPARAM>> sent;  // to the picker's window
+  std::function<void(HWND)> whileUp;
+} * fakeShell;
+
+LRESULT CALLBACK NoteMessage(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  if (message >= WM_USER) fakeShell->sent.emplace_back(message, lParam);
+  return DefWindowProcW(window, message, wParam, lParam);
+}
+
+PIDLIST_ABSOLUTE WINAPI FakeBrowse(BROWSEINFOW* info) {
+  fakeShell->info = *info;
+  const HWND window = CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 9, 9, nullptr, nullptr, nullptr, nullptr);
+  SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&NoteMessage));
+  info->lpfn(window, BFFM_INITIALIZED, 0, info->lParam);
+  fakeShell->whileUp(window);
+  DestroyWindow(window);
+  return reinterpret_cast<PIDLIST_ABSOLUTE>(&fakeShell->item);
+}
+
+BOOL WINAPI FakePathOf(PCIDLIST_ABSOLUTE, wchar_t* path) {
+  if (fakeShell->isFolder) lstrcpyW(path, kFolder);
+  return fakeShell->isFolder;
+}
+
+HRESULT WINAPI FakeMalloc(IMalloc** allocator) {
+  fakeShell->allocator.AddRef();
+  *allocator = &fakeShell->allocator;
+  return S_OK;
+}
+
+FARPROC WINAPI WithFakeShell(HMODULE module, const char* name) {
+  if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF) {
+    const std::string_view wanted(name);
+    if (wanted == "SHBrowseForFolderW") return reinterpret_cast<FARPROC>(&FakeBrowse);
+    if (wanted == "SHGetPathFromIDListW") return reinterpret_cast<FARPROC>(&FakePathOf);
+    if (wanted == "SHGetMalloc") return reinterpret_cast<FARPROC>(&FakeMalloc);
+  }
+  return realGetProcAddress(module, name);
+}
+
+bool SelectIn(FakeShell& shell, CBrowseForFolder& picker) {
+  fakeShell = &shell;
+  PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithFakeShell));
+  const bool selected = picker.SelectFolder();
+  RestoreImport("kernel32.dll", "GetProcAddress");
+  return selected;
+}
+
+}  // namespace
+
+TEST_F(CBrowseForFolderTest, AsksTheShellForFoldersOfTheFileSystem) {
+  ITEMIDLIST first = {}, second = {};
+  const auto root = reinterpret_cast<PCIDLIST_ABSOLUTE>(&first), other = reinterpret_cast<PCIDLIST_ABSOLUTE>(&second);
+  CBrowseForFolder picker(GetDesktopWindow(), other);
+  picker.SetRoot(root);
+  picker.SetTitle(L"Where to?");
+  FakeShell shell;
+  shell.whileUp = [&](HWND) { picker.SetRoot(other); };
+  EXPECT_TRUE(SelectIn(shell, picker));
+  EXPECT_EQ(65u, shell.info.ulFlags);
+  EXPECT_EQ(GetDesktopWindow(), shell.info.hwndOwner);
+  EXPECT_EQ(root, shell.info.pidlRoot);
+  EXPECT_STREQ(L"Where to?", shell.info.lpszTitle);
+  EXPECT_NE(nullptr, shell.info.pszDisplayName);
+  EXPECT_EQ(reinterpret_cast<LPARAM>(&picker), shell.info.lParam);
+
+  shell.whileUp = [](HWND) {};
+  EXPECT_TRUE(SelectIn(shell, picker));
+  EXPECT_EQ(root, shell.info.pidlRoot) << "a root set while the picker was up had no effect";
+}
+
+TEST_F(CBrowseForFolderTest, TurnsOkOffWhenAValidationFailed) {
+  CBrowseForFolder picker;
+  FakeShell shell;
+  shell.whileUp = [&](HWND window) { shell.info.lpfn(window, BFFM_VALIDATEFAILEDW, 0, shell.info.lParam); };
+  EXPECT_TRUE(SelectIn(shell, picker));
+  EXPECT_EQ((std::vector<std::pair<UINT, LPARAM>>{{kEnableOkMessage, FALSE}}), shell.sent);
+}
+
+TEST_F(CBrowseForFolderTest, GivesTheItemBackToTheShell) {
+  CBrowseForFolder picker;
+  FakeShell shell;
+  shell.whileUp = [](HWND) {};
+  EXPECT_TRUE(SelectIn(shell, picker));
+  EXPECT_EQ(std::vector<void*>{&shell.item}, shell.allocator.freed);
+  EXPECT_EQ(0u, shell.allocator.references);
+}
+
+TEST_F(CBrowseForFolderTest, SelectsNothingThatIsNoFolder) {
+  CBrowseForFolder picker;
+  FakeShell shell;
+  shell.whileUp = [](HWND) {};
+  EXPECT_TRUE(SelectIn(shell, picker));
+  EXPECT_STREQ(kFolder, picker.selectedFolder.Text());
+  shell.isFolder = false;
+  EXPECT_FALSE(SelectIn(shell, picker));
+  EXPECT_TRUE(picker.selectedFolder.IsEmpty());
+  EXPECT_EQ(2u, shell.allocator.freed.size());
+}
+
+// --- A shell that lacks something --------------------------------------------------------------------------------
 
 TEST_F(CBrowseForFolderTest, TellsOfAMissingLibrary) {
   CBrowseForFolder picker;
