@@ -12,7 +12,7 @@ class NemPrintJob : public NemPrintJobDll {
   // Of the job only: 0 when there is none.
   int SetProperty(const char* name, const char* value) override;
   int GetProperty(const char* name, char* buffer, int size) override;
-  int LoadJob(const char* filename);
-  int SaveJob(const char* filename);
-  int MailSendJob(const char* filename);
+  virtual int LoadJob(const char* filename);
+  virtual int SaveJob(const char* filename);
+  virtual int MailSendJob(const char* filename);
 };

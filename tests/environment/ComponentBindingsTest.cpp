@@ -3,8 +3,12 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
+#include <string_view>
+#include <vector>
 
+#include "driver/ImportPatch.h"
 #include "environment/NemEpdfDll.h"
 #include "environment/NemPdfmDll.h"
 #include "environment/NemPrintJob.h"
@@ -307,6 +311,101 @@ TEST(NemEpdfDll, CallsEachFunctionUnderItsName) {
   EXPECT_EQ("NemEpdfGetEPdfSettings(f,p)\n", TakeCalls(epdf));
 }
 
+// --- Look-ups ----------------------------------------------------------------------------------------------------
+
+namespace {
+
+using Names = std::vector<std::string>;
+
+const auto realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", &GetProcAddress);
+
+Names lookedUp;
+size_t missing;  // the look-up that fails, from 0
+
+FARPROC WINAPI NoteLookUp(HMODULE module, const char* name) {
+  // Taking the patch back looks something up too.
+  if (reinterpret_cast<ULONG_PTR>(name) <= 0xFFFF || !std::string_view(name).starts_with("Nem"))
+    return realGetProcAddress(module, name);
+  lookedUp.emplace_back(name);
+  if (lookedUp.size() <= missing) return realGetProcAddress(module, name);
+  SetLastError(ERROR_PROC_NOT_FOUND);
+  return nullptr;
+}
+
+template <class Binding>
+bool LoadNoted(Binding& component, int mode, const wchar_t* folder, const wchar_t* filename, size_t missingName) {
+  lookedUp.clear();
+  missing = missingName;
+  PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&NoteLookUp));
+  const bool loaded = component.Load(mode, ComponentFolder(folder).c_str(), filename);
+  RestoreImport("kernel32.dll", "GetProcAddress");
+  return loaded;
+}
+
+// The names are looked up in this order, and each of them is needed.
+template <class Binding>
+void ExpectLookUps(int mode, const wchar_t* folder, const wchar_t* filename, const Names& names) {
+  for (size_t missingName = 0; missingName < names.size(); ++missingName) {
+    Binding component;
+    EXPECT_FALSE(LoadNoted(component, mode, folder, filename, missingName)) << names[missingName];
+    EXPECT_EQ(Names(names.begin(), names.begin() + static_cast<int>(missingName) + 1), lookedUp);
+    EXPECT_TRUE(component.IsLoaded()) << names[missingName];
+    EXPECT_EQ(static_cast<DWORD>(ERROR_PROC_NOT_FOUND), component.lastError) << names[missingName];
+  }
+  Binding component;
+  EXPECT_TRUE(LoadNoted(component, mode, folder, filename, names.size()));
+  EXPECT_EQ(names, lookedUp);
+}
+
+Names Joined(const Names& first, const Names& second) {
+  Names joined = first;
+  joined.insert(joined.end(), second.begin(), second.end());
+  return joined;
+}
+
+}  // namespace
+
+TEST(LookUps, OfTheJobInterface) {
+  ExpectLookUps<NemVdApiDll>(
+      1, L"complete", nullptr,
+      {"NemPdfVdAPIGetVersion", "NemPdfVdJobSetPropertyA", "NemPdfVdJobSetPropertyW", "NemPdfVdJobGetPropertyA",
+       "NemPdfVdJobGetPropertyW", "NemPdfVdJobGetError", "NemPdfVdJobGetErrorTextA", "NemPdfVdJobCreate",
+       "NemPdfVdJobFree", "NemPdfVdJobStart", "NemPdfVdJobPrint", "NemPdfVdJobWaitFor",
+       "NemPdfVdJobInitDevModeProperty", "NemPdfVdJobShowDevModeProperty", "NemPdfVdJobSaveDevModeProperty"});
+}
+
+TEST(LookUps, OfEnhancedPdf) {
+  ExpectLookUps<NemEpdfDll>(
+      1, L"complete", nullptr,
+      {"NemEpdfGetErrorText", "NemEpdfGetVersion", "NemEpdfSetProperty", "NemEpdfGetProperty", "NemEpdfGetLastError",
+       "NemEpdfGetLastErrorText", "NemEpdfIsEPdf", "NemEpdfIsEncryptedPdf", "NemEpdfIsPasswordValid", "NemEpdfGetEPdf",
+       "NemEpdfGetEmbeddedFile", "NemEpdfGetEPdfInfo", "NemEpdfGetEPdfSettings"});
+}
+
+TEST(LookUps, OfThePdfTool) {
+  ExpectLookUps<NemPdfmDll>(1, L"complete", kPdf,
+                            {"NemPdfGetErrorText", "NemPdfGetVersion", "NemPdfSetProperty", "NemPdfGetProperty",
+                             "NemPdfGetLastError", "NemPdfGetLastErrorText", "NemPdfMerge", "NemPdfJoin"});
+}
+
+TEST(LookUps, OfPrintByModeAndVersion) {
+  const Names common = {"NemPrSetProperty", "NemPrGetProperty", "NemPrGetLastError", "NemPrGetLastErrorText",
+                        "NemPrGetErrorText"};
+  const Names dialogs = {"NemPrShowPrintDialog", "NemPrShowPrintSetupDialog"};
+  const Names behind = Joined(Joined(dialogs, common), {"NemMailSend"});
+  const Names usual = Joined({"NemPrGetVersion", "NemPrLoad", "NemPrSave", "NemPrPrint"}, behind);
+  const Names job = {"NemPrJobCreate",      "NemPrJobFree",     "NemPrJobLoad",         "NemPrJobSave",
+                     "NemPrJobPrint",       "NemPrJobConvert",  "NemPrJobMailSend",     "NemPrJobSetProperty",
+                     "NemPrJobGetProperty", "NemPrJobGetError", "NemPrJobGetErrorText", "NemPrGetVersionText"};
+  ExpectLookUps<NemPrintDll>(1, L"complete", kPrint, usual);
+  ExpectLookUps<NemPrintDll>(2, L"complete", kPrint,
+                             Joined({"NemPrGetVersion", "NemPrLoad2", "NemPrSave2", "NemPrPrint2"}, behind));
+  ExpectLookUps<NemPrintDll>(1, L"minor0", kPrint,
+                             Joined({"NemPrGetVersion", "NemPrPrint", "NemPrShowPrintDialog"}, common));
+  ExpectLookUps<NemPrintJobDll>(1, L"complete", kPrint, Joined(usual, job));
+  ExpectLookUps<NemPrintJob>(1, L"complete", kPrint, Joined(usual, job));
+}
+
 // --- PDF ---------------------------------------------------------------------------------------------------------
 
 TEST(NemPdfmDll, CallsEachFunctionUnderItsName) {
@@ -515,6 +614,24 @@ TEST(FormatComponentError, AsksTheComponentOtherwise) {
   EXPECT_EQ(1005u, code);
   EXPECT_EQ(" 5: fifth\n", FormattedError(pdf, nullptr, 0));
   EXPECT_EQ(0, pdf.FormatComponentError(&code, nullptr, nullptr, 0));
+}
+
+TEST(FormatComponentError, TakesATextOf256Bytes) {
+  struct Talkative : NemPdfmDll {
+    int GetLastError(uint32_t* code) override {
+      *code = 5;
+      return 1;
+    }
+    int GetErrorText(uint32_t, char* buffer, int size) override {
+      room = size;
+      std::fill_n(buffer, size, 'x');  // without a terminator
+      return 1;
+    }
+    int room = 0;
+  } component;
+  uint32_t code = 0;
+  EXPECT_EQ(" 5: " + std::string(255, 'x') + "\n", FormattedError(component, &code, 0));
+  EXPECT_EQ(256, component.room);
 }
 
 TEST(FormatComponentError, KnowsWhenNothingIsKnown) {

@@ -5,8 +5,10 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <string_view>
 #include <vector>
 
+#include "driver/ImportPatch.h"
 #include "support/ComponentFolder.h"
 #include "support/PrintText.h"
 #include "support/TracedThread.h"
@@ -18,17 +20,32 @@ using Query = CUString (*)(const wchar_t* directory);
 struct VersionCase {
   Query query;
   const wchar_t* version;
-  std::wstring failure;  // what follows the error's number
+  std::wstring failure;    // what follows the error's number
+  std::wstring exception;  // the line
 };
 
 const VersionCase kCases[] = {
-    {GetPrintVersion, L"2.10.4", L" beim Initialisieren der NEM print-DLL"},
-    {GetPdfVersion, L"2.10.4", L" beim Initialisieren der NEM pdf-DLL"},
-    {GetEpdfVersion, L"3.5.12", L" beim Initialisieren der NEM Epdf-DLL"},
-    {GetVdApiVersion, L"1.0.0", L" beim Initialisieren der NEM VdApi-DLL"},
+    {GetPrintVersion, L"2.10.4", L" beim Initialisieren der NEM print-DLL",
+     L"UpdateData: Exception gefangen beim Ermitteln der Print-Version"},
+    {GetPdfVersion, L"2.10.4", L" beim Initialisieren der NEM pdf-DLL",
+     L"UpdateData: Exception gefangen beim Ermitteln der Toolbox-Version"},
+    {GetEpdfVersion, L"3.5.12", L" beim Initialisieren der NEM Epdf-DLL",
+     L"UpdateData: Exception gefangen beim Ermitteln der Epdf-Version"},
+    {GetVdApiVersion, L"1.0.0", L" beim Initialisieren der NEM VdApi-DLL",
+     L"UpdateData: Exception gefangen beim Ermitteln der VdApi-Version"},
 };
 
 using Lines = std::vector<std::wstring>;
+
+const auto realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", &GetProcAddress);
+
+int ThrowVersion(uint32_t*) { throw 1; }
+
+FARPROC WINAPI WithThrowingVersions(HMODULE module, const char* name) {
+  if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF && std::string_view(name).ends_with("GetVersion"))
+    return reinterpret_cast<FARPROC>(&ThrowVersion);
+  return realGetProcAddress(module, name);
+}
 
 }  // namespace
 
@@ -50,6 +67,7 @@ TEST(ComponentVersions, AreEmptyWithoutTheComponent) {
     ASSERT_EQ(1u, lines.size());
     EXPECT_TRUE(lines[0] == L"Fehler 126" + row.failure || lines[0] == L"Fehler 3" + row.failure) << lines[0];
   }
+  EXPECT_EQ(0, thread.Error().trace->errorCount) << "the lines are plain ones";
 }
 
 TEST(ComponentVersions, AreEmptyWhenTheComponentLacksAnExport) {
@@ -76,4 +94,16 @@ TEST(ComponentVersions, SurviveAComponentThatThrows) {
   const Lines lines = thread.Lines();
   ASSERT_EQ(1u, lines.size());
   EXPECT_NE(std::wstring::npos, lines[0].find(L"UpdateData: Exception gefangen beim Ermitteln der Toolbox-Version"));
+}
+
+TEST(ComponentVersions, EachTellsOfItsException) {
+  TracedThread thread;
+  for (const VersionCase& row : kCases) {
+    ASSERT_GT(PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithThrowingVersions)), 0);
+    const CUString version = row.query(ComponentFolder(L"complete").c_str());
+    RestoreImport("kernel32.dll", "GetProcAddress");
+    EXPECT_TRUE(version.IsEmpty());
+    EXPECT_EQ(Lines{row.exception}, thread.Lines());
+  }
+  EXPECT_EQ(4, thread.Error().trace->errorCount);
 }
