@@ -51,7 +51,9 @@ const AdminKey* FindMeantKey(std::string_view key) {
   return nullptr;
 }
 
-std::wstring DescribeUnknownKey(std::string_view key) {
+// The rest of a line that is too long belongs to a value, even if it looks like a key.
+std::wstring DescribeUnknownKey(std::string_view key, bool isRest) {
+  if (isRest) return std::wstring(L"no key of the list in the rest of the line") + kStops;
   constexpr size_t kShown = 60;
   std::wstring text = L"unknown key \"" + Widened(key.substr(0, kShown)) + (key.size() > kShown ? L"...\"" : L"\"");
   if (const AdminKey* meant = FindMeantKey(key)) text += std::wstring(L", perhaps ") + meant->key;
@@ -112,7 +114,8 @@ class CConfChecker {
     const size_t place = begin + static_cast<size_t>(line.text.data() - text);
     lineNumber_ += CountLineEnds(std::exchange(counted_, place), place);
     const int number = lineNumber_;
-    CheckForm(begin, end, line, number);
+    const bool isRest = begin > 0 && !IsLineEnd(bytes_[begin - 1]);
+    CheckForm(begin, end, line, number, isRest);
     switch (line.kind) {
       case ConfLineKind::Value:
         return Store(line, number);
@@ -123,7 +126,7 @@ class CConfChecker {
       case ConfLineKind::NoEqualsSign:
         return Find(number, std::wstring(L"no \"=\"") + kStops);
       case ConfLineKind::UnknownKey:
-        return Find(number, DescribeUnknownKey(line.key));
+        return Find(number, DescribeUnknownKey(line.key, isRest));
       default:
         return;
     }
@@ -161,10 +164,9 @@ class CConfChecker {
   }
 
   // What can be wrong with a line whatever it says.
-  void CheckForm(size_t begin, size_t end, const ConfLine& line, int number) {
+  void CheckForm(size_t begin, size_t end, const ConfLine& line, int number, bool isRest) {
     while (end > begin && IsLineEnd(bytes_[end - 1])) --end;
-    const bool goesOn = begin > 0 && !IsLineEnd(bytes_[begin - 1]);
-    if (goesOn && !line.text.empty())
+    if (isRest && !line.text.empty())
       Find(number, L"longer than " + FormatNumber(kConfLineLimit) + L" bytes; the rest is read as a line of its own");
     if (bytes_.substr(begin, end - begin).find('\0') != bytes_.npos)
       Find(number, L"a zero byte; the rest of the line is not read");

@@ -231,6 +231,14 @@ TEST_F(ConfCheck, ShowsNoValues) {
   EXPECT_EQ(std::wstring::npos, DescribeReport(L"x.conf", report).find(L"geheim"));
 }
 
+TEST_F(ConfCheck, ShowsNothingOfTheRestOfALongLine) {
+  const std::wstring stops = kStops;
+  const std::string password = "EncryptUserPassword_Override = " + std::string(999 - 31, 'a');
+  EXPECT_EQ((Lines{L"1: longer than 999 bytes; the rest is read as a line of its own",
+                   L"1: no key of the list in the rest of the line" + stops}),
+            Found(password + "geheim=geheim\n"));
+}
+
 TEST_F(ConfCheck, AKeyIsShownInOneShortLine) {
   const std::wstring stops = kStops;
   EXPECT_EQ(Lines{L"1: unknown key \"" + std::wstring(60, L'k') + L"...\"" + stops},
