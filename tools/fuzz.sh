@@ -1,5 +1,5 @@
 #!/bin/bash
-# Builds the fuzzers and runs each for some minutes:
+# Installs what they need, builds the fuzzers, and runs each for some minutes:
 #
 #   tools/fuzz.sh [MINUTES [FUZZER...]]      1 minute and all fuzzers, if not said otherwise
 #
@@ -9,6 +9,9 @@ set -u
 export LC_ALL=C.UTF-8
 # shellcheck source=tools/common.sh
 source "$(dirname "${BASH_SOURCE[0]}")/common.sh"
+source "$root/tools/setup.sh"
+
+fuzzer_packages=(clang libclang-rt-dev) # the compiler with libFuzzer and the sanitizers
 
 # last_number WORD LOG: the number behind the last "WORD: " that libFuzzer has printed.
 last_number() { grep -o "$1: *[0-9]*" "$2" | tail -n 1 | grep -o '[0-9]*$'; }
@@ -35,11 +38,7 @@ if ! [[ $minutes =~ ^[0-9]+$ ]] || [ "$minutes" = 0 ]; then
   say "Not a number of minutes: $minutes" >&2
   exit 2
 fi
-if ! command -v clang++ >/dev/null; then
-  say "The fuzzers need clang: apt-get install clang" >&2
-  exit 2
-fi
-
+set_up "${fuzzer_packages[@]}" || exit 2
 cmake_build fuzz fuzzers || exit 1
 names=("${@:2}")
 if [ ${#names[@]} = 0 ]; then

@@ -10,10 +10,10 @@ packages=(
   xvfb                                                 # a screen for the scripted session and the gallery
 )
 
-# missing_packages: those that are not installed, one a line.
+# missing_packages PACKAGE...: those that are not installed, one a line.
 missing_packages() {
-  comm -23 <(printf '%s\n' "${packages[@]}" | sort) \
-    <(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "${packages[@]}" 2>/dev/null | sed -n 's/^installed //p' | sort)
+  comm -23 <(printf '%s\n' "$@" | sort) \
+    <(dpkg-query -W -f '${db:Status-Status} ${Package}\n' "$@" 2>/dev/null | sed -n 's/^installed //p' | sort -u)
 }
 
 # as_root COMMAND...: directly or by sudo.
@@ -27,14 +27,16 @@ install_packages() {
     as_root apt-get -o DPkg::Lock::Timeout=300 install -y --no-install-recommends "$@"
 }
 
-# set_up: returns at once when all is there.
+# set_up [PACKAGE...]: installs what is missing of the packages above, and of those that only the caller needs. Returns
+# at once when all is there.
 set_up() {
+  local needed=("${packages[@]}" "$@")
   if ! command -v dpkg-query >/dev/null; then
-    say "This is not Debian: the packages that are needed cannot be checked. Needed: ${packages[*]}"
+    say "This is not Debian: the packages that are needed cannot be checked. Needed: ${needed[*]}"
     return
   fi
   local missing
-  mapfile -t missing < <(missing_packages)
+  mapfile -t missing < <(missing_packages "${needed[@]}")
   [ ${#missing[@]} = 0 ] && return
 
   say "Missing packages: ${missing[*]}"
@@ -45,7 +47,7 @@ set_up() {
   fi
   say "installing them, some minutes on a fresh machine"
   step "installed" setup install_packages "${missing[@]}" || return
-  mapfile -t missing < <(missing_packages)
+  mapfile -t missing < <(missing_packages "${needed[@]}")
   if [ ${#missing[@]} != 0 ]; then
     say "FAILED: still missing after the installation: ${missing[*]}"
     return 1
