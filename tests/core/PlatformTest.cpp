@@ -384,21 +384,6 @@ TEST(PlatformSystem, TheVersionIsKnown) {
 #endif
 }
 
-#ifdef _WIN32
-// A program without a manifest is told an older version. What the system shares with every process is the real one.
-TEST(PlatformSystem, TheVersionIsTheRealOne) {
-  const auto shared = [](uintptr_t offset) {
-    constexpr uintptr_t kSharedData = 0x7FFE0000;
-    return *reinterpret_cast<const volatile uint32_t*>(kSharedData + offset);
-  };
-  constexpr uintptr_t kMajor = 0x26C, kMinor = 0x270;
-  platform::SystemVersion version{};
-  ASSERT_TRUE(platform::GetSystemVersion(version));
-  EXPECT_EQ(shared(kMajor), version.major);
-  EXPECT_EQ(shared(kMinor), version.minor);
-}
-#endif
-
 // --- Message table of the native build -------------------------------------------------------------------------------
 
 #ifndef _WIN32

@@ -11,6 +11,7 @@
 #include "environment/DefaultPaper.h"
 #include "environment/HostApplication.h"
 #include "environment/Shell.h"
+#include "environment/SystemGeneration.h"
 #include "environment/TextLimit.h"
 #include "support/ComponentFolder.h"
 #include "support/PrintText.h"
@@ -170,6 +171,41 @@ TEST_F(DefaultPaperTest, IsLetterWithoutTheKey) {
   const Lines lines = thread.Lines();
   ASSERT_FALSE(lines.empty());
   EXPECT_EQ(L"IsA4PaperDefault: RegOpenKey 'Control Panel\\International' FAILED", lines.back());
+}
+
+// --- System ------------------------------------------------------------------------------------------------------
+
+namespace {
+
+// What a host without a manifest may be told.
+BOOL WINAPI TellAnOldVersion(OSVERSIONINFOW* info) {
+  info->dwPlatformId = VER_PLATFORM_WIN32_WINDOWS;
+  info->dwMajorVersion = 4;
+  info->dwMinorVersion = 10;
+  return TRUE;
+}
+DWORD WINAPI OldVersion() { return 0x80000A04; }
+
+// What the system shares with every process, without regard to its manifest.
+uint32_t SharedNumber(uintptr_t offset) {
+  constexpr uintptr_t kSharedData = 0x7FFE0000;
+  return *reinterpret_cast<const volatile uint32_t*>(kSharedData + offset);
+}
+
+}  // namespace
+
+TEST(SystemVersion, IsTheRealOneWhateverTheHostIsTold) {
+  PatchImport("kernel32.dll", "GetVersionExW", reinterpret_cast<void*>(&TellAnOldVersion));
+  PatchImport("kernel32.dll", "GetVersion", reinterpret_cast<void*>(&OldVersion));
+  platform::SystemVersion version{};
+  const bool known = platform::GetSystemVersion(version), isWin9x = IsWin9x();
+  RestoreImport("kernel32.dll", "GetVersionExW");
+  RestoreImport("kernel32.dll", "GetVersion");
+  ASSERT_TRUE(known);
+  EXPECT_FALSE(isWin9x);
+  constexpr uintptr_t kMajor = 0x26C, kMinor = 0x270;
+  EXPECT_EQ(SharedNumber(kMajor), version.major);
+  EXPECT_EQ(SharedNumber(kMinor), version.minor);
 }
 
 // --- Shell -------------------------------------------------------------------------------------------------------
