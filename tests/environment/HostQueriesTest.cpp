@@ -225,10 +225,10 @@ FARPROC WINAPI WithoutShellExecuteEx(HMODULE module, const char* name) {
   return IsName(name, "ShellExecuteExW") ? nullptr : realGetProcAddress(module, name);
 }
 
-// What the older function was asked for, and how it answers.
+// What the older function was asked for, where null is an empty text, and how it answers.
 struct Execution {
   HWND owner;
-  std::wstring verb, file, parameters, directory;
+  CUString verb, file, parameters, directory;
   int show;
 } execution;
 INT_PTR executionResult;
@@ -313,6 +313,10 @@ TEST(OpenWithShell, SucceedsFromThirtyTwoOn) {
     EXPECT_EQ(success, OpenWithShell(nullptr, L"https://www.nem-software.example/", SW_SHOWMINIMIZED)) << result;
   }
   RestoreImport("kernel32.dll", "GetProcAddress");
+  EXPECT_EQ(L"open", execution.verb);
+  EXPECT_EQ(L"https://www.nem-software.example/", execution.file);
+  EXPECT_EQ(L"", execution.parameters);
+  EXPECT_EQ(SW_SHOWMINIMIZED, execution.show);
 }
 
 // --- Text limit --------------------------------------------------------------------------------------------------
