@@ -36,7 +36,9 @@ class CWnd {
   bool IsEnabled() const { return window_ && ::IsWindowEnabled(window_); }
   // The window's own state: a control of a page that is not shown may still be visible in this sense.
   bool IsShown() const { return (Style() & WS_VISIBLE) != 0; }
-  void Focus() const { ::SetFocus(window_); }
+  void Focus() const {
+    if (window_) ::SetFocus(window_);  // null would take the focus from whoever has it
+  }
   bool HasFocus() const { return window_ && ::GetFocus() == window_; }
 
   DWORD Style() const { return static_cast<DWORD>(::GetWindowLongPtrW(window_, GWL_STYLE)); }
@@ -57,8 +59,12 @@ class CWnd {
   void Move(const RECT& rect) const;
   // Puts the window behind `previous` in z-order, which is the tab order.
   void PlaceBehind(HWND previous) const;
-  void Invalidate(const RECT* rect = nullptr, bool erase = true) const { ::InvalidateRect(window_, rect, erase); }
-  void Redraw() const { ::UpdateWindow(window_); }
+  void Invalidate(const RECT* rect = nullptr, bool erase = true) const {
+    if (window_) ::InvalidateRect(window_, rect, erase);  // null would have all windows of the screen painted anew
+  }
+  void Redraw() const {
+    if (window_) ::UpdateWindow(window_);
+  }
 
   // Dots per inch of the window's display, and a length at 96 dpi scaled to it.
   int Dpi() const;

@@ -70,8 +70,23 @@ TEST_F(Wnd, NullAndDeadWindowsDoNothingAndAnswerNothing) {
     EXPECT_EQ(0, window.ClientRect().right);
     EXPECT_EQ(0, window.WindowRect().right);
     window.Move({0, 0, 10, 10});
+    window.Focus();
+    window.Invalidate();
+    window.Redraw();
     EXPECT_GT(window.Dpi(), 0);
   }
+}
+
+// To the platform null means more than no window here: nobody is to have the focus, everybody is to be painted.
+TEST_F(Wnd, NullWindowTakesNobodysFocusAndPaintsNobody) {
+  outer_.Focus();
+  CWnd().Focus();
+  EXPECT_EQ(outer_.Handle(), GetFocus());
+  RedrawWindow(dialog_.Handle(), nullptr, nullptr, RDW_VALIDATE | RDW_ALLCHILDREN | RDW_NOINTERNALPAINT);
+  CWnd().Invalidate();
+  EXPECT_FALSE(GetUpdateRect(dialog_.Handle(), nullptr, FALSE));
+  dialog_.Invalidate();
+  EXPECT_TRUE(GetUpdateRect(dialog_.Handle(), nullptr, FALSE)) << "one that is there is painted anew";
 }
 
 TEST_F(Wnd, FindsItsControlsAndItsParent) {
