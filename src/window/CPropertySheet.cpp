@@ -103,12 +103,13 @@ INT_PTR CPropertySheet::DoModal(HWND owner, const wchar_t* caption) {
   const CActivationScope look;
   const HookScope hooks(*this);
   running_ = true;
-  created_ = applied_ = false;
+  opened_ = applied_ = false;
   const INT_PTR result = ::PropertySheetW(&header);
   running_ = false;
+  window_ = nullptr;   // a window that was refused at its birth has not said that it is gone
   prepared.Release();  // the platform has taken the pages, whatever came of the run
   // A window that went with its owner has told nobody anything.
-  return created_ && !applied_ ? 0 : result;
+  return opened_ && !applied_ ? 0 : result;
 }
 
 int CALLBACK CPropertySheet::SheetCallback(HWND, UINT message, LPARAM lParam) {
@@ -133,7 +134,6 @@ LRESULT CALLBACK CPropertySheet::CreationHook(int code, WPARAM wParam, LPARAM lP
 void CPropertySheet::Attach(HWND window) {
   if (!::SetWindowSubclass(window, SubclassProcedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this))) return;
   window_ = window;
-  created_ = true;
 }
 
 LRESULT CALLBACK CPropertySheet::SubclassProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR,
@@ -161,7 +161,8 @@ CPropertyPage* CPropertySheet::PageAt(int index) const {
 
 CPropertyPage* CPropertySheet::CurrentPage() const {
   if (coming_) return coming_;
-  return window_ ? PageAt(GetTabControl().Selection()) : nullptr;
+  const CTabCtrl tabs = GetTabControl();
+  return tabs.Handle() ? PageAt(tabs.Selection()) : nullptr;
 }
 
 void CPropertySheet::SetActivePage(CPropertyPage& page) {
@@ -177,6 +178,7 @@ BOOL CPropertySheet::OnInitDialog(WindowMessage& message) { return static_cast<B
 bool CPropertySheet::OnWindowMessage(WindowMessage& message) {
   switch (message.message) {
     case WM_INITDIALOG:
+      opened_ = true;
       message.result = OnInitDialog(message);
       return true;
     case WM_COMMAND:

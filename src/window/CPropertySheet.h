@@ -16,8 +16,8 @@ class CPropertySheet : public CWnd, public CMessageTarget {
   // The page stays the caller's and must outlive the run.
   void AddPage(CPropertyPage& page) { pages_.push_back(&page); }
 
-  // Runs the sheet: what PropertySheetW gave, or 0 when there was nothing to run, when a page could not be prepared,
-  // or when the sheet was destroyed under the user without an OK.
+  // Runs the sheet: what PropertySheetW gave, which is -1 when it could not open the sheet; or 0 when there was nothing
+  // to run, when a page could not be prepared, or when the sheet was destroyed under the user without an OK.
   INT_PTR DoModal(HWND owner, const wchar_t* caption);
 
   CTabCtrl GetTabControl() const;
@@ -65,7 +65,7 @@ class CPropertySheet : public CWnd, public CMessageTarget {
 
   std::vector<CPropertyPage*> pages_;
   bool running_ = false;
-  bool created_ = false;                    // the window has existed
+  bool opened_ = false;                     // the window has come to life
   bool applied_ = false;                    // the last apply was accepted
   bool settingPage_ = false;                // a tab change of our own, which asks nobody
   const CPropertyPage* leaving_ = nullptr;  // agreed to be left

@@ -3,7 +3,12 @@
 
 #include <vector>
 
+#include "driver/ImportPatch.h"
+#include "DriverLIB/WindowThreadState.h"
+#include "MessageIds.h"
+#include "pages/CNemUINoDocSettingsPage.h"
 #include "resources/ResourceIds.h"
+#include "support/HelpSpy.h"
 #include "support/PrintText.h"
 #include "TestSheet.h"
 #include "window/Gdi.h"
@@ -309,6 +314,125 @@ TEST(SheetRun, WithoutPagesOrTemplatesNothingRuns) {
   } sheet;
   sheet.AddPage(missing);
   EXPECT_EQ(0, sheet.DoModal(nullptr, L"none"));
+}
+
+// A hook of somebody else on this thread refuses the sheet's window.
+LRESULT CALLBACK RefuseDialogs(int code, WPARAM wParam, LPARAM lParam) {
+  if (code == HCBT_CREATEWND &&
+      GetClassLongPtrW(reinterpret_cast<HWND>(wParam), GCW_ATOM) == reinterpret_cast<ULONG_PTR>(WC_DIALOG))
+    return 1;
+  return CallNextHookEx(nullptr, code, wParam, lParam);
+}
+
+TEST(SheetRun, SheetThatCannotBeCreatedGivesWhatThePlatformSaysAndLeavesNothingBehind) {
+  const PlatformSaysOne platform;
+  TestSheet test;
+  const HHOOK hook = SetWindowsHookExW(WH_CBT, RefuseDialogs, nullptr, GetCurrentThreadId());
+  EXPECT_EQ(1, test.Run());
+  UnhookWindowsHookEx(hook);
+  EXPECT_EQ(nullptr, test.Object().Handle());
+  EXPECT_EQ(nullptr, test.Object().CurrentHost());
+  EXPECT_EQ(std::vector<std::string>(), test.log);
+  const WindowThreadState& state = *CurrentWindowThreadState();
+  EXPECT_EQ(nullptr, state.creating) << "the next dialog of the thread is not the sheet's";
+  EXPECT_EQ(nullptr, state.creationHook);
+  EXPECT_EQ(nullptr, state.running);
+}
+
+TEST(SheetRun, HookIsGoneAsSoonAsTheWindowIsThere) {
+  TestSheet test;
+  test.Script(0, 120).onInit = [](TestPage&) {
+    EXPECT_EQ(nullptr, CurrentWindowThreadState()->creating);
+    EXPECT_EQ(nullptr, CurrentWindowThreadState()->creationHook);
+    return true;
+  };
+  test.Drive(PressCancel);
+  EXPECT_EQ(1, test.Count("0/120 init"));
+  EXPECT_EQ(nullptr, CurrentWindowThreadState()->running);
+}
+
+// --- The start -----------------------------------------------------------------------------------------------------
+
+std::vector<int> built;
+
+std::unique_ptr<CNemUIPage> BuildAndNote(SheetServices* sheet, const PageDescription& description, int settingsIndex) {
+  EXPECT_EQ(0, sheet->Properties().Used[1].GetLong()) << "the properties are there before the pages";
+  built.push_back(settingsIndex);
+  return MakePage<CNemUINoDocSettingsPage>(sheet, description, settingsIndex);
+}
+
+TEST(SheetRun, BuildingASheetMakesItsPagesAndNoWindow) {
+  built.clear();
+  const PageCatalogueRow rows[] = {
+      {{IDD_NO_DOC_SETTINGS_PAGE, 0, MSG_PAGE_ACTIONS, 102, 0, 0}, BuildAndNote, BuildAndNote},
+      {{IDD_NO_DOC_SETTINGS_PAGE, 0, MSG_PAGE_ACTIONS, 107, 0, 0}, BuildAndNote, nullptr}};
+  const CNemUISheet sheet(rows);
+  EXPECT_EQ((std::vector<int>{0, 0, 1}), built);
+  EXPECT_EQ(nullptr, sheet.Handle());
+  const TestSheet test;
+  EXPECT_EQ(std::vector<std::string>(), test.log) << "no page has done anything";
+}
+
+decltype(&DefSubclassProc) realDefaultHandling = nullptr;
+LRESULT answerToTheStart = 0;
+
+LRESULT WINAPI AnswerTheStart(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  const LRESULT answer = realDefaultHandling(window, message, wParam, lParam);
+  return message == WM_INITDIALOG ? answerToTheStart : answer;
+}
+
+class ListeningSheet final : public CNemUISheet {
+ public:
+  ListeningSheet() : CNemUISheet({}) {}
+  BOOL answer = -1;
+
+ private:
+  BOOL OnInitDialog(WindowMessage& message) override { return answer = CNemUISheet::OnInitDialog(message); }
+};
+
+TEST(SheetRun, AnswerToTheStartIsThePlatforms) {
+  realDefaultHandling = RealFunction("comctl32.dll", "DefSubclassProc", &DefSubclassProc);
+  ASSERT_LT(0, PatchImport("comctl32.dll", "DefSubclassProc", reinterpret_cast<void*>(&AnswerTheStart)));
+  for (const BOOL answer : {TRUE, FALSE}) {
+    answerToTheStart = answer;
+    ListeningSheet sheet;
+    RunSheet([&sheet] { return sheet.Run(nullptr); }, PressCancel);
+    EXPECT_EQ(answer, sheet.answer);
+  }
+  RestoreImport("comctl32.dll", "DefSubclassProc");
+}
+
+// --- No current page -----------------------------------------------------------------------------------------------
+
+TEST(SheetRun, SelectionOutsideTheTabsMeansNoPage) {
+  HelpSpy spy;
+  TestSheet test;
+  test.OfferDocument().Drive([&](Sheet& sheet) -> SheetTask {
+    const CTabCtrl tabs = test.Object().GetTabControl();
+    tabs.Select(-1);
+    CO_ASSERT_EQ(-1, tabs.Selection());
+    EXPECT_EQ(nullptr, test.Object().CurrentHost());
+    EXPECT_EQ(nullptr, test.Object().FindPage(120));
+    EXPECT_FALSE(test.Object().ActivatePage(108));
+    sheet.PressHelp();
+    co_await sheet.Settled();
+    EXPECT_TRUE(spy.calls.empty()) << "the platform has no help of its own";
+    SendMessageW(sheet.Window(), PSM_SETCURSEL, 0, 0);
+    EXPECT_EQ(0, sheet.CurrentTab()) << "there is nobody to refuse";
+    EXPECT_EQ(0, test.Count("1/120 write"));
+    sheet.PressCancel();
+  });
+}
+
+TEST(SheetRun, HelpButtonAsksTheCurrentPage) {
+  HelpSpy spy;
+  TestSheet test;
+  test.Drive([&](Sheet& sheet) -> SheetTask {
+    sheet.PressHelp();
+    co_await sheet.Settled();
+    EXPECT_EQ(1, test.Count("0/120 help 9"));
+    sheet.PressCancel();
+  });
 }
 
 // --- Services ------------------------------------------------------------------------------------------------------
