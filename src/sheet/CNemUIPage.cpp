@@ -21,17 +21,27 @@ void TellInvalidData(HWND owner, const wchar_t* title) {
   MsgBoxById(owner, title, MSG_INVALID_DATA, MB_OK | MB_ICONERROR);
 }
 
-// The net under both exchanges: what is thrown in one is traced and told the user, and the exchange has failed.
-template <class Exchange>
-bool RunInNet(const char* place, Exchange exchange) {
+// Runs a step and says whether it came to its end. What is thrown ends here.
+template <class Step>
+bool RunCatching(Step step) noexcept {
   try {
-    return exchange();
+    step();
+    return true;
   } catch (NEMPrintMemoryException* exception) {
     delete exception;
   } catch (...) {
   }
-  TraceError("%hs: caught throwed exception", place);
-  TellInvalidData(::GetActiveWindow(), nullptr);
+  return false;
+}
+
+// The net under both exchanges: what is thrown in one is traced and told the user, and the exchange has failed. With
+// the memory exhausted the telling may fail as well; the net holds all the same.
+template <class Exchange>
+bool RunInNet(const char* place, Exchange exchange) noexcept {
+  bool exchanged = false;
+  if (RunCatching([&] { exchanged = exchange(); })) return exchanged;
+  RunCatching([&] { TraceError("%hs: caught throwed exception", place); });
+  RunCatching([&] { TellInvalidData(::GetActiveWindow(), nullptr); });
   return false;
 }
 

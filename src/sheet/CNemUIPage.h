@@ -42,6 +42,9 @@ class CNemUIPage : public CPropertyPage {
   bool IsLoaded() const { return loaded_; }
   bool IsInitialized() const { return initialized_; }
 
+  // The page serves the sister product, which makes TIFF files. Nothing in this library sets it.
+  bool tiffVariant = false;
+
  protected:
   BOOL OnInitDialog() override;
   bool OnWindowMessage(WindowMessage& message) override;

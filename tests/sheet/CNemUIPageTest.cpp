@@ -3,6 +3,7 @@
 
 #include <stdexcept>
 
+#include "driver/ImportPatch.h"
 #include "DriverLIB/NEMPrintMemoryException.h"
 #include "MessageIds.h"
 #include "resources/ResourceIds.h"
@@ -36,14 +37,17 @@ class BarePage : public CNemUIPage {
   std::wstring Caption() const { return TabCaption(); }
 };
 
+using Lines = std::vector<std::wstring>;
+
+// What is traced of an exception, before what the box traces.
+void ExpectException(TracedThread& trace) {
+  const Lines lines = trace.Lines();
+  ASSERT_FALSE(lines.empty());
+  EXPECT_EQ(L"NemUIPage::UpdateDataSuper: caught throwed exception", lines.front());
+}
+
 class NemUIPage : public testing::Test {
  protected:
-  bool HasLine(const std::vector<std::wstring>& lines, const wchar_t* text) {
-    for (const std::wstring& line : lines)
-      if (line.find(text) != std::wstring::npos) return true;
-    return false;
-  }
-
   LanguageScope english_{kEnglish};
   PageParent parent_;
 };
@@ -60,6 +64,7 @@ TEST_F(NemUIPage, IsWhatItsDescriptionSays) {
   EXPECT_FALSE(page.IsLoaded());
   EXPECT_FALSE(page.IsInitialized());
   EXPECT_FALSE(page.IsWindow());
+  EXPECT_FALSE(page.tiffVariant);
 }
 
 TEST_F(NemUIPage, TitleIsThatOfTheLanguageInWhichItIsMade) {
@@ -102,8 +107,20 @@ TEST_F(NemUIPage, NoExceptionLeavesUpdateDataSuper) {
     EXPECT_FALSE(page.UpdateDataSuper(true));
     ASSERT_EQ(1u, popups.Boxes().size());
     EXPECT_EQ(parent_.Window(), popups.Boxes().front().owner) << "the active window";
-    EXPECT_TRUE(HasLine(trace.Lines(), L"NemUIPage::UpdateDataSuper: caught throwed exception"));
+    ExpectException(trace);
   }
+}
+
+int WINAPI NoMemoryForTheBox(HWND, LPCWSTR, LPCWSTR, UINT) { throw std::bad_alloc(); }
+
+TEST_F(NemUIPage, NorDoesOneThatTheTellingThrows) {
+  TracedThread trace;
+  BarePage page;
+  page.exchange = [](CDataExchange&) -> bool { throw std::bad_alloc(); };
+  PatchImport("user32.dll", "MessageBoxW", reinterpret_cast<void*>(&NoMemoryForTheBox));
+  EXPECT_FALSE(page.UpdateDataSuper(true));
+  RestoreImport("user32.dll", "MessageBoxW");
+  ExpectException(trace);
 }
 
 // --- The start -----------------------------------------------------------------------------------------------------
@@ -128,7 +145,8 @@ TEST_F(NemUIPage, StartWhoseExchangeFailsEndsThePage) {
   EXPECT_FALSE(page.Create(parent_.Window()));
   EXPECT_FALSE(page.IsWindow());
   EXPECT_FALSE(page.IsInitialized());
-  EXPECT_TRUE(HasLine(trace.Lines(), L"Warning: UpdateData failed during dialog init."));
+  EXPECT_EQ((Lines{L"Warning: UpdateData failed during dialog init.", L""}), trace.Lines());
+  EXPECT_EQ(-1, page.DoModal(parent_.Window())) << "the result of its dialog";
 }
 
 TEST_F(NemUIPage, StartWhoseExchangeThrowsIsToldAndEndsThePage) {
@@ -153,6 +171,24 @@ TEST_F(NemUIPage, WindowHasTheDialogsNumberAsItsHelpId) {
   EXPECT_EQ(DWORD{IDD_NO_DOC_SETTINGS_PAGE}, GetWindowContextHelpId(page.Handle()));
 }
 
+HWND texturedDialog = nullptr;
+DWORD textureFlags = 0;
+
+HRESULT WINAPI NoteTexture(HWND dialog, DWORD flags) {
+  texturedDialog = dialog;
+  textureFlags = flags;
+  return S_OK;
+}
+
+TEST_F(NemUIPage, StandsOnTheGroundOfItsTab) {
+  PatchImport("uxtheme.dll", "EnableThemeDialogTexture", reinterpret_cast<void*>(&NoteTexture));
+  BarePage page;
+  EXPECT_TRUE(page.Create(parent_.Window()));
+  RestoreImport("uxtheme.dll", "EnableThemeDialogTexture");
+  EXPECT_EQ(page.Handle(), texturedDialog);
+  EXPECT_EQ(DWORD{ETDT_ENABLETAB}, textureFlags);
+}
+
 // --- Showing, leaving, applying ------------------------------------------------------------------------------------
 
 TEST_F(NemUIPage, EveryShowingButTheFirstFillsTheControls) {
@@ -174,10 +210,10 @@ TEST_F(NemUIPage, LeavingSavesTheControlsAndMayFail) {
   BarePage page;
   ASSERT_TRUE(page.Create(parent_.Window()));
   EXPECT_TRUE(page.OnKillActive());
-  EXPECT_FALSE(HasLine(trace.Lines(), L"failed"));
+  EXPECT_EQ(Lines{}, trace.Lines());
   page.controls = [](CDataExchange& data) { data.Fail(0); };
   EXPECT_FALSE(page.OnKillActive());
-  EXPECT_TRUE(HasLine(trace.Lines(), L"UpdateData failed during page deactivation"));
+  EXPECT_EQ((Lines{L"UpdateData failed during page deactivation", L""}), trace.Lines());
 }
 
 TEST_F(NemUIPage, ApplySavesTheControlsAndThenTheProperties) {
@@ -227,6 +263,7 @@ class GlueLogic : public CNemUIPage {
   uint8_t readOnly = 0;
   int32_t fixed = 0;
   int resolutionOverride = -1;
+  CUString authorOverride;
 };
 
 constexpr PropertyBinding<GlueLogic> kBindings[] = {
@@ -235,6 +272,7 @@ constexpr PropertyBinding<GlueLogic> kBindings[] = {
     BindReadOnly<&GlueLogic::readOnly, &CDialogProperties::Used>(),
     BindInSet<&GlueLogic::fixed, &CDialogProperties::GraphicResolution, 0>(),
     BindOverride<&GlueLogic::resolutionOverride, &AdminSettings::GraphicResolution_Override>(),
+    BindOverride<&GlueLogic::authorOverride, &AdminSettings::Author_Override>(),
 };
 
 class GluePage : public CNemUISettingsPage<GlueLogic> {
@@ -290,6 +328,7 @@ TEST_F(NemUIPage, GlueReadsOnceAndWritesTheSameEachTime) {
     properties.GraphicResolution[set].SetLong(600 + set);
   }
   properties.adminSettings.GraphicResolution_Override = 72;
+  properties.adminSettings.Author_Override = L"Company";
   GluePage page(&sheet, kDescription, 1);
   EXPECT_TRUE(page.UpdateDataSuper(false));
   EXPECT_EQ(101, page.scale);
@@ -297,6 +336,7 @@ TEST_F(NemUIPage, GlueReadsOnceAndWritesTheSameEachTime) {
   EXPECT_EQ(1, page.readOnly);
   EXPECT_EQ(600, page.fixed) << "the set that the row fixes";
   EXPECT_EQ(72, page.resolutionOverride);
+  EXPECT_EQ(L"Company", page.authorOverride);
   EXPECT_TRUE(page.IsLoaded());
   properties.Scale[1].SetLong(5);
   EXPECT_TRUE(page.UpdateDataSuper(false));
@@ -307,6 +347,7 @@ TEST_F(NemUIPage, GlueReadsOnceAndWritesTheSameEachTime) {
   page.readOnly = 9;
   page.fixed = 300;
   page.resolutionOverride = 9;
+  page.authorOverride = L"User";
   for (int times = 0; times < 3; ++times) {
     EXPECT_TRUE(page.UpdateDataSuper(true));
     EXPECT_EQ(50, properties.Scale[1].GetLong());
@@ -314,6 +355,7 @@ TEST_F(NemUIPage, GlueReadsOnceAndWritesTheSameEachTime) {
     EXPECT_EQ(1, properties.Used[1].GetLong()) << "read only";
     EXPECT_EQ(300, properties.GraphicResolution[0].GetLong());
     EXPECT_EQ(72, properties.adminSettings.GraphicResolution_Override);
+    EXPECT_EQ(L"Company", properties.adminSettings.Author_Override);
     EXPECT_EQ(100, properties.Scale[0].GetLong()) << "the other set";
     EXPECT_EQ(601, properties.GraphicResolution[1].GetLong());
   }
