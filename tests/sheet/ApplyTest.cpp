@@ -97,6 +97,35 @@ TEST_F(Apply, FailureOfOnePageDoesNotStopTheOthers) {
   });
 }
 
+TEST_F(Apply, EachPageThatFailsIsToldOnce) {
+  for (const int id : {120, 108}) test_.Script(0, id).onWrite = [](TestPage&) { return false; };
+  test_.Drive([&](Sheet& sheet) -> SheetTask {
+    sheet.SelectPage(108);
+    sheet.ExpectBox(InvalidDataBox());
+    sheet.ExpectBox(InvalidDataBox());
+    sheet.PressOk();
+    co_await sheet.Settled();
+    EXPECT_EQ(2u, sheet.Boxes().size());
+    sheet.PressCancel();
+  });
+}
+
+// 2 tells the platform of invalid data and leaves the page that is shown; 1 would show the one that failed.
+TEST_F(Apply, AnswerToThePlatformIsTwoWhenItFails) {
+  bool fails = true;
+  test_.Script(0, 120).onWrite = [&fails](TestPage&) { return !fails; };
+  test_.Drive([&](Sheet& sheet) -> SheetTask {
+    PSHNOTIFY notify{{sheet.Window(), 0, static_cast<UINT>(PSN_APPLY)}, 0};
+    const auto apply = [&] { return SendMessageW(sheet.HostPage(), WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notify)); };
+    sheet.ExpectBox(InvalidDataBox());
+    EXPECT_EQ(2, apply());
+    fails = false;
+    EXPECT_EQ(0, apply());
+    sheet.PressCancel();
+    co_return;
+  });
+}
+
 TEST_F(Apply, PageThatHasSpokenSilencesTheSheet) {
   test_.Script(0, 120).onWrite = [](TestPage& page) {
     MsgBox(page.Handle(), L"Page", L"It is wrong.", MB_OK | MB_ICONWARNING);

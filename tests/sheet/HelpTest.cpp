@@ -156,6 +156,24 @@ TEST_F(Help, BoxHasNoOwnerWhenTheWindowIsGone) {
   EXPECT_EQ(nullptr, popups.Boxes().back().owner);
 }
 
+// The compiled file lies beside the program.
+std::wstring RealFile() {
+  wchar_t path[MAX_PATH];
+  GetModuleFileNameW(nullptr, path, MAX_PATH);
+  std::wstring file = path;
+  return file.substr(0, file.find_last_of(L'\\') + 1) + L"help.chm";
+}
+
+HMODULE WINAPI LoadNothing(LPCWSTR, HANDLE, DWORD) { return nullptr; }
+
+TEST_F(Help, SystemWithoutTheHelpLibraryCountsAsAMissingFile) {
+  Popups popups;
+  popups.ExpectBox(MissingFileBox(RealFile()));
+  PatchImport("kernel32.dll", "LoadLibraryExW", reinterpret_cast<void*>(&LoadNothing));
+  EXPECT_FALSE(Show(kLink, RealFile().c_str()));
+  RestoreImport("kernel32.dll", "LoadLibraryExW");
+}
+
 TEST_F(Help, BoxSpeaksTheUsersLanguage) {
   HelpSpy spy;
   spy.succeeds = false;
@@ -169,14 +187,6 @@ TEST_F(Help, BoxSpeaksTheUsersLanguage) {
     popups.ExpectBox(box);
     EXPECT_FALSE(Show(kLink));
   }
-}
-
-// The compiled file lies beside the program.
-std::wstring RealFile() {
-  wchar_t path[MAX_PATH];
-  GetModuleFileNameW(nullptr, path, MAX_PATH);
-  std::wstring file = path;
-  return file.substr(0, file.find_last_of(L'\\') + 1) + L"help.chm";
 }
 
 TEST_F(Help, RealFileOpens) {
@@ -304,9 +314,9 @@ TEST_F(SheetHelp, LinkOfEachPlaceholderOpensTheDifferenceOfTheTabs) {
 
 TEST_F(SheetHelp, ControlWithoutATopicOpensThatOfThePage) {
   OnPage(108, [this](Sheet& sheet) -> SheetTask {
-    EXPECT_EQ(1, SendMessageW(sheet.Page(), kShowHelpForControlMessage, IDC_GRAPHIC_COLOR_DEPTH, 0));
+    EXPECT_EQ(1, SendMessageW(sheet.Page(), 0x465, IDC_GRAPHIC_COLOR_DEPTH, 0));
     EXPECT_EQ(Path(L"::/Graphical_Optimization.htm"), spy_.TakePath());
-    EXPECT_EQ(1, SendMessageW(sheet.Page(), kShowHelpForControlMessage, 4711, 0)) << "nor one that is missing";
+    EXPECT_EQ(1, SendMessageW(sheet.Page(), 0x465, 4711, 0)) << "nor one that is missing";
     EXPECT_EQ(Path(L"::/Graphical_Optimization.htm"), spy_.TakePath());
     co_return;
   });

@@ -102,6 +102,33 @@ TEST_P(TabChange, EveryCreatedPageOfTheTabIsWritten) {
   });
 }
 
+// A loaded page reads nothing in it, but each is asked: what it does about it is its own affair.
+TEST_P(TabChange, EveryCreatedPageOfTheNewTabIsAskedToReadAndMayFail) {
+  std::vector<int> asked;
+  bool fails = false;  // not at the first reading: the page would not come up
+  for (const int id : {100, 108, 120})
+    test_.Script(0, id).onRead = [&asked, &fails](TestPage& page) {
+      asked.push_back(page.GetPageId());
+      return !fails;
+    };
+  test_.Drive([&](Sheet& sheet) -> SheetTask {
+    GetParam().go(sheet);
+    co_await sheet.Settled();
+    sheet.SelectPage(108);
+    GetParam().go(sheet);
+    co_await sheet.Settled();
+    EXPECT_EQ(1, sheet.CurrentTab());
+    asked.clear();
+    fails = true;
+    GetParam().go(sheet);
+    co_await sheet.Settled();
+    EXPECT_EQ(0, sheet.CurrentTab()) << "the change has happened";
+    EXPECT_EQ((std::vector<int>{120, 108}), asked);
+    EXPECT_EQ(108, test_.CurrentId());
+    sheet.PressCancel();
+  });
+}
+
 TEST_P(TabRefusal, PageThatRefusesKeepsItsTab) {
   test_.Script(1, 120).onSave = [this](TestPage& page) { return page.value != 13; };
   test_.Drive([&](Sheet& sheet) -> SheetTask {
