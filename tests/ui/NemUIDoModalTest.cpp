@@ -11,6 +11,7 @@
 #include "DriverLIB/WindowThreadState.h"
 #include "NemPdfUI.h"
 #include "sheet/CNemUISheet.h"
+#include "support/FailingMalloc.h"
 #include "ui/PropertyAccess.h"
 
 namespace {
@@ -25,14 +26,30 @@ INT_PTR sheetResult = 0;
 std::function<void(CDialogProperties&)> whileRunning;  // with the sheet's working copy
 int runs = 0;
 HWND ownerSeen = nullptr;
+std::wstring captionSeen;
+UINT pagesSeen = 0;
 
 INT_PTR WINAPI SheetStandIn(const PROPSHEETHEADERW* header) {
   ++runs;
   ownerSeen = header->hwndParent;
+  captionSeen = header->pszCaption;
+  pagesSeen = header->nPages;
   auto* sheet = static_cast<CPropertySheet*>(CurrentWindowThreadState()->running);
   if (whileRunning) whileRunning(static_cast<CNemUISheet*>(sheet)->Properties());
   for (UINT i = 0; i < header->nPages; ++i) DestroyPropertySheetPage(header->phpage[i]);
   return sheetResult;
+}
+
+// Gives the first page and no second one, and counts what is given back.
+int pagesWanted = 0, pagesDestroyed = 0;
+
+HPROPSHEETPAGE WINAPI OnlyOnePage(const PROPSHEETPAGEW*) {
+  return ++pagesWanted == 1 ? reinterpret_cast<HPROPSHEETPAGE>(INT_PTR{0x50414745}) : nullptr;
+}
+
+BOOL WINAPI CountDestroyed(HPROPSHEETPAGE) {
+  ++pagesDestroyed;
+  return TRUE;
 }
 
 BOOL WINAPI OnlyTheHighWindow(HWND window) { return window == kHighWindow; }
@@ -120,6 +137,64 @@ TEST_F(NemUIDoModal, AllThreeSetsComeBackWithEveryResultButZero) {
       ExpectFilled(Dialog(), 17, L"before");
     EXPECT_EQ(kUnsetNumber, Dialog().adminSettings.PdfVersion_Override);
   }
+}
+
+TEST_F(NemUIDoModal, TheAdministratorsRecordDoesNotComeAlong) {
+  Dialog().adminSettings.PdfVersion_Override = 15;
+  whileRunning = [](CDialogProperties& working) { EXPECT_EQ(kUnsetNumber, working.adminSettings.PdfVersion_Override); };
+  NemPdfUIDoModal(handle_);
+  EXPECT_EQ(1, runs);
+}
+
+TEST_F(NemUIDoModal, TheTitleIsTheCaptionAndUsedOfSetOneTheSecondPage) {
+  NemPdfUISetPropertyW(handle_, NEMPDFUI_GENERAL, L"SheetTitle", L"Title of the host");
+  for (const int32_t used : {0, 1}) {
+    NemPdfUISetPropertyW(handle_, 1, L"Used", &used);
+    NemPdfUIDoModal(handle_);
+    EXPECT_EQ(L"Title of the host", captionSeen);
+    EXPECT_EQ(1u + static_cast<UINT>(used), pagesSeen);
+  }
+}
+
+TEST_F(NemUIDoModal, WithoutOneOfItsPagesTheSheetDoesNotRun) {
+  const int32_t used = 1;
+  NemPdfUISetPropertyW(handle_, 1, L"Used", &used);
+  pagesWanted = pagesDestroyed = 0;
+  sheetResult = 1;
+  PatchImport(kCommonControls, "CreatePropertySheetPageW", reinterpret_cast<void*>(OnlyOnePage));
+  PatchImport(kCommonControls, "DestroyPropertySheetPage", reinterpret_cast<void*>(CountDestroyed));
+  EXPECT_EQ(0, NemPdfUIDoModal(handle_));
+  RestoreImport(kCommonControls, "DestroyPropertySheetPage");
+  RestoreImport(kCommonControls, "CreatePropertySheetPageW");
+  EXPECT_EQ(0, runs);
+  EXPECT_EQ(2, pagesWanted);
+  EXPECT_EQ(1, pagesDestroyed);
+}
+
+TEST_F(NemUIDoModal, WhatIsThrownWithTheMemoryExhaustedPassesOnAndTheObjectIsFreeAgain) {
+  for (const int granted : {0, 1, 20, 400}) {
+    bool thrown = false;
+    {
+      const FailingMalloc exhausted(granted);
+      try {
+        NemPdfUIDoModal(handle_);
+      } catch (const std::bad_alloc&) {
+        thrown = true;
+      }
+    }
+    EXPECT_TRUE(thrown) << granted;
+    EXPECT_FALSE(Dialog().running) << granted;
+  }
+  EXPECT_EQ(0, runs);
+  EXPECT_EQ(sheetResult, NemPdfUIDoModal(handle_));
+  EXPECT_EQ(1, runs);
+}
+
+TEST_F(NemUIDoModal, TheThreadHasNoHookWhenNoWindowCame) {
+  NemPdfUIDoModal(handle_);
+  EXPECT_EQ(nullptr, CurrentWindowThreadState()->creating);
+  EXPECT_EQ(nullptr, CurrentWindowThreadState()->creationHook);
+  EXPECT_EQ(nullptr, CurrentWindowThreadState()->running);
 }
 
 TEST_F(NemUIDoModal, WhileItRunsTheObjectIsNeitherShownAgainNorFreed) {

@@ -12,6 +12,7 @@
 #include "DriverLIB/CError.h"
 #include "DriverLIB/ModuleState.h"
 #include "NemPdfUI.h"
+#include "support/FailingMalloc.h"
 #include "support/FailingNew.h"
 #include "support/RegistryValue.h"
 #include "support/TracedThread.h"
@@ -107,6 +108,31 @@ TEST_F(NemUI, WithoutMemoryForTheObjectANullHandleIsASuccess) {
   const FailingNew exhausted;
   EXPECT_EQ(1, NemPdfUICreateDialog(&created));
   EXPECT_EQ(nullptr, created);
+}
+
+// The first grant is the object's own memory; what its constructor asks for is refused at each place in turn.
+TEST_F(NemUI, WithoutMemoryInTheConstructorTheExceptionPassesOnAndTheHandleIsNull) {
+  int failures = 0;
+  for (int granted = 1; failures == granted - 1; ++granted) {
+    auto created = reinterpret_cast<NemPdfUIHandle>(uintptr_t{0x10});
+    int result = 0, left = 0;
+    {
+      const FailingMalloc exhausted(granted);
+      try {
+        result = NemPdfUICreateDialog(&created);
+      } catch (const std::bad_alloc&) {
+        ++failures;
+      }
+      left = exhausted.BlocksLeft();
+    }
+    if (result == 1) {
+      EXPECT_EQ(1, NemPdfUIFreeDialog(&created));
+      continue;
+    }
+    EXPECT_EQ(nullptr, created) << granted;
+    EXPECT_EQ(0, left) << granted << ": what was granted is given back";
+  }
+  EXPECT_LT(250, failures) << "every property has asked for memory";
 }
 
 TEST_F(NemUI, VersionWithoutAPlaceLeavesItsErrorPending) {
