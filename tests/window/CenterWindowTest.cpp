@@ -5,6 +5,7 @@
 
 #include <ostream>
 
+#include "driver/ImportPatch.h"
 #include "window/Placement.h"
 
 void PrintTo(const IntPoint& point, std::ostream* stream) { *stream << '(' << point.x << ", " << point.y << ')'; }
@@ -104,6 +105,37 @@ TEST_F(CenterWindowTest, DialogLargerThanTheScreenBeginsAtItsEdge) {
   CenterWindow(dialog);
   EXPECT_EQ((IntPoint{area.left, area.top}), PlaceOf(dialog));
   EXPECT_GT(dialog.WindowRect().right, area.right);
+}
+
+// A second monitor, which the reference stands on.
+const HMONITOR kSecondMonitor = reinterpret_cast<HMONITOR>(INT_PTR{0x4D4F4E});
+constexpr RECT kSecondWorkArea{420, 340, 1020, 940};
+decltype(&GetMonitorInfoW) realMonitorInfo = nullptr;
+HWND askedFor = nullptr;
+
+HMONITOR WINAPI SaySecondMonitor(HWND window, DWORD flags) {
+  askedFor = window;
+  return flags == MONITOR_DEFAULTTONEAREST ? kSecondMonitor : nullptr;
+}
+
+BOOL WINAPI KnowSecondMonitor(HMONITOR monitor, MONITORINFO* info) {
+  if (monitor != kSecondMonitor) return realMonitorInfo(monitor, info);
+  info->rcWork = kSecondWorkArea;
+  return TRUE;
+}
+
+TEST_F(CenterWindowTest, MonitorNearestToTheReferenceKeepsTheDialog) {
+  const CWnd dialog = MakeDialog(owner_), alone = MakeDialog(nullptr);
+  realMonitorInfo = RealFunction("user32.dll", "GetMonitorInfoW", &GetMonitorInfoW);
+  PatchImport("user32.dll", "GetMonitorInfoW", reinterpret_cast<void*>(&KnowSecondMonitor));
+  PatchImport("user32.dll", "MonitorFromWindow", reinterpret_cast<void*>(&SaySecondMonitor));
+  CenterWindow(dialog);
+  CenterWindow(alone);
+  RestoreImport("user32.dll", "MonitorFromWindow");
+  RestoreImport("user32.dll", "GetMonitorInfoW");
+  EXPECT_EQ(owner_, askedFor);
+  EXPECT_EQ((IntPoint{kSecondWorkArea.left, kSecondWorkArea.top}), PlaceOf(dialog));
+  EXPECT_EQ(Centred(WorkArea(), WorkArea()), PlaceOf(alone)) << "without a reference it is the primary one";
 }
 
 TEST_F(CenterWindowTest, SizeOrderAndActivationStay) {
