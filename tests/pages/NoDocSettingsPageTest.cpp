@@ -1,3 +1,4 @@
+// The placeholder of the document tab. What it shows and where its link leads is tested with the sheet's help.
 #include <gtest/gtest.h>
 
 #include "MessageIds.h"
@@ -23,6 +24,8 @@ TEST_F(NoDocSettingsPage, IsThePageItStandsForWithATemplateOfItsOwn) {
   EXPECT_EQ(103, page_.GetPageId());
   EXPECT_EQ(L"Saving", page_.Title());
   EXPECT_EQ(191u, page_.Description().templateId);
+  EXPECT_EQ(255u, page_.Description().imageId);
+  EXPECT_EQ(256u, page_.Description().maskId);
 }
 
 TEST_F(NoDocSettingsPage, ExchangeTellsWhetherThereIsASheet) {
