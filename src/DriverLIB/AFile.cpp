@@ -75,7 +75,7 @@ bool AFile::Read(void* buffer, uint32_t elementSize, uint32_t count, uint32_t& b
 
 bool AFile::ReadAll(void* buffer, uint32_t elementSize, uint32_t count) {
   uint32_t bytesRead = 0;
-  return DoRead(buffer, elementSize, count, bytesRead);
+  return Read(buffer, elementSize, count, bytesRead);
 }
 
 bool AFile::Write(const void* data, uint32_t elementSize, uint32_t count, uint32_t& bytesWritten) {

@@ -45,6 +45,7 @@ class AFile {
 
   // One read of at most `count` bytes.
   virtual bool Read(void* buffer, uint32_t elementSize, uint32_t count, uint32_t& bytesRead);
+  // The same for a caller who does not ask how many bytes came.
   virtual bool ReadAll(void* buffer, uint32_t elementSize, uint32_t count);
 
   // One write; all bytes or failure. `bytesWritten` is `count` or 0.

@@ -4,7 +4,9 @@
 
 #include <cstring>
 #include <string>
+#include <vector>
 
+#include "DriverLIB/MessageText.h"
 #include "support/TempFile.h"
 
 #ifdef _WIN32
@@ -42,7 +44,49 @@ class WatchedFile : public AFile {
     text.Format(format, name, L"E");
     report = text.Text();
     EXPECT_STRNE(L"", error);
+    EXPECT_EQ(errorText.Text(), error);
     return AFile::ReportFileError(format, name, error);
+  }
+};
+
+// Has steps that only note how they were called.
+class SteppingFile : public AFile {
+ public:
+  SteppingFile() : AFile(L"steps") {}
+
+  std::vector<std::string> steps;
+  bool refuseWrite = false;
+
+  // The steps since the last call.
+  std::vector<std::string> Taken() { return std::exchange(steps, {}); }
+
+ protected:
+  void Note(const std::string& step, int64_t first, int64_t second = 0, int64_t third = 0) {
+    steps.push_back(step + " " + std::to_string(first) + " " + std::to_string(second) + " " + std::to_string(third));
+  }
+  OpenFlags OpenFlagsRead() override { return {11, 12, 13}; }
+  OpenFlags OpenFlagsWrite() override { return {21, 22, 23}; }
+  OpenFlags OpenFlagsAppend() override { return {31, 32, 33}; }
+  bool DoOpen(const OpenFlags& flags) override {
+    Note("open", flags.access, flags.share, flags.disposition);
+    return true;
+  }
+  bool DoClose() override {
+    Note("close", 0);
+    return true;
+  }
+  bool DoRead(void*, uint32_t elementSize, uint32_t count, uint32_t& bytesRead) override {
+    Note("read", elementSize, count);
+    bytesRead = 0;
+    return true;
+  }
+  bool DoWrite(const void*, uint32_t elementSize, uint32_t count) override {
+    Note("write", elementSize, count);
+    return !refuseWrite;
+  }
+  bool DoSeek(int64_t offset, uint32_t origin) override {
+    Note("seek", offset, origin);
+    return true;
   }
 };
 
@@ -88,6 +132,69 @@ TEST_F(AFileTest, AnEmptyNameNeverReachesThePlatform) {
   EXPECT_EQ(0, nameless.opens);
 }
 
+TEST_F(AFileTest, EveryOperationGoesThroughItsStep) {
+  using Steps = std::vector<std::string>;
+  SteppingFile stepping;
+  char buffer[8];
+  uint32_t count = 0;
+  EXPECT_TRUE(stepping.OpenRead());
+  EXPECT_EQ(Steps{"open 11 12 13"}, stepping.Taken());
+  EXPECT_TRUE(stepping.OpenWrite());
+  EXPECT_EQ((Steps{"close 0 0 0", "open 21 22 23"}), stepping.Taken());
+  EXPECT_TRUE(stepping.OpenAppend());
+  EXPECT_EQ((Steps{"close 0 0 0", "open 31 32 33", "seek 0 2 0"}), stepping.Taken());
+  EXPECT_TRUE(stepping.Read(buffer, 2, 8, count));
+  EXPECT_TRUE(stepping.ReadAll(buffer, 4, 7));
+  EXPECT_EQ((Steps{"read 2 8 0", "read 4 7 0"}), stepping.Taken());
+  EXPECT_TRUE(stepping.Write(buffer, 2, 6, count));
+  EXPECT_EQ(Steps{"write 2 6 0"}, stepping.Taken());
+  EXPECT_TRUE(stepping.WriteLine(L"abc", true));
+  EXPECT_EQ((Steps{"write 2 6 0", "write 2 4 0"}), stepping.Taken());
+  EXPECT_TRUE(stepping.SeekSet(5));
+  EXPECT_TRUE(stepping.SeekEnd(-6));
+  EXPECT_TRUE(stepping.SeekCur(7));
+  EXPECT_EQ((Steps{"seek 5 0 0", "seek -6 2 0", "seek 7 1 0"}), stepping.Taken());
+  bool complete = false;
+  EXPECT_TRUE(stepping.ReadLine(buffer, 8, complete));
+  EXPECT_EQ(Steps{"read 1 7 0"}, stepping.Taken());
+  EXPECT_TRUE(stepping.Close());
+  EXPECT_EQ(Steps{"close 0 0 0"}, stepping.Taken());
+}
+
+TEST_F(AFileTest, LinesAndWholeReadsGoThroughTheOperationsBetween) {
+  class Between : public SteppingFile {
+   public:
+    bool Read(void*, uint32_t, uint32_t count, uint32_t&) override {
+      Note("Read", count);
+      return true;
+    }
+
+   protected:
+    bool WriteText(const wchar_t*, bool appendLineEnd) override {
+      Note("WriteText", appendLineEnd);
+      return true;
+    }
+    bool ReadRawLine(char* buffer, uint32_t size) override {
+      Note("ReadRawLine", size);
+      buffer[0] = 0;
+      return true;
+    }
+  } between;
+  char buffer[8];
+  bool complete = false;
+  EXPECT_TRUE(between.ReadAll(buffer, 1, 8));
+  EXPECT_TRUE(between.WriteLine(L"x", true));
+  EXPECT_TRUE(between.ReadLine(buffer, 8, complete));
+  EXPECT_EQ((std::vector<std::string>{"Read 8 0 0", "WriteText 1 0 0", "ReadRawLine 8 0 0"}), between.Taken());
+}
+
+TEST_F(AFileTest, NoLineEndFollowsATextThatCouldNotBeWritten) {
+  SteppingFile stepping;
+  stepping.refuseWrite = true;
+  EXPECT_FALSE(stepping.WriteLine(L"abc", true));
+  EXPECT_EQ(std::vector<std::string>{"write 2 6 0"}, stepping.Taken());
+}
+
 TEST_F(AFileTest, AccessShareAndDispositionOfEachOpen) {
   const OpenFlags read = file.FlagsRead(), write = file.FlagsWrite(), append = file.FlagsAppend();
   EXPECT_EQ(0x80000000u, read.access);
@@ -124,12 +231,29 @@ TEST_F(AFileTest, AFileThatCannotBeClosedIsNotOpenedAgain) {
 }
 
 TEST_F(AFileTest, AMissingFileKeepsTheSystemError) {
+  EXPECT_EQ(0u, file.lastError);
   EXPECT_FALSE(file.OpenRead());
   EXPECT_EQ(platform::kInvalidFile, file.Handle());
   EXPECT_EQ(FileMode::Closed, file.Mode());
   EXPECT_EQ(2u, file.lastError);  // file not found
-  EXPECT_FALSE(file.errorText.IsEmpty());
+  CUString expected;
+  GetSystemErrorText(expected, 2);
+  EXPECT_EQ(expected, file.errorText);
   EXPECT_EQ(L"Kann die Datei afile_test.tmp nicht \u00F6ffnen: E.", file.report);
+}
+
+TEST_F(AFileTest, TheLastFailureStaysUntilTheNext) {
+  EXPECT_FALSE(file.OpenRead());
+  const CUString text = file.errorText;
+  ASSERT_TRUE(file.OpenAppend());
+  EXPECT_TRUE(file.WriteLine(L"x", true));
+  EXPECT_TRUE(file.SeekSet(0));
+  EXPECT_TRUE(file.Close());
+  EXPECT_EQ(2u, file.lastError);
+  EXPECT_EQ(text, file.errorText);
+  uint32_t count = 0;
+  EXPECT_FALSE(file.Write("x", 1, 1, count));  // closed
+  EXPECT_EQ(6u, file.lastError);
 }
 
 TEST_F(AFileTest, TheDestructorClosesTheFile) {
@@ -202,6 +326,8 @@ TEST_F(AFileTest, SeekingAndClosingForgetTheEndOfFile) {
     return file.IsEof();
   };
   ASSERT_TRUE(reachEnd());
+  EXPECT_EQ(2, file.Tell());
+  EXPECT_TRUE(file.IsEof());  // asking for the position is no seek
   EXPECT_TRUE(file.SeekSet(0));
   EXPECT_FALSE(file.IsEof());
   ASSERT_TRUE(reachEnd());
@@ -281,12 +407,28 @@ TEST_F(AFileTest, GetSizeOpensAClosedFile) {
 
 TEST_F(AFileTest, GetSizeOfAMissingFileIsZero) { EXPECT_EQ(0u, file.GetSize()); }
 
+TEST_F(AFileTest, ASizeThatCannotBeToldIsReportedAndZero) {
+  OpenWith("12345");
+  file.BreakHandle();
+  EXPECT_EQ(0u, file.GetSize());
+  EXPECT_EQ(L"Kann die Datei afile_test.tmp nicht lesen: E.", file.report);
+}
+
 TEST_F(AFileTest, ReopenTakesOverAReadersPosition) {
   OpenWith("0123456789");
   file.SeekSet(6);
   AFile second(temp.Name());
   EXPECT_TRUE(second.Reopen(file));
   EXPECT_EQ(6, second.Tell());
+}
+
+TEST_F(AFileTest, ReopenIsTrueEvenWhenThisFileCannotBeOpened) {
+  OpenWith("0123456789");
+  AFile nameless, missing(L"no_such_file.tmp");
+  EXPECT_TRUE(nameless.Reopen(file));
+  EXPECT_TRUE(missing.Reopen(file));
+  EXPECT_FALSE(nameless.IsOpen());
+  EXPECT_FALSE(missing.IsOpen());
 }
 
 TEST_F(AFileTest, ReopenLeavesOtherModesAlone) {
@@ -385,6 +527,7 @@ TEST_F(AFileTest, AFailedReadEndsReadLine) {
   bool complete = true;
   EXPECT_FALSE(file.ReadLine(buffer, sizeof buffer, complete));
   EXPECT_FALSE(complete);
+  EXPECT_EQ('\xFF', buffer[0]);  // made a terminator at the end of the file only
 }
 
 TEST_F(AFileTest, ReadRawLineOfSizeZeroIsTrueAtOnce) { EXPECT_TRUE(file.RawLine(nullptr, 0)); }
@@ -404,7 +547,7 @@ TEST_F(AFileTest, SlashesAreTriedAsBackslashesTheSecondTime) {
   // With this prefix the platform itself takes a slash for a part of the name.
   std::wstring path(MAX_PATH, L'\0');
   path.resize(GetFullPathNameW(temp.Name(), MAX_PATH, path.data(), nullptr));
-  path[path.rfind(L'\\')] = L'/';
+  for (int i = 0; i < 2; ++i) path[path.rfind(L'\\')] = L'/';
   path.insert(0, L"\\\\?\\");
   ASSERT_EQ(platform::kInvalidFile,
             platform::OpenFile(path.c_str(), platform::kAccessRead, platform::kShareRead, platform::kOpenExisting));

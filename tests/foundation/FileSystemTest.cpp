@@ -1,0 +1,49 @@
+// What the file class makes of answers that a real disk hardly ever gives.
+#include <windows.h>
+
+#include <gtest/gtest.h>
+
+#include "driver/ImportPatch.h"
+#include "DriverLIB/AFile.h"
+#include "support/TempFile.h"
+
+namespace {
+
+constexpr char kKernel[] = "kernel32.dll";
+
+// A disk that takes one byte less, without calling that an error.
+BOOL WINAPI ShortWrite(HANDLE, const void*, DWORD count, DWORD* written, OVERLAPPED*) {
+  *written = count - 1;
+  return TRUE;
+}
+
+BOOL WINAPI HugeSize(HANDLE, LARGE_INTEGER* size) {
+  size->QuadPart = (5LL << 32) + 1;
+  return TRUE;
+}
+
+}  // namespace
+
+TEST(FileSystem, AShortWriteIsAFailure) {
+  TempFile temp("file_system_test.tmp");
+  AFile file(temp.Name());
+  ASSERT_TRUE(file.OpenWrite());
+  ASSERT_GT(PatchImport(kKernel, "WriteFile", reinterpret_cast<void*>(ShortWrite)), 0);
+  uint32_t written = 7;
+  const bool done = file.Write("abc", 1, 3, written);
+  const bool lineDone = file.WriteLine(L"abc", true);
+  RestoreImport(kKernel, "WriteFile");
+  EXPECT_FALSE(done);
+  EXPECT_EQ(0u, written);
+  EXPECT_FALSE(lineDone);
+}
+
+TEST(FileSystem, ASizeHas64Bits) {
+  TempFile temp("file_system_test.tmp");
+  temp.Put("abc");
+  AFile file(temp.Name());
+  ASSERT_GT(PatchImport(kKernel, "GetFileSizeEx", reinterpret_cast<void*>(HugeSize)), 0);
+  const uint64_t size = file.GetSize();
+  RestoreImport(kKernel, "GetFileSizeEx");
+  EXPECT_EQ((uint64_t{5} << 32) + 1, size);
+}
