@@ -91,8 +91,10 @@ bool CRegistryEntry::Open(bool forWrite, REGSAM access) {
   const LSTATUS result = forWrite ? RegCreateKeyExW(EffectiveRoot(), key.Text(), 0, nullptr, REG_OPTION_NON_VOLATILE,
                                                     access, nullptr, &openKey_, nullptr)
                                   : RegOpenKeyExW(EffectiveRoot(), key.Text(), 0, access, &openKey_);
-  openForWrite_ = forWrite;
-  if (result == ERROR_SUCCESS) return openKey_ != nullptr;
+  if (result == ERROR_SUCCESS) {
+    openForWrite_ = forWrite;
+    return openKey_ != nullptr;
+  }
 
   openKey_ = nullptr;
   CUString error;
@@ -236,27 +238,22 @@ uint32_t CRegistryEntry::GetValueCount() {
 }
 
 void CRegistryEntry::GetValueDataAt(CUString& text, int index) {
-  const CUString savedName(valueName);
-  const CUString savedData(data);
+  // Moved out and in again: a text without a buffer comes back without one.
+  CUString savedName(valueName);
+  CUString savedData(std::move(data));
   text.Assign(nullptr);
-  if (KeyExists()) {
-    data = CUString();
-    text.Assign(ReadString(index));
-  }
-  valueName = savedName;
-  data = savedData;
+  if (KeyExists()) text.Assign(ReadString(index));
+  valueName = std::move(savedName);
+  data = std::move(savedData);
 }
 
 void CRegistryEntry::GetValueNameAt(CUString& text, int index) {
-  const CUString savedName(valueName);
-  const CUString savedData(data);
+  CUString savedName(std::move(valueName));
+  CUString savedData(data);
   text.Assign(nullptr);
-  if (KeyExists()) {
-    valueName = CUString();
-    text.Assign(ReadName(index));
-  }
-  valueName = savedName;
-  data = savedData;
+  if (KeyExists()) text.Assign(ReadName(index));
+  valueName = std::move(savedName);
+  data = std::move(savedData);
 }
 
 void CRegistryEntry::ClearStatus() {

@@ -37,6 +37,15 @@ std::ostream& operator<<(std::ostream& out, const Raw& raw) {
 
 std::vector<Raw> written;
 
+LSTATUS WINAPI RefuseSetValue(HKEY, const wchar_t*, DWORD, DWORD, const BYTE*, DWORD) { return ERROR_ACCESS_DENIED; }
+LSTATUS WINAPI RefuseEnumValue(HKEY, DWORD, wchar_t*, DWORD*, DWORD*, DWORD*, BYTE*, DWORD*) {
+  return ERROR_ACCESS_DENIED;
+}
+LSTATUS WINAPI RefuseQueryInfo(HKEY, wchar_t*, DWORD*, DWORD*, DWORD*, DWORD*, DWORD*, DWORD*, DWORD*, DWORD*, DWORD*,
+                               FILETIME*) {
+  return ERROR_ACCESS_DENIED;
+}
+
 LSTATUS WINAPI NoteSetValue(HKEY, const wchar_t*, DWORD, DWORD type, const BYTE* data, DWORD size) {
   written.push_back({type, {reinterpret_cast<const char*>(data), size}});
   return ERROR_SUCCESS;
@@ -81,6 +90,16 @@ std::string Bytes16(std::wstring_view text) {
 }
 
 }  // namespace
+
+TEST_F(CRegistryEntryTest, ConstructionOpensNothing) {
+  EXPECT_EQ(nullptr, entry.OpenedKey());
+  EXPECT_FALSE(entry.OpenedForWrite());
+  EXPECT_EQ(0u, entry.status);
+  EXPECT_STREQ(L"Success", entry.statusText.Text());
+  EXPECT_TRUE(entry.company.IsEmpty());
+  EXPECT_EQ(nullptr, entry.data.Buffer());
+  EXPECT_FALSE(KeyIsThere());
+}
 
 // --- Reading -----------------------------------------------------------------------------------------------------
 
@@ -228,6 +247,44 @@ TEST_F(CRegistryEntryTest, AnIndexInAMissingKeyGivesTheDefault) {
   EXPECT_EQ(2u, entry.status);
 }
 
+TEST_F(CRegistryEntryTest, AFailureAtAnIndexGivesTheDefaultAndTakesTheName) {
+  PutText(L"Only", L"x");
+  TracedThread thread;
+  ASSERT_GT(PatchImport("advapi32.dll", "RegEnumValueW", reinterpret_cast<void*>(RefuseEnumValue)), 0);
+  EXPECT_STREQ(L"the default", entry.ReadString(0));
+  RestoreImport("advapi32.dll", "RegEnumValueW");
+  EXPECT_EQ(nullptr, entry.valueName.Buffer());
+  EXPECT_EQ(5u, entry.status);
+  const std::wstring text = std::wstring(kKey) + L"\\ not found, using default the default: " + SystemText(5);
+  EXPECT_EQ(text, entry.statusText.Text());
+  EXPECT_EQ(Messages({L"CRegistryEntry::Read(): " + text}), thread.Lines());
+  EXPECT_EQ(nullptr, entry.OpenedKey());
+}
+
+TEST_F(CRegistryEntryTest, AKeyThatDoesNotTellItsValuesGivesTheDefault) {
+  PutText(L"Only", L"x");
+  ASSERT_GT(PatchImport("advapi32.dll", "RegQueryInfoKeyW", reinterpret_cast<void*>(RefuseQueryInfo)), 0);
+  EXPECT_STREQ(L"the default", entry.ReadString(0));
+  EXPECT_STREQ(L"Value", entry.valueName.Text());
+  EXPECT_EQ(5u, entry.status);
+  EXPECT_EQ(0u, entry.GetValueCount());
+  RestoreImport("advapi32.dll", "RegQueryInfoKeyW");
+}
+
+TEST_F(CRegistryEntryTest, NamesAndContentsAtAnIndexLeaveTextsThatWereNeverSetAlone) {
+  PutText(L"Only", L"content");
+  CRegistryEntry bare(kKey, nullptr);
+  CUString text;
+  for (int index : {0, 1}) {
+    bare.GetValueNameAt(text, index);
+    EXPECT_EQ(nullptr, bare.valueName.Buffer());
+    EXPECT_EQ(nullptr, bare.data.Buffer());
+    bare.GetValueDataAt(text, index);
+    EXPECT_EQ(nullptr, bare.valueName.Buffer());
+    EXPECT_EQ(nullptr, bare.data.Buffer());
+  }
+}
+
 TEST_F(CRegistryEntryTest, NamesAndContentsAtAnIndexLeaveTheEntryAlone) {
   PutText(L"Only", L"content");
   entry.data.Assign(L"kept");
@@ -301,12 +358,17 @@ TEST_F(CRegistryEntryTest, WritingWithoutBothNamesDoesNothing) {
   EXPECT_FALSE(keyless.DeleteValue());
 }
 
-TEST_F(CRegistryEntryTest, AFailedWriteKeepsTheReason) {
-  const std::wstring tooLong(20000, L'n');  // no value's name may be this long
-  entry.SetValueName(tooLong.c_str());
+TEST_F(CRegistryEntryTest, AFailedWriteKeepsTheReasonAndTracesNothing) {
+  TracedThread thread;
+  ASSERT_GT(PatchImport("advapi32.dll", "RegSetValueExW", reinterpret_cast<void*>(RefuseSetValue)), 0);
   EXPECT_FALSE(entry.WriteString(L"x"));
-  EXPECT_NE(0u, entry.status);
-  EXPECT_EQ(0, entry.statusText.Find((std::wstring(kKey) + L"\\nnn").c_str()));
+  RestoreImport("advapi32.dll", "RegSetValueExW");
+  EXPECT_EQ(5u, entry.status);
+  EXPECT_EQ(std::wstring(kKey) + L"\\Value not found: " + SystemText(5), entry.statusText.Text());
+  EXPECT_EQ(nullptr, entry.OpenedKey());
+  EXPECT_FALSE(entry.DeleteValue());
+  EXPECT_EQ(2u, entry.status);
+  EXPECT_EQ(Messages(), thread.Lines());
 }
 
 TEST_F(CRegistryEntryTest, DeletesTheValue) {
@@ -484,4 +546,7 @@ TEST_F(CRegistryEntryTest, AFailedOpenForWriteIsTraced) {
   const std::wstring text = tooLong + L" not found, Error: " + SystemText(unwritable.status);
   EXPECT_EQ(Messages({L"CRegistryEntry::Open(): for Write: " + text}), thread.Lines());
   EXPECT_EQ(L"Open for Write: " + text, unwritable.statusText.Text());
+  EXPECT_FALSE(unwritable.Open(true));
+  EXPECT_EQ(nullptr, unwritable.OpenedKey());
+  EXPECT_FALSE(unwritable.OpenedForWrite());
 }

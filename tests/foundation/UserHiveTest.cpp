@@ -48,11 +48,14 @@ BOOL WINAPI OtherTokenInformation(HANDLE, TOKEN_INFORMATION_CLASS, void* buffer,
   return fits ? !refuseUser : sizeError == ERROR_SUCCESS;
 }
 
-BOOL WINAPI NoThreadToken(HANDLE, DWORD, BOOL, HANDLE*) {
+BOOL WINAPI NoThreadToken(HANDLE, DWORD access, BOOL asSelf, HANDLE*) {
+  EXPECT_EQ(static_cast<DWORD>(TOKEN_QUERY), access);
+  EXPECT_TRUE(asSelf);
   ++tokenCalls;
   return FALSE;
 }
-BOOL WINAPI NoProcessToken(HANDLE, DWORD, HANDLE*) {
+BOOL WINAPI NoProcessToken(HANDLE, DWORD access, HANDLE*) {
+  EXPECT_EQ(static_cast<DWORD>(TOKEN_QUERY), access);
   ++tokenCalls;
   return FALSE;
 }
@@ -166,6 +169,12 @@ TEST_F(UserHiveTest, KeysAreOpenedInThe64BitViewWithTheLeastAccess) {
   EXPECT_EQ(0x20106u, opened[1].access);
 
   opened.clear();
+  CRegistryEntry(kKey, L"Value").Open(true, KEY_SET_VALUE);
+  ASSERT_EQ(2u, opened.size());
+  EXPECT_EQ((OpenedKey{HKEY_USERS, kOtherUser, 0x20106}), opened[0]);  // the tree has an access of its own
+  EXPECT_EQ(0x102u, opened[1].access);
+
+  opened.clear();
   CRegistryEntry machine(L"Software", L"x");
   machine.SetRoot(HKEY_LOCAL_MACHINE).Open(false, KEY_READ);
   EXPECT_EQ(std::vector<OpenedKey>({{HKEY_LOCAL_MACHINE, L"Software", 0x20119}}), opened);
@@ -202,6 +211,7 @@ TEST_F(UserHiveTest, EveryFailureIsTracedAndLeavesThePredefinedRoot) {
   refuseUser = false;
   breakSid = true;
   expectLine(L"CRegistryEntry::OpenRootKey: GetTextualSid with TextualSidLength failed");
+  EXPECT_EQ(5, thread.Error().trace->errorCount);
 }
 
 TEST_F(UserHiveTest, ExhaustedMemoryLeavesThePredefinedRoot) {
@@ -214,6 +224,7 @@ TEST_F(UserHiveTest, ExhaustedMemoryLeavesThePredefinedRoot) {
   EXPECT_EQ(Messages({L"CRegistryEntry::OpenRootKey: new TOKEN_USER failed",
                       L"CRegistryEntry::OpenRootKey: GetTextualSid failed"}),
             thread.Lines());
+  EXPECT_EQ(2, thread.Error().trace->errorCount);
 }
 
 TEST(TextualSid, AgreesWithThePlatform) {
