@@ -132,11 +132,11 @@ void ATraceFile::WriteNumbered(wchar_t* message, wchar_t* end) {
   const BusyMark mark(busy_);
   wchar_t stamp[kTimeStampSize];
   FormatTimeStamp(stamp);
-  wchar_t number[kLineNumberSize];
-  wchar_t* numberEnd = Append(number, std::end(number), L"%4ld ", static_cast<long>(++lineCount));
+  wchar_t lineNumberText[kLineNumberSize];
+  wchar_t* numberEnd = Append(lineNumberText, std::end(lineNumberText), L"%4ld ", static_cast<long>(++lineCount));
 
   wchar_t* begin = std::copy_backward(stamp, std::find(stamp, std::end(stamp), L'\0'), message);
-  begin = std::copy_backward(number, numberEnd, begin);
+  begin = std::copy_backward(lineNumberText, numberEnd, begin);
   *end++ = L'\r';
   *end++ = L'\n';
   *end = L'\0';

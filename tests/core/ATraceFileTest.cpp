@@ -127,6 +127,19 @@ TEST_F(ATraceFileTest, ALineIsOneWrite) {
   EXPECT_EQ(expected, trace.writes);
 }
 
+TEST_F(ATraceFileTest, TheNumberHasFourPlacesOrMore) {
+  ASSERT_TRUE(Open());
+  trace.lineCount = 16;
+  trace.Info(L"a");
+  trace.lineCount = 9999;
+  trace.Info(L"b");
+  const std::wstring text = temp.Text();
+  EXPECT_EQ(L"  17 ", text.substr(0, kNumberLength));
+  const size_t second = text.find(L"\r\n") + 2;
+  EXPECT_EQ(L"10000 ", text.substr(second, kNumberLength + 1));
+  EXPECT_TRUE(HasStamp(text, second + kNumberLength + 1));
+}
+
 TEST_F(ATraceFileTest, AMessageIsCutAt8192Characters) {
   ASSERT_TRUE(Open());
   const std::wstring longText(9000, L'x');
@@ -224,6 +237,20 @@ TEST_F(ATraceFileTest, TheSystemsLastErrorSurvivesALine) {
   platform::SetLastError(1234);
   trace.Info(L"x");
   EXPECT_EQ(1234u, platform::LastError());
+}
+
+TEST(TimeStamp, IsTheLocalTimeWithTheDayFirst) {
+  platform::LocalTime before{}, after{};
+  wchar_t stamp[kTimeStampSize];
+  do {
+    before = platform::GetLocalTime();
+    FormatTimeStamp(stamp);
+    after = platform::GetLocalTime();
+  } while (before.second != after.second);
+  CUString expected;
+  expected.Format(L"%02d.%02d.%04d %02d:%02d:%02d ", before.day, before.month, before.year, before.hour, before.minute,
+                  before.second);
+  EXPECT_STREQ(expected.Text(), stamp);
 }
 
 TEST(TimeStamp, HasTheFormOfTracesAndLogs) {

@@ -25,6 +25,9 @@ LANGID WINAPI UserLanguage() { return userLanguage; }
 std::vector<WORD> recordLanguages;
 BOOL WINAPI RecordLanguages(HMODULE module, const wchar_t* type, const wchar_t* name, ENUMRESLANGPROCW visit,
                             LONG_PTR parameter) {
+  EXPECT_EQ(GetModuleHandleW(L"ntdll.dll"), module);
+  EXPECT_EQ(RT_VERSION, type);
+  EXPECT_EQ(MAKEINTRESOURCEW(VS_VERSION_INFO), name);
   for (WORD language : recordLanguages)
     if (!visit(module, type, name, language, parameter)) break;
   return TRUE;
@@ -89,6 +92,17 @@ TEST_F(LanguageTest, TheUsersNumberGoesFirst) {
   EXPECT_EQ(1031, ReadLanguageSetting());
   user.Set(L"0");
   EXPECT_EQ(1036, ReadLanguageSetting());
+}
+
+TEST_F(LanguageTest, OnlyTheUserCanAskForTheSystemsLanguage) {
+  machine.Set(L"1");
+  EXPECT_EQ(1, ReadLanguageSetting());  // a language like any other
+}
+
+TEST_F(LanguageTest, AUsersNumberWithoutALanguageStandsBeforeTheMachines) {
+  user.Set(L"65536");
+  machine.Set(L"1031");
+  EXPECT_EQ(0, ReadLanguageSetting());
 }
 
 TEST_F(LanguageTest, AUserWhoFollowsTheSystemOverrulesTheMachine) {

@@ -129,6 +129,26 @@ TEST_F(MessageBoxCallTest, WithALogFileAQuestionIsNeverAsked) {
   EXPECT_EQ(L"00.00.0000 00:00:00 TITEL: \"T\" MESSAGE: \"Error 4\"\r\n", WithoutTime(text.substr(second)));
 }
 
+TEST_F(MessageBoxCallTest, TheLogIsExtendedAsLittleEndian16BitTextWithoutAMark) {
+  TempFile log("message_boxes.log");
+  log.Put("before");
+  userLog.Set(log.Name());
+  EXPECT_TRUE(LogMessageBox(L"\u20AC", L"a\r\nb"));
+  constexpr size_t kStart = 6;  // "before"
+  constexpr size_t kStampBytes = 40;
+  const std::string bytes = log.Bytes();
+  EXPECT_EQ("before", bytes.substr(0, kStart));
+  EXPECT_EQ('.', bytes[kStart + 4]);
+  EXPECT_EQ('\0', bytes[kStart + 5]);
+  const std::wstring text = L"TITEL: \"\u20AC\" MESSAGE: \"a\r\nb\"\r\n";
+  std::string expected;
+  for (const wchar_t character : text) {
+    expected += static_cast<char>(character & 0xFF);
+    expected += static_cast<char>(character >> 8);
+  }
+  EXPECT_EQ(expected, bytes.substr(kStart + kStampBytes));
+}
+
 TEST_F(MessageBoxCallTest, ShownAndDivertedBoxesAreCounted) {
   const unsigned before = MessageBoxCount();
   MsgBoxById(nullptr, messages.Module(), L"T", kError, MB_OK, 4);

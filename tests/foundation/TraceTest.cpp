@@ -7,6 +7,7 @@
 #include <cstdio>
 #include <fstream>
 #include <string>
+#include <string_view>
 #include <thread>
 
 #include "driver/ImportPatch.h"
@@ -22,6 +23,13 @@ constexpr char kSystem[] = "advapi32.dll";
 constexpr wchar_t kMachinePath[] = L"HKEY_LOCAL_MACHINE\\Software\\NEM software GmbH\\NEM pdf vonder\\TraceFilename";
 constexpr wchar_t kUserPath[] = L"HKEY_CURRENT_USER\\Software\\NEM software GmbH\\NEM pdf vonder\\TraceFilename";
 constexpr wchar_t kDefaultName[] = L"C:\\NEMpdfVonderTrace\\NEMpdfVonder.log";
+
+// There is no such function in the system. Looking for the real one goes through here too, so it is fetched before.
+decltype(&GetProcAddress) realGetProcAddress = nullptr;
+FARPROC WINAPI NoSystemVersion(HMODULE module, const char* name) {
+  if (HIWORD(name) != 0 && std::string_view(name) == "RtlGetVersion") return nullptr;
+  return realGetProcAddress(module, name);
+}
 
 bool machineLocked = false;
 bool userLocked = false;
@@ -127,6 +135,43 @@ TEST_F(TraceSettingsTest, OneRootIsEnoughForSwitchingOn) {
   EXPECT_STREQ(kMachinePath, errorPath.Text());
   EXPECT_EQ(std::nullopt, machine.Text());
   EXPECT_EQ(kDefaultName, user.Text());
+}
+
+TEST_F(TraceSettingsTest, TheUsersFailureIsToldEvenWhenTheMachinesValueIsOn) {
+  userLocked = true;
+  CUString errorPath;
+  EXPECT_TRUE(SetTraceEnabled(true, &errorPath, nullptr));
+  EXPECT_STREQ(kUserPath, errorPath.Text());
+  EXPECT_EQ(kDefaultName, machine.Text());
+  EXPECT_EQ(std::nullopt, user.Text());
+}
+
+TEST_F(TraceSettingsTest, AThreadThatIsThereKeepsItsTrace) {
+  const auto openTrace = [] { return CurrentError()->trace->IsOpen(); };
+  RunThread([&] {
+    EXPECT_TRUE(SetTraceEnabled(true, nullptr, L"."));
+    EXPECT_TRUE(InitThreadState(nullptr));
+    EXPECT_FALSE(openTrace());
+  });
+  const DWORD id = RunThread([&] {
+    EXPECT_TRUE(SetTraceEnabled(false, nullptr, nullptr));
+    EXPECT_TRUE(InitThreadState(nullptr));
+    EXPECT_TRUE(openTrace());
+  });
+  const TempFile file("NEMpdfVonder-AddInUI-t" + std::to_string(id) + ".log", TempFile::Keep{});
+  EXPECT_TRUE(file.Text().ends_with(L"Trace closed.\r\n"));
+}
+
+TEST_F(TraceSettingsTest, ASystemWithoutAVersionIsTold) {
+  user.Set(L"no_version.log");
+  realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", GetProcAddress);
+  PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(NoSystemVersion));
+  const DWORD id = RunThread([] {});
+  RestoreImport("kernel32.dll", "GetProcAddress");
+  const TempFile file("no_version-AddInUI-t" + std::to_string(id) + ".log", TempFile::Keep{});
+  const std::wstring text = file.Text();
+  const size_t second = text.find(L"\r\n") + 2;
+  EXPECT_EQ(second + 25, text.find(L"GetVersionEx - failed, we are older than NT4 SP6.\r\n"));
 }
 
 TEST_F(TraceSettingsTest, TheLaterFailureIsTheOneTold) {
