@@ -23,8 +23,7 @@ class ConfFile : public AFile {
   ConfFile(void* printerHandle, const wchar_t* name);
   ~ConfFile() override;
 
-  // Told of a line that cannot be, as it stands in the file without the white space around it. What may be a password
-  // in it is replaced by "***", as it is in the trace.
+  // Told of a line that cannot be, as it stands in the file without the white space around it.
   using BadLineReport = void (*)(const CUString& line);
 
   // All overrides to their unset values, texts excepted. False when the key table is wrong.

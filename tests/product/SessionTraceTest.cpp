@@ -193,7 +193,7 @@ class SessionTrace : public testing::Test {
         L"Driver Conf file not found " + driver.Directory() + L"NEMpdf.conf",
         L"Unknown BOOLValue StartActionMailCheck_Override = yes!",
         L"Unknown non negative number Value -96!",
-        L"Driver Conf bad line EncryptUserPasswort_Override = ***!",
+        L"Driver Conf bad line SaveAktion_Override = 16!",
     };
     lines.insert(lines.end(), badLineBox.begin(), badLineBox.end());
     for (const wchar_t* line : {L"Error: ReadAdminSettings->Parse", L"Error: not completly parsed"})
@@ -219,9 +219,9 @@ class SessionTrace : public testing::Test {
                   "StationeryInfos_Override = {{NAME:\"a\";FILE:\"b\";P:\"hunter2\";TYPE:\"0\"}}\r\n"
                   "StartActionMailCheck_Override = yes\r\n"
                   "GraphicResolution_Override = -96\r\n"
-                  "EncryptUserPasswort_Override = hunter2\r\n"};
+                  "SaveAktion_Override = 16\r\n"};
   const std::wstring badLineText =
-      L"There was an error in the admin configuration file in line \"EncryptUserPasswort_Override = ***\".";
+      L"There was an error in the admin configuration file in line \"SaveAktion_Override = 16\".";
   const std::wstring noHelpText = L"The help file 'C:\\no such help.chm' cannot be found.";
   std::string bytes;  // of all that was written
 };
