@@ -1,6 +1,7 @@
 #include "ui/PageCatalogue.h"
 
 #include "MessageIds.h"
+#include "pages/CNemUIFormatPage.h"
 #include "pages/CNemUINoDocSettingsPage.h"
 #include "pages/CNemUIPdfGraphicPage.h"
 #include "resources/ResourceIds.h"
@@ -21,6 +22,7 @@ constexpr PageCatalogueRow kPages[] = {
     {{IDD_GRAPHIC_PAGE, 0, MSG_PAGE_GRAPHICAL_OPTIMIZATION, 108, 251, 252},
      Make<CNemUIPdfGraphicPage>,
      Make<CNemUIPdfGraphicPage>},
+    {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
     {{IDD_ACTION_PAGE, 0, MSG_PAGE_ACTIONS, 102, 237, 238}, nullptr, kPlaceholder},
     {{IDD_MAIL_PAGE, 0, MSG_PAGE_MAIL, 104, 243, 244}, nullptr, kPlaceholder},
     {{IDD_SAVING_PAGE, 0, MSG_PAGE_SAVING, 103, 255, 256}, nullptr, kPlaceholder},

@@ -1,0 +1,255 @@
+#include "pages/CFormatPage.h"
+
+#include <algorithm>
+#include <iterator>
+
+#include "DriverLIB/MessageBoxes.h"
+#include "MessageIds.h"
+#include "pages/EmbedFilenamesAccess.h"
+#include "pages/PdfVersions.h"
+#include "pages/SecurityAccess.h"
+#include "pages/ZugferdAccess.h"
+#include "Pictures.h"
+
+namespace {
+
+constexpr uint16_t kPrintOutputWithoutEPdf = 1;
+
+// All below the version: settings for the office add-in, and so of new documents alone.
+constexpr int kAddInControls[] = {IDC_FORMAT_ADD_IN_FEATURES, IDC_FORMAT_SEPARATOR};
+constexpr int kEPdfControls[] = {IDC_FORMAT_EPDF_LABEL, IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_EPDF, IDC_FORMAT_SAVE_ASK};
+constexpr int kEngineControls[] = {IDC_FORMAT_ENGINE_LABEL, IDC_FORMAT_ENGINE_DRIVER, IDC_FORMAT_ENGINE_RTF};
+
+// What a family of versions activates is told to those who come from elsewhere.
+struct DefaultsNotice {
+  bool (*concerns)(int version);
+  bool (*isKnownFrom)(int previousVersion);
+  uint32_t messageId;
+};
+
+// PDF/A-2u is left out and PDF/A-3u stands here, on purpose.
+constexpr bool KnowsPdfA2(int version) { return version == 102 || version == 103 || version == 107; }
+constexpr bool KnowsNothing(int) { return false; }
+
+constexpr DefaultsNotice kDefaultsNotices[] = {
+    {IsPdfA1, IsPdfA1, MSG_FORMAT_DEFAULTS_PDF_A1},
+    {IsPdfA2, KnowsPdfA2, MSG_FORMAT_DEFAULTS_PDF_A2},
+    {IsPdfA3, IsPdfA3, MSG_FORMAT_DEFAULTS_PDF_A3},
+    {IsPdfUA, KnowsNothing, MSG_FORMAT_DEFAULTS_PDF_UA},
+};
+
+constexpr struct {
+  SaveChoice choice;
+  int controlId;
+} kSaveRadios[] = {
+    {SaveChoice::Pdf, IDC_FORMAT_SAVE_PDF},
+    {SaveChoice::EPdf, IDC_FORMAT_SAVE_EPDF},
+    {SaveChoice::Ask, IDC_FORMAT_SAVE_ASK},
+};
+
+}  // namespace
+
+const MessageRow CFormatPage::kMessages[] = {
+    OnCommand<&CFormatPage::OnVersionSelected>(IDC_FORMAT_VERSION, CBN_SELCHANGE),
+    OnClickRange<&CFormatPage::OnSaveFormatClicked>(IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_ASK),
+    OnClickRange<&CFormatPage::OnEngineClicked>(IDC_FORMAT_ENGINE_DRIVER, IDC_FORMAT_ENGINE_RTF),
+};
+
+bool CFormatPage::OnWindowMessage(WindowMessage& message) {
+  return DispatchMessages(kMessages, *this, message) || CNemUIPage::OnWindowMessage(message);
+}
+
+void CFormatPage::GetCockpitValues(FormatCockpitValues& values) {
+  ReadProperties();
+  values = {version, saveFormat, saveConversion};
+}
+
+void CFormatPage::SetCockpitValues(const FormatCockpitValues& values) {
+  ReadProperties();
+  if (!IsSetNumber(versionOverride)) version = values.pdfVersion;
+  if (isFirstSet) {
+    saveFormat = values.saveFormat;
+    saveConversion = values.saveConversion;
+  }
+  if (IsWindow()) UpdateData(false);
+}
+
+void CFormatPage::TakeVersion(uint16_t value) {
+  version = versionAsLoaded_ = value;
+  if (IsWindow()) SelectVersion();
+}
+
+BOOL CFormatPage::OnInitDialog() {
+  FillFromTable(CComboBox(Item(IDC_FORMAT_VERSION)), kPdfVersions);
+  Item(IDC_FORMAT_ADD_IN_FEATURES).SetText(MessageText(MSG_FORMAT_ADD_IN_FEATURES).Text());
+  Item(IDC_FORMAT_ENGINE_RTF).SetText(MessageText(MSG_FORMAT_ENGINE_RTF).Text());
+  if (!CNemUIPage::OnInitDialog()) return FALSE;
+
+  manualLink_.Attach(*this, IDC_FORMAT_MANUAL_LINK);
+  manualLink_.SetNotifyParent(true);
+  manualLink_.SetUnderline(true);
+
+  informationSign_.Attach(*this, IDC_FORMAT_SIGN_INFORMATION);
+  informationSign_.SetImage(Pictures::kSignInformation32.bitmap, kNoTransparentColor,
+                            Pictures::kSignInformation32.mask);
+  warningSign_.Attach(*this, IDC_FORMAT_SIGN_WARNING);
+  warningSign_.SetImage(Pictures::kSignWarning32.bitmap, kNoTransparentColor, Pictures::kSignWarning32.mask);
+  return TRUE;
+}
+
+void CFormatPage::DoDataExchange(CDataExchange& exchange) {
+  if (exchange.IsLoading())
+    LoadControls();
+  else
+    SaveControls(exchange);
+}
+
+void CFormatPage::LoadControls() {
+  versionAsLoaded_ = version;
+  SelectVersion();
+  ShowSaveChoice(SaveChoiceOf(saveFormat));
+  ShowEngine();
+  EnforceVersion();
+  UpdateControls();
+}
+
+void CFormatPage::SaveControls(CDataExchange& exchange) {
+  // A page that has read nothing has nothing to write: it would overwrite what the host has set.
+  CNemUIPage* zugferd = FindPage(kZugferdPage);
+  if (zugferd && zugferd->IsLoaded()) zugferd->WriteProperties();
+
+  uint16_t selected = 0;
+  exchange.Choice(IDC_FORMAT_VERSION, kPdfVersions, selected);
+  // The list may have no row for the version that was loaded.
+  version = versionTouched_ ? selected : versionAsLoaded_;
+  if (exchange.IsSaving()) saveFormat = WithSaveChoice(saveFormat, ShownSaveChoice());
+}
+
+void CFormatPage::OnVersionSelected() {
+  if (CComboBox(Item(IDC_FORMAT_VERSION)).Selection() < 0) return;
+  const uint16_t previous = version;
+  version = static_cast<uint16_t>(SelectedVersion());
+  if (!MayTakeVersion()) {
+    version = previous;
+    SelectVersion();
+    return;
+  }
+  versionTouched_ = true;
+  ShowDefaults(previous);
+  if (!IsWindow()) return;
+  EnforceVersion();
+  ShowEngine();
+  UpdateControls();
+}
+
+// Whether the version that has just been chosen may stand.
+bool CFormatPage::MayTakeVersion() {
+  if (!isFirstSet && IsSpecialPdf(version)) return false;
+  if (!hasAddIn && RequiresTags(version)) {
+    Inform(MSG_FORMAT_NEEDS_ADD_IN);
+    return false;
+  }
+  return GiveUpInvoice();
+}
+
+// An invoice needs PDF/A-3: another version is either not taken, or switches the invoice off.
+bool CFormatPage::GiveUpInvoice() {
+  auto* zugferd = FindPageAs<ZugferdAccess>(*this, kZugferdPage);
+  if (!zugferd || AllowsZugferd(version) || !zugferd->IsZugferdEnabled()) return true;
+  const int answer =
+      MsgBoxById(window_, GetMsgBoxTitle().Text(), MSG_FORMAT_ZUGFERD_QUESTION, MB_OKCANCEL | MB_ICONQUESTION);
+  if (answer != IDOK) return false;
+  zugferd->ClearOverrides();
+  zugferd->SetZugferd(0);
+  return true;
+}
+
+// Shows what the version means for the kind of file, and tells what else it activates.
+void CFormatPage::ShowDefaults(int previousVersion) {
+  const auto* notice =
+      std::ranges::find_if(kDefaultsNotices, [this](const DefaultsNotice& row) { return row.concerns(version); });
+  if (notice == std::end(kDefaultsNotices)) {
+    ShowSaveChoice(SaveChoiceOf(saveFormat));
+    return;
+  }
+  ShowSaveChoice(SaveChoice::Pdf);
+  bool& untold = defaultsUntold_[notice - kDefaultsNotices];
+  if (untold && !notice->isKnownFrom(previousVersion)) {
+    untold = false;
+    Inform(notice->messageId);
+  }
+  if (IsPdfA(version) && stationeryEnabled && stationeryUntold_) {
+    stationeryUntold_ = false;
+    Inform(MSG_FORMAT_STATIONERY_REMINDER);
+  }
+}
+
+// Switches off on other pages what the version forbids.
+void CFormatPage::EnforceVersion() {
+  if (IsSpecialPdf(version) && !IsPlainPdf(SelectedVersion()))
+    if (auto* security = FindPageAs<SecurityAccess>(*this, kSecurityPage)) security->SwitchPasswordsOff();
+  if (AllowsAttachments(version)) return;
+  for (const int id : {kAttachmentsPage, kLinksPage})
+    if (auto* page = FindPageAs<EmbedFilenamesAccess>(*this, id)) page->SetEmbedFilenamesEnabled(0);
+}
+
+// A box before this one may have ended the page.
+void CFormatPage::Inform(uint32_t messageId) {
+  if (IsWindow()) MsgBoxById(window_, GetMsgBoxTitle().Text(), messageId, MB_OK | MB_ICONINFORMATION);
+}
+
+void CFormatPage::OnSaveFormatClicked() { saveFormat = WithSaveChoice(saveFormat, ShownSaveChoice()); }
+
+// A radio button tells a click when it gets the focus, too: the box that goes away gives it back.
+void CFormatPage::OnEngineClicked() {
+  const bool isRtf = CButton(Item(IDC_FORMAT_ENGINE_RTF)).IsChecked();
+  saveConversion = isRtf ? 1 : 0;
+  if (!isRtf || tellingOfEngine_) return;
+  tellingOfEngine_ = true;
+  Inform(MSG_FORMAT_RTF_INFORMATION);
+  tellingOfEngine_ = false;
+}
+
+void CFormatPage::SelectVersion() { CComboBox(Item(IDC_FORMAT_VERSION)).Select(RowOfValue(kPdfVersions, version)); }
+
+// The version of the row that is shown, which is another one where the list has no row for the version.
+int CFormatPage::SelectedVersion() const {
+  const int row = CComboBox(Item(IDC_FORMAT_VERSION)).Selection();
+  return kPdfVersions[row < 0 ? 0 : row].value;
+}
+
+void CFormatPage::ShowSaveChoice(SaveChoice choice) {
+  for (const auto& radio : kSaveRadios) CButton(Item(radio.controlId)).SetCheck(radio.choice == choice);
+}
+
+SaveChoice CFormatPage::ShownSaveChoice() const {
+  for (const auto& radio : kSaveRadios)
+    if (CButton(Item(radio.controlId)).IsChecked()) return radio.choice;
+  return SaveChoice::Pdf;
+}
+
+// The engine that a version forces is shown and not stored: the choice comes back with a version that leaves it.
+void CFormatPage::ShowEngine() {
+  const bool isRtf = RequiresTags(version) || saveConversion == 1;
+  ::CheckRadioButton(window_, IDC_FORMAT_ENGINE_DRIVER, IDC_FORMAT_ENGINE_RTF,
+                     isRtf ? IDC_FORMAT_ENGINE_RTF : IDC_FORMAT_ENGINE_DRIVER);
+}
+
+void CFormatPage::UpdateControls() {
+  Item(IDC_FORMAT_HINT).SetText(MessageText(MSG_FORMAT_HINT_SECURITY).Text());
+  Item(IDC_FORMAT_SIGN_INFORMATION).Show(true);
+  Item(IDC_FORMAT_SIGN_WARNING).Show(false);
+
+  const auto enable = [this](std::span<const int> controls, bool enabled) {
+    for (const int id : controls) Item(id).Enable(enabled);
+  };
+  enable(kAddInControls, isFirstSet);
+  enable(kEPdfControls, isFirstSet && !(printOutput & kPrintOutputWithoutEPdf) && saveFormatEPdfEnabled &&
+                            IsPlainPdf(SelectedVersion()));
+  enable(kEngineControls, isFirstSet && saveConversionEnabled && !RequiresTags(version));
+  ApplyOverrides();
+}
+
+void CFormatPage::ApplyOverrides() {
+  if (IsSetNumber(versionOverride)) Item(IDC_FORMAT_VERSION).Enable(false);
+}

@@ -1,0 +1,78 @@
+// The PDF version of the output, which other pages obey; the kind of file; the conversion engine.
+#pragma once
+
+#include "cockpit/CockpitValues.h"
+#include "controls/CImageStatic.h"
+#include "controls/CMyHyperLink.h"
+#include "environment/AdminSettings.h"
+#include "pages/FormatAccess.h"
+#include "pages/SaveFormat.h"
+#include "resources/ResourceIds.h"
+#include "sheet/CNemUIPage.h"
+
+class CFormatPage : public CNemUIPage, public CockpitPage<FormatCockpitValues>, public FormatAccess {
+ public:
+  using CNemUIPage::CNemUIPage;
+
+  // A member that has not been read from its property yet.
+  static constexpr uint16_t kNotRead = 0xFFFF;
+
+  void GetCockpitValues(FormatCockpitValues& values) override;
+  void SetCockpitValues(const FormatCockpitValues& values) override;
+
+  uint16_t printOutput = 0;
+  uint16_t version = kNotRead;  // as the list shows it, unless it has no row for it
+  uint16_t saveFormatEPdfEnabled = 1;
+  uint16_t saveFormat = kNotRead;
+  uint16_t saveConversionEnabled = 1;
+  uint16_t saveConversion = 0;  // 0 printer driver, 1 RTF
+  uint16_t stationeryEnabled = 0;
+
+  // What an administrator has fixed.
+  int32_t versionOverride = kUnsetNumber;
+
+  // The basic settings: those of a document are e.pdf, which leaves the version as the one choice.
+  bool isFirstSet = true;
+  // Without the office add-in nothing tags a document.
+  bool hasAddIn = true;
+
+ protected:
+  BOOL OnInitDialog() override;
+  void DoDataExchange(CDataExchange& exchange) override;
+  bool OnWindowMessage(WindowMessage& message) override;
+  // As if it had been loaded: an untouched list then stores this version.
+  void TakeVersion(uint16_t value);
+
+ private:
+  static const MessageRow kMessages[];
+
+  void LoadControls();
+  void SaveControls(CDataExchange& exchange);
+
+  void OnVersionSelected();
+  void OnSaveFormatClicked();
+  void OnEngineClicked();
+
+  bool MayTakeVersion();
+  bool GiveUpInvoice();
+  void ShowDefaults(int previousVersion);
+  void EnforceVersion();
+  void Inform(uint32_t messageId);
+
+  void SelectVersion();
+  int SelectedVersion() const;
+  void ShowSaveChoice(SaveChoice choice);
+  SaveChoice ShownSaveChoice() const;
+  void ShowEngine();
+  void UpdateControls();
+  void ApplyOverrides();
+
+  CImageStatic informationSign_, warningSign_;
+  CMyHyperLink manualLink_;
+  uint16_t versionAsLoaded_ = kNotRead;
+  bool versionTouched_ = false;  // the user has chosen one
+  // Told once in the page's life: what PDF/A-1, 2, 3 and PDF/UA activate, and what they ask of stationery paper.
+  bool defaultsUntold_[4] = {true, true, true, true};
+  bool stationeryUntold_ = true;
+  bool tellingOfEngine_ = false;
+};

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "pages/CFormatPage.h"
+#include "sheet/CNemUISettingsPage.h"
+
+class CNemUIFormatPage : public CNemUISettingsPage<CFormatPage> {
+ public:
+  CNemUIFormatPage(SheetServices* sheet, const PageDescription& description, int settingsIndex);
+
+  int GetPdfVersion() override;
+  void SetPdfVersion(int value) override;
+  int GetSaveFormat() override;
+
+ protected:
+  std::span<const PropertyBinding<CFormatPage>> Bindings() const override;
+  void OnPropertiesRead() override;
+  void OnPropertiesWritten() override;
+
+ private:
+  CProperty& VersionProperty() const;
+  uint16_t StoredSaveFormat() const;
+};
