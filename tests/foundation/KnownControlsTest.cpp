@@ -1,8 +1,11 @@
 // Controls and English captions of the templates that are known outside by number, and how the pages need them.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <optional>
 #include <tuple>
+#include <utility>
+#include <vector>
 
 #include "resources/ResourceIds.h"
 #include "support/ModuleResources.h"
@@ -50,6 +53,21 @@ constexpr KnownControl kKnownControls[] = {
     {141, IDC_GRAPHIC_COMPRESSION_LABEL, L"Static", L"&Compression:"},
     {141, IDC_GRAPHIC_QUALITY_LABEL, L"Static", L"&Quality:"},
     {141, IDC_GRAPHIC_COLOR_DEPTH_LABEL, L"Static", L"Color &depth:"},
+    {192, 1017, L"ComboBox", L""},
+    {192, IDC_FORMAT_VERSION_LABEL, L"Static", L"&PDF version:"},
+    {192, 1263, L"Button", L""},
+    {192, 1270, L"Static", L"e.pdf:"},
+    {192, 1267, L"Button", L"Create PDF or Special format"},
+    {192, 1268, L"Button", L"Create e.pdf (for reprocessing in Word)"},
+    {192, 1269, L"Button", L"Ask always"},
+    {192, 1264, L"Static", L""},
+    {192, 1271, L"Static", L"choice of conversion engine:"},
+    {192, 1272, L"Button", L"virtual printer driver"},
+    {192, 1273, L"Button", L""},
+    {192, 1274, L"Static", L""},
+    {192, 1275, L"Static", L""},
+    {192, 1276, L"Static", L""},
+    {192, 1249, L"Static", L"Manual"},
     {191, IDC_NO_DOC_SETTINGS_WHEN, L"Static",
      L"These settings are only available when generating a new PDF or e.pdf document."},
     {191, IDC_NO_DOC_SETTINGS_WHERE, L"Static",
@@ -98,4 +116,28 @@ TEST(GraphicPageTemplate, TheRadiosAreAGroupOfTheirOwn) {
   EXPECT_EQ(controls[1].id, DWORD{IDC_GRAPHIC_USER_DEFINED});
   EXPECT_FALSE(controls[1].style & WS_GROUP);
   EXPECT_TRUE(controls[2].style & WS_GROUP);
+}
+
+// The radios of a question follow each other, and what stands behind them begins a new group.
+TEST(FormatPageTemplate, TheRadiosAreGroupsOfTheirOwn) {
+  const std::vector<Control> controls = ReadDialog(IDD_FORMAT_PAGE, kEnglish).controls;
+  const auto groupsFrom = [&controls](DWORD id, size_t count) {
+    std::vector<std::pair<DWORD, bool>> found;
+    for (auto control = std::ranges::find(controls, id, &Control::id); control != controls.end() && count--; ++control)
+      found.emplace_back(control->id, (control->style & WS_GROUP) != 0);
+    return found;
+  };
+  EXPECT_EQ(groupsFrom(1267, 4),
+            (std::vector<std::pair<DWORD, bool>>{{1267, true}, {1268, false}, {1269, false}, {1264, true}}));
+  EXPECT_EQ(groupsFrom(1272, 3), (std::vector<std::pair<DWORD, bool>>{{1272, true}, {1273, false}, {1249, true}}));
+}
+
+// Only one of the signs shows, in one place.
+TEST(FormatPageTemplate, TheSignsShareTheirPlaceAndAreHidden) {
+  const Dialog dialog = ReadDialog(IDD_FORMAT_PAGE, kEnglish);
+  const Control *first = FindControl(dialog, 1275), *second = FindControl(dialog, 1276);
+  ASSERT_TRUE(first && second);
+  EXPECT_EQ(std::tuple(first->x, first->y, first->width, first->height),
+            std::tuple(second->x, second->y, second->width, second->height));
+  EXPECT_FALSE((first->style | second->style) & WS_VISIBLE);
 }

@@ -265,6 +265,12 @@ constexpr KnownText kKnownTexts[] = {
     {0x400109CB, L"B4 250 x 354 mm"},
     {0x400109CC, L"B5 182 x 257 mm"},
     {0x400109CD, L"User defined paper size"},
+    {0x400108F2, L"PDF/1.3 (Acrobat 4 or higher - 40bit encryption)"},
+    {0x400108F3, L"PDF/1.4 (Acrobat 5 or higher - 128bit RC4-encryption)"},
+    {0x400108F4, L"PDF/1.5 (Acrobat 6 or higher - 128bit RC4-encryption)"},
+    {0x400108F5, L"PDF/1.6 (Acrobat 7 or higher - 128bit AES-encryption)"},
+    {0x400108F6, L"PDF/1.7 (Acrobat 8 or higher - 128bit AES-encryption)"},
+    {0x400108F7, L"PDF/1.7 EL3 (Acrobat 9 or higher - 256bit AES-encryption)"},
     {0x400108FC, L"minimum"},
     {0x400108FD, L"small"},
     {0x400108FE, L"Display, e-mail"},
@@ -281,6 +287,29 @@ constexpr KnownText kKnownTexts[] = {
     {0x40010909, L"optimum"},
     {0x4001090A, L"max. quality"},
     {0x4001090B, L"userdefined"},
+    {0x40010928,
+     L"Default settings for PDF/A-1 will be activated:%n%n-PDF version 1.4%n-enabled font embedding"
+     L"%n-no file attachments%n-no e.pdf conversion%n-no conversion of forms%n-no settings for PDF security"
+     L"%n-no password protection against opening files%n-restricted transparency of pictures (also watermarks)"},
+    {0x40010929,
+     L"Default settings for PDF/A-2 will be activated:%n%n-PDF version 1.7%n-enabled font embedding"
+     L"%n-no file attachments%n-no e.pdf conversion%n-no conversion of forms%n-no settings for PDF security"
+     L"%n-no password protection against opening files%n-restricted transparency of pictures (also watermarks)"},
+    {0x4001092A,
+     L"Default settings for PDF/A-3 will be activated:%n%n-PDF version 1.7%n-enabled font embedding"
+     L"%n-no conversion of forms%n-no settings for PDF security%n-no password protection against opening files"},
+    {0x4001092B,
+     L"Default settings for PDF/UA will be activated:%n%n-PDF version 1.7%n-enabled font embedding"
+     L"%n-no stationery paper%n-RTF conversion"},
+    {0x4001092E, L"PDF/A1-a (Acrobat 5 or higher)"},
+    {0x4001092F, L"PDF/A1-b (Acrobat 5 or higher)"},
+    {0x40010930, L"PDF/A2-a (Acrobat 8 or higher)"},
+    {0x40010931, L"PDF/A2-b (Acrobat 8 or higher)"},
+    {0x40010932, L"PDF/A2-u (Acrobat 8 or higher)"},
+    {0x40010933, L"PDF/A3-a (Acrobat 8 or higher)"},
+    {0x40010934, L"PDF/A3-b (Acrobat 8 or higher)"},
+    {0x40010935, L"PDF/A3-u (Acrobat 8 or higher)"},
+    {0x40010936, L"PDF/UA (Acrobat 8 or higher - PDF for universal accessibility)"},
     {0x4001087C, L"XX"},
     {0xC0010FBE, L"No styles could be read from the document. Perhaps the document protection type is too high."},
     {0x4001086E,
