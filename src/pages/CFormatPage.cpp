@@ -2,6 +2,7 @@
 
 #include <algorithm>
 #include <iterator>
+#include <span>
 
 #include "DriverLIB/MessageBoxes.h"
 #include "MessageIds.h"
@@ -38,14 +39,16 @@ constexpr DefaultsNotice kDefaultsNotices[] = {
     {IsPdfUA, KnowsNothing, MSG_FORMAT_DEFAULTS_PDF_UA},
 };
 
-constexpr struct {
-  SaveChoice choice;
-  int controlId;
-} kSaveRadios[] = {
-    {SaveChoice::Pdf, IDC_FORMAT_SAVE_PDF},
-    {SaveChoice::EPdf, IDC_FORMAT_SAVE_EPDF},
-    {SaveChoice::Ask, IDC_FORMAT_SAVE_ASK},
-};
+constexpr int RadioOf(SaveChoice choice) {
+  switch (choice) {
+    case SaveChoice::Ask:
+      return IDC_FORMAT_SAVE_ASK;
+    case SaveChoice::EPdf:
+      return IDC_FORMAT_SAVE_EPDF;
+    default:
+      return IDC_FORMAT_SAVE_PDF;
+  }
+}
 
 }  // namespace
 
@@ -94,6 +97,10 @@ BOOL CFormatPage::OnInitDialog() {
                             Pictures::kSignInformation32.mask);
   warningSign_.Attach(*this, IDC_FORMAT_SIGN_WARNING);
   warningSign_.SetImage(Pictures::kSignWarning32.bitmap, kNoTransparentColor, Pictures::kSignWarning32.mask);
+  // One hint for all versions; it needs no warning.
+  Item(IDC_FORMAT_HINT).SetText(MessageText(MSG_FORMAT_HINT_SECURITY).Text());
+  informationSign_.Show(true);
+  warningSign_.Show(false);
   return TRUE;
 }
 
@@ -219,12 +226,12 @@ int CFormatPage::SelectedVersion() const {
 }
 
 void CFormatPage::ShowSaveChoice(SaveChoice choice) {
-  for (const auto& radio : kSaveRadios) CButton(Item(radio.controlId)).SetCheck(radio.choice == choice);
+  ::CheckRadioButton(window_, IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_ASK, RadioOf(choice));
 }
 
 SaveChoice CFormatPage::ShownSaveChoice() const {
-  for (const auto& radio : kSaveRadios)
-    if (CButton(Item(radio.controlId)).IsChecked()) return radio.choice;
+  for (const SaveChoice choice : {SaveChoice::Ask, SaveChoice::EPdf})
+    if (CButton(Item(RadioOf(choice))).IsChecked()) return choice;
   return SaveChoice::Pdf;
 }
 
@@ -236,10 +243,6 @@ void CFormatPage::ShowEngine() {
 }
 
 void CFormatPage::UpdateControls() {
-  Item(IDC_FORMAT_HINT).SetText(MessageText(MSG_FORMAT_HINT_SECURITY).Text());
-  Item(IDC_FORMAT_SIGN_INFORMATION).Show(true);
-  Item(IDC_FORMAT_SIGN_WARNING).Show(false);
-
   const auto enable = [this](std::span<const int> controls, bool enabled) {
     for (const int id : controls) Item(id).Enable(enabled);
   };

@@ -48,6 +48,14 @@ const std::wstring kRtfInformation =
     L"Moreover this engine has advantages when converting forms.\r\n"
     L"Please find more information in the manual.";
 
+// What a version tells to those who come from a plain one; null for a plain one.
+const std::wstring* NoticeOf(int version) {
+  if (version == 100 || version == 101) return &kDefaultsA1;
+  if (version >= 102 && version <= 104) return &kDefaultsA2;
+  if (version >= 105 && version <= 107) return &kDefaultsA3;
+  return version == 200 ? &kDefaultsUA : nullptr;
+}
+
 using Log = std::vector<std::string>;
 
 // Another page of the tab: it notes what it is asked.
@@ -217,10 +225,7 @@ TEST_F(FormatPage, EveryVersionIsShownAndKept) {
 TEST_F(FormatPage, EveryRowStoresItsVersion) {
   for (const int version : kVersions) {
     OpenWith(version == 14 ? 15 : 14);
-    if (version == 100 || version == 101) ExpectNotice(kDefaultsA1);
-    if (version >= 102 && version <= 104) ExpectNotice(kDefaultsA2);
-    if (version >= 105 && version <= 107) ExpectNotice(kDefaultsA3);
-    if (version == 200) ExpectNotice(kDefaultsUA);
+    if (const std::wstring* notice = NoticeOf(version)) ExpectNotice(*notice);
     Choose(version);
     EXPECT_EQ(version, page_->GetPdfVersion()) << "before it is saved";
     ASSERT_TRUE(Save());
@@ -283,25 +288,25 @@ TEST_F(FormatPage, ANoticeOfNoSelectionChangesNothing) {
 
 // --- Notices -------------------------------------------------------------------------------------------------------
 
-const std::wstring* NoticeOf(int from, int to) {
-  const auto isOneOf = [](int version, const std::set<int>& versions) { return versions.contains(version); };
-  if (isOneOf(to, {100, 101}) && !isOneOf(from, {100, 101})) return &kDefaultsA1;
-  if (isOneOf(to, {102, 103, 104}) && !isOneOf(from, {102, 103, 107})) return &kDefaultsA2;
-  if (isOneOf(to, {105, 106, 107}) && !isOneOf(from, {105, 106, 107})) return &kDefaultsA3;
-  return to == 200 ? &kDefaultsUA : nullptr;
-}
-
 TEST_F(FormatPage, DefaultsAreToldToThoseWhoComeFromElsewhere) {
-  const int versions[] = {14, 99, 100, 101, 102, 103, 104, 105, 106, 107, 200};
-  for (const int from : versions)
-    for (const int to : versions) {
-      if (from == to || to == 99) continue;
-      OpenWith(from);
-      const size_t before = BoxCount();
-      if (const std::wstring* notice = NoticeOf(from, to)) ExpectNotice(*notice);
-      Choose(to);
-      EXPECT_EQ(NoticeOf(from, to) ? 1u : 0u, BoxCount() - before) << from << " to " << to;
-    }
+  const struct {
+    int from, to;
+    bool told;
+  } rows[] = {
+      {99, 100, true},   {101, 100, false}, {102, 100, true},  {107, 100, true},  {100, 101, false}, {200, 101, true},
+      {14, 102, true},   {101, 102, true},  {103, 102, false}, {104, 102, true},  {106, 102, true},  {107, 102, false},
+      {200, 102, true},  {102, 103, false}, {104, 103, true},  {107, 103, false}, {102, 104, false}, {105, 104, true},
+      {107, 104, false}, {14, 105, true},   {104, 105, true},  {106, 105, false}, {107, 105, false}, {105, 106, false},
+      {103, 106, true},  {102, 107, true},  {106, 107, false}, {14, 200, true},   {107, 200, true},  {14, 17, false},
+      {200, 17, false},
+  };
+  for (const auto& row : rows) {
+    OpenWith(row.from);
+    const size_t before = BoxCount();
+    if (row.told) ExpectNotice(*NoticeOf(row.to));
+    Choose(row.to);
+    EXPECT_EQ(row.told ? 1u : 0u, BoxCount() - before) << row.from << " to " << row.to;
+  }
 }
 
 TEST_F(FormatPage, EachNoticeComesOnceInThePagesLife) {
@@ -395,7 +400,7 @@ TEST_F(FormatPage, WithoutTheAddInNoVersionWithTagsIsTaken) {
     page_->hasAddIn = false;
     if (refused)
       ExpectNotice(L"Please use the Word-Addin to create a pdf of this version.");
-    else if (const std::wstring* notice = NoticeOf(14, version))
+    else if (const std::wstring* notice = NoticeOf(version))
       ExpectNotice(*notice);
     Choose(version);
     EXPECT_EQ(refused ? 14 : version, Shown());
@@ -518,7 +523,7 @@ TEST_F(FormatPage, ChoosingAVersionSwitchesOffWhatItForbids) {
   AddOtherPages();
   for (const int version : kVersions) {
     OpenWith(version == 14 ? 15 : 14);
-    if (const std::wstring* notice = NoticeOf(14, version)) ExpectNotice(*notice);
+    if (const std::wstring* notice = NoticeOf(version)) ExpectNotice(*notice);
     TakeLog();
     Choose(version);
     EXPECT_EQ(ExpectedAsks(version), TakeLog()) << version;
@@ -615,7 +620,7 @@ TEST_F(FormatPage, SpecialVersionsShowPdfAndPlainOnesWhatWasChosen) {
   properties().SaveFormat[0].SetLong(0x102);
   for (const int version : {100, 101, 102, 103, 104, 105, 106, 107, 200}) {
     OpenWith(14);
-    ExpectNotice(*NoticeOf(14, version));
+    ExpectNotice(*NoticeOf(version));
     Choose(version);
     EXPECT_EQ(1267, SaveRadio()) << version;
     Choose(17);
@@ -741,7 +746,7 @@ TEST_F(FormatPage, EngineNeedsAVersionWithoutTagsAndAHostThatOffersIt) {
 TEST_F(FormatPage, ChoosingAVersionOpensAndClosesAsLoadingDoes) {
   for (const int version : kVersions) {
     OpenWith(version == 14 ? 15 : 14);
-    if (const std::wstring* notice = NoticeOf(14, version)) ExpectNotice(*notice);
+    if (const std::wstring* notice = NoticeOf(version)) ExpectNotice(*notice);
     Choose(version);
     const std::vector<int> chosen = Enabled();
     OpenWith(version);
@@ -823,6 +828,41 @@ TEST_F(FormatPage, DocumentSettingsStoreTheVersionAlone) {
 }
 
 // --- Properties ----------------------------------------------------------------------------------------------------
+
+struct RoundTrip {
+  int version, saveFormat, saveConversion;              // as the host gives them
+  int versionBack, saveFormatBack, saveConversionBack;  // after the saving of an untouched page
+};
+
+constexpr RoundTrip kRoundTrips[] = {
+    {13, 1, 0, 13, 1, 0},
+    {18, 2, 1, 18, 2, 1},
+    {100, 0x102, 0, 100, 0x102, 0},
+    {107, 1, 1, 107, 1, 1},
+    {200, 2, 0, 200, 2, 0},
+    // Without a row; kinds of file that stand for asking and for none.
+    {12, 0, 2, 12, 0x102, 2},
+    {99, 0x100, 0xFFFE, 99, 0x102, 0xFFFE},
+    {201, 4, 3, 201, 1, 3},
+    {0, 3, 0, 0, 3, 0},
+    // The page holds sixteen bits of each.
+    {-1, 0x10001, 0x10001, 0xFFFF, 1, 1},
+    {0x1000E, 0x10002, -1, 14, 2, 0xFFFF},
+};
+
+TEST_F(FormatPage, UntouchedPagesGiveBackWhatTheyWereGiven) {
+  for (const RoundTrip& trip : kRoundTrips)
+    for (const int set : {0, 1}) {
+      properties().PdfVersion[set].SetLong(trip.version);
+      properties().SaveFormat[set].SetLong(trip.saveFormat);
+      properties().SaveConversion[set].SetLong(trip.saveConversion);
+      Open(set);
+      ASSERT_TRUE(Save());
+      EXPECT_EQ(trip.versionBack, StoredVersion(set)) << trip.version;
+      EXPECT_EQ(set == 0 ? trip.saveFormatBack : trip.saveFormat, properties().SaveFormat[set].GetLong());
+      EXPECT_EQ(set == 0 ? trip.saveConversionBack : trip.saveConversion, properties().SaveConversion[set].GetLong());
+    }
+}
 
 TEST_F(FormatPage, PropertiesAreReadOnce) {
   Open();
