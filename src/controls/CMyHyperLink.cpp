@@ -4,6 +4,7 @@
 #include <oleacc.h>
 
 #include "controls/BufferedPainting.h"
+#include "controls/FocusFrame.h"
 #include "controls/LabelText.h"
 #include "controls/PageGround.h"
 #include "DriverLIB/MessageText.h"
@@ -25,12 +26,6 @@ bool IsFollowKey(WPARAM key) { return key == VK_RETURN || key == VK_SPACE; }
 // The dialog must not take it: neither the key for its default button, nor the character for an access key.
 bool IsFollowMessage(const MSG* message) {
   return message && (message->message == WM_KEYDOWN || message->message == WM_CHAR) && IsFollowKey(message->wParam);
-}
-
-void DrawFocus(HDC dc, const RECT& rect) {
-  ::SetTextColor(dc, RGB(0, 0, 0));
-  ::SetBkColor(dc, RGB(255, 255, 255));
-  ::DrawFocusRect(dc, &rect);
 }
 
 }  // namespace

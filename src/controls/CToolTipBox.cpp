@@ -11,10 +11,22 @@ constexpr COLORREF kGroundColor = 0xC8FFFF;
 constexpr COLORREF kFrameColor = 0x3C3C3C;
 constexpr int kInset = 2;  // pixels at 96 dpi
 
+// The client area of the page, less what lies outside of the window around it and is not seen.
+RECT ShownClientRect(const CWnd& page) {
+  RECT client = page.ClientRect();
+  if (!(page.Style() & WS_CHILD)) return client;
+  const CWnd parent = page.Parent();
+  RECT frame = parent.ClientRect();
+  ::MapWindowPoints(parent.Handle(), page.Handle(), reinterpret_cast<POINT*>(&frame), 2);
+  if (frame.left > frame.right) std::swap(frame.left, frame.right);  // mirrored
+  RECT shown;
+  return ::IntersectRect(&shown, &client, &frame) ? shown : client;
+}
+
 }  // namespace
 
 bool CToolTipBox::Open(const CWnd& page, int id) {
-  const RECT client = page.ClientRect();
+  const RECT client = ShownClientRect(page);
   const IntRect place = PlaceToolTip(lineCount, widthInCharacters, mousePosition,
                                      {client.left, client.top, client.right, client.bottom}, page.Dpi());
   return Create(page, id, {place.left, place.top, place.right, place.bottom});
@@ -33,6 +45,8 @@ void CToolTipBox::Draw(HDC dc, const RECT& client) const {
 
 void CToolTipBox::OnMouseMove(WPARAM keys, LPARAM point) const {
   const CWnd page = Parent();
+  TRACKMOUSEEVENT leaving{sizeof leaving, TME_LEAVE, Handle(), 0};
+  ::TrackMouseEvent(&leaving);
   POINT onPage{GET_X_LPARAM(point), GET_Y_LPARAM(point)};
   ::MapWindowPoints(Handle(), page.Handle(), &onPage, 1);
   // When a window appears under it, the system reports the mouse anew though it stands still.
@@ -48,6 +62,9 @@ bool CToolTipBox::OnWindowMessage(WindowMessage& message) {
       return true;
     case WM_MOUSEMOVE:
       OnMouseMove(message.wParam, message.lParam);
+      return true;
+    case WM_MOUSELEAVE:
+      Parent().Send(WM_MOUSELEAVE);
       return true;
     case WM_LBUTTONDOWN:
     case WM_LBUTTONDBLCLK:

@@ -16,7 +16,8 @@ class CToolTipBox : public CNoteBox {
   IntPoint mousePosition;  // in client coordinates of the page
 
   // Shows the box beside the mouse, as a child of the page. While it is up the page goes on receiving all movements of
-  // the mouse, those over the box as well; it may end the box, and the object, at each.
+  // the mouse, those over the box as well, and is told when the mouse leaves the box (WM_MOUSELEAVE); it may end the
+  // box, and the object, at each.
   bool Open(const CWnd& page, int id);
 
   const CUString& NoteText() const override { return text; }

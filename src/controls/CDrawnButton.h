@@ -1,0 +1,34 @@
+// A button that draws itself, with the hands of a push button: mouse, Space, Enter and screen readers press it. In the
+// template it is a "Button" with BS_OWNERDRAW.
+#pragma once
+
+#include "window/CAccessibility.h"
+#include "window/CSubclassedControl.h"
+
+class CDrawnButton : public CSubclassed<CButton>, private CAccessibleSource {
+ public:
+  // Tells the parent of a click. It may end the button, and its object.
+  void Press() const;
+
+ protected:
+  // Covers the whole client area.
+  virtual void Draw(HDC dc, const RECT& client) = 0;
+  // The user works by keyboard and is to see that the button has the focus.
+  bool ShowsFocus() const;
+
+  void OnDestroyed() override { accessibility_.Disconnect(); }
+  bool OnWindowMessage(WindowMessage& message) override;
+  bool OnReflected(WindowMessage& message) override;
+
+ private:
+  HWND AccessibleWindow() const override { return Handle(); }
+  CUString PartName(int) const override;
+  int PartRole(int) const override;
+  int PartState(int) const override;
+  RECT PartRect(int) const override { return ClientRect(); }
+  CUString PartAction(int) const override;
+  bool HasPartAction(int) const override { return true; }
+  void DoPartAction(int) override { Press(); }
+
+  CAccessibility accessibility_;
+};
