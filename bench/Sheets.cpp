@@ -70,7 +70,7 @@ HWND CreatePlainDialog(UINT templateId, HWND parent) {
 
 INT_PTR CALLBACK HostProcedure(HWND window, UINT message, WPARAM, LPARAM) {
   if (message != WM_INITDIALOG) return FALSE;
-  ShowWindow(CreatePlainDialog(IDD_GRAPHIC_PAGE, window), SW_SHOW);
+  ShowWindow(CreatePlainDialog(IDD_COCKPIT_PAGE, window), SW_SHOW);
   return TRUE;
 }
 

@@ -1,5 +1,6 @@
 #include "ui/PageCatalogue.h"
 
+#include "cockpit/CNemUICockpitPage.h"
 #include "MessageIds.h"
 #include "pages/CNemUIFormatPage.h"
 #include "pages/CNemUINoDocSettingsPage.h"
@@ -23,6 +24,7 @@ constexpr PageCatalogueRow kPages[] = {
      Make<CNemUIPdfGraphicPage>,
      Make<CNemUIPdfGraphicPage>},
     {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
+    {{IDD_COCKPIT_PAGE, 0, MSG_PAGE_COCKPIT, 120, 321, 322}, Make<CNemUICockpitPage>, Make<CNemUICockpitPage>},
     {{IDD_ACTION_PAGE, 0, MSG_PAGE_ACTIONS, 102, 237, 238}, nullptr, kPlaceholder},
     {{IDD_MAIL_PAGE, 0, MSG_PAGE_MAIL, 104, 243, 244}, nullptr, kPlaceholder},
     {{IDD_SAVING_PAGE, 0, MSG_PAGE_SAVING, 103, 255, 256}, nullptr, kPlaceholder},

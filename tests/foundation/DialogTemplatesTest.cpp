@@ -201,6 +201,7 @@ TEST(DialogTemplates, ALabelWithAnAccessKeyStandsBeforeItsField) {
 TEST(DialogTemplates, TranslationsDifferFromTheEnglishText) {
   const std::map<WORD, std::set<std::wstring>> same = {
       {kGerman, {L"e.pdf:"}},
+      {kGerman, {L"Layout"}},
       {kFrench, {}},
       {kArabic, {L"e.pdf:"}},
   };

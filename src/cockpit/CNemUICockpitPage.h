@@ -1,0 +1,17 @@
+#pragma once
+
+#include "cockpit/CCockpitPage.h"
+#include "sheet/CNemUISettingsPage.h"
+
+// The cockpit writes no property of its own. When the factory state was restored, the pages write theirs.
+class CNemUICockpitPage : public CNemUISettingsPage<CCockpitPage> {
+ public:
+  using CNemUISettingsPage::CNemUISettingsPage;
+
+  // The paper page is not among them: its properties change only where the user has opened it.
+  void WriteAllPages();
+
+ protected:
+  std::span<const PropertyBinding<CCockpitPage>> Bindings() const override { return {}; }
+  void OnPropertiesWritten() override;
+};
