@@ -38,8 +38,8 @@ bool CNoteBox::Create(const CWnd& parent, int id, const RECT& rect) {
   return true;
 }
 
-void CNoteBox::DrawNote(HDC dc, RECT rect, COLORREF color, UINT format) const {
-  const SelectScope font(dc, Font());
+void CNoteBox::DrawNote(HDC dc, RECT rect, COLORREF color, HFONT font, UINT format) const {
+  const SelectScope scope(dc, font ? font : Font());
   ::SetBkMode(dc, TRANSPARENT);
   ::SetTextColor(dc, color);
   ::DrawTextW(dc, NoteText().Text(), NoteText().Length(), &rect, DT_WORDBREAK | DT_NOPREFIX | format);

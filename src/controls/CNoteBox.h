@@ -29,8 +29,8 @@ class CNoteBox : public CSubclassed<CButton>, private CAccessibleSource {
   explicit CNoteBox(const NoteStyle& style) : style_(style) {}
 
   virtual void Draw(HDC dc, const RECT& client) const = 0;
-  // Draws the text in the box's font, broken into lines. `format` is added to that.
-  void DrawNote(HDC dc, RECT rect, COLORREF color, UINT format = 0) const;
+  // Draws the text in the box's font or another one, broken into lines. `format` is added to that.
+  void DrawNote(HDC dc, RECT rect, COLORREF color, HFONT font = nullptr, UINT format = 0) const;
 
   void OnDestroyed() override { accessibility_.Disconnect(); }
   bool OnWindowMessage(WindowMessage& message) override;

@@ -30,7 +30,7 @@ void CTextBox::Draw(HDC dc, const RECT& client) const {
   const bool highContrast = IsHighContrast();
   const auto white = static_cast<HBRUSH>(::GetStockObject(WHITE_BRUSH));
   ::FillRect(dc, &client, highContrast ? ::GetSysColorBrush(COLOR_WINDOW) : white);
-  DrawNote(dc, client, highContrast ? ::GetSysColor(COLOR_WINDOWTEXT) : RGB(0, 0, 0), DT_CENTER);
+  DrawNote(dc, client, highContrast ? ::GetSysColor(COLOR_WINDOWTEXT) : RGB(0, 0, 0), nullptr, DT_CENTER);
 }
 
 int CTextBox::PartRole(int) const { return ROLE_SYSTEM_STATICTEXT; }

@@ -3,6 +3,8 @@
 // behind Windows.h
 #include <oleacc.h>
 
+#include <algorithm>
+
 #include "controls/ToolTipPlacement.h"
 
 namespace {
@@ -40,7 +42,31 @@ void CToolTipBox::Draw(HDC dc, const RECT& client) const {
   ::FrameRect(dc, &client, frame.Get());
   RECT inside = client;
   ::InflateRect(&inside, -Scale(kInset), -Scale(kInset));
-  DrawNote(dc, inside, highContrast ? ::GetSysColor(COLOR_INFOTEXT) : RGB(0, 0, 0));
+  const GdiFont narrow = FontThatFits(dc, inside);
+  DrawNote(dc, inside, highContrast ? ::GetSysColor(COLOR_INFOTEXT) : RGB(0, 0, 0), narrow.Get());
+}
+
+bool CToolTipBox::Fits(HDC dc, HFONT font, const RECT& inside) const {
+  const SelectScope scope(dc, font);
+  RECT needed = inside;
+  ::DrawTextW(dc, text.Text(), text.Length(), &needed, DT_WORDBREAK | DT_NOPREFIX | DT_CALCRECT);
+  return needed.bottom <= inside.bottom;
+}
+
+// The box is measured by the number of characters and lines. A face whose letters are wider than that is drawn narrower
+// rather than broken into more lines, the last of which would be cut. Null when the box's own font will do.
+GdiFont CToolTipBox::FontThatFits(HDC dc, const RECT& inside) const {
+  if (Fits(dc, Font(), inside)) return {};
+  TEXTMETRICW metrics{};
+  {
+    const SelectScope scope(dc, Font());
+    ::GetTextMetricsW(dc, &metrics);
+  }
+  const LONG narrowest = std::max(1L, metrics.tmAveCharWidth * 3 / 5);
+  for (LONG width = metrics.tmAveCharWidth - 1;; --width) {
+    GdiFont narrow = DeriveFont(Font(), [width](LOGFONTW& description) { description.lfWidth = width; });
+    if (width <= narrowest || Fits(dc, narrow.Get(), inside)) return narrow;
+  }
 }
 
 void CToolTipBox::OnMouseMove(WPARAM keys, LPARAM point) const {

@@ -28,5 +28,7 @@ class CToolTipBox : public CNoteBox {
  private:
   void Draw(HDC dc, const RECT& client) const override;
   int PartRole(int) const override;
+  bool Fits(HDC dc, HFONT font, const RECT& inside) const;
+  GdiFont FontThatFits(HDC dc, const RECT& inside) const;
   void OnMouseMove(WPARAM keys, LPARAM point) const;
 };

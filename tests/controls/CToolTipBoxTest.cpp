@@ -115,6 +115,26 @@ TEST(CToolTipBox, BreaksLongLines) {
   EXPECT_GT(inked.bottom - inked.top, 2 * 11);
 }
 
+// Wide letters need more than the five pixels that a character has in the box: they are drawn narrower, so that no line
+// is broken in two and the last one cut.
+TEST(CToolTipBox, DrawsWideLettersNarrowerWhereTheyWouldNotFit) {
+  const auto rowsOfInk = [](const wchar_t* line, int lineCount) {
+    ControlDialog page;
+    CToolTipBox tip;
+    tip.text = line;
+    tip.lineCount = lineCount;
+    tip.widthInCharacters = tip.text.Length();
+    tip.mousePosition = kMouse;
+    EXPECT_TRUE(tip.Open(page, kId));
+    const Picture picture = Paint(tip);
+    const RECT inked = Inked(Cut(picture, {1, 1, picture.width - 1, picture.height - 1}), kTipGround);
+    return inked.bottom - inked.top;
+  };
+  EXPECT_LT(rowsOfInk(L"ODOG ODOG ODOG ODOG ODOG", 1), 13) << "one line";
+  EXPECT_LT(rowsOfInk(L"lili lili lili lili lili", 1), 13);
+  EXPECT_GT(rowsOfInk(L"WWWW WWWW WWWW WWWW WWWW", 2), 13) << "what is too wide all the same is broken";
+}
+
 TEST(CToolTipBox, HasSystemColorsInHighContrast) {
   const SystemColorScope colors({{COLOR_INFOBK, RGB(1, 2, 3)}, {COLOR_INFOTEXT, RGB(250, 251, 252)}});
   const HighContrastScope contrast;
