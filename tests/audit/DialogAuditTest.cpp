@@ -7,6 +7,7 @@
 // behind windows.h
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cstdio>
 #include <map>
 #include <ostream>
@@ -51,6 +52,8 @@ AuditOptions OptionsFor(const Language& language, int dpi, const PageInfo* page)
   options.mirrored = language.mirrored;
   options.dpi = dpi;
   options.size = page ? page->size : SIZE{275, 245};  // the placeholder is as large as most pages
+  // A page gets the room of the host's tab control: 259 units less 4 pixels, a pixel or two short of the cockpit's 257.
+  options.size.cy = std::min(options.size.cy, LONG{256});
   for (const auto& [pageId, keys] : kEnglishDoubleKeys)
     if (page && page->id == pageId && &language == &kEnglish) options.allowedDoubleKeys = keys;
   return options;
