@@ -9,6 +9,13 @@ namespace {
 
 constexpr int kDocumentTab = 1;
 
+void WritePicture(const Sheet& sheet, const std::wstring& file, GalleryResult& result) {
+  SendMessageW(sheet.Window(), WM_NCACTIVATE, TRUE, 0);  // its title as the user sees it, whoever is active
+  HRESULT error = S_OK;
+  EXPECT_TRUE(SavePng(Capture(sheet.Window()), file, &error)) << ToUtf8(file) << ": " << std::hex << error;
+  result.written.push_back(file);
+}
+
 }  // namespace
 
 SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result) {
@@ -24,12 +31,20 @@ SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring langua
         result.missing.push_back(name + (tab == kDocumentTab ? " (document)" : ""));
         continue;
       }
-      SendMessageW(sheet.Window(), WM_NCACTIVATE, TRUE, 0);  // its title as the user sees it, whoever is active
-      const std::wstring file = directory + L"\\" + language + L"-" + std::to_wstring(page.id) + L"-" + ToWide(name) +
-                                (tab == kDocumentTab ? L"-document.png" : L".png");
-      HRESULT error = S_OK;
-      EXPECT_TRUE(SavePng(Capture(sheet.Window()), file, &error)) << ToUtf8(file) << ": " << std::hex << error;
-      result.written.push_back(file);
+      WritePicture(sheet,
+                   directory + L"\\" + language + L"-" + std::to_wstring(page.id) + L"-" + ToWide(name) +
+                       (tab == kDocumentTab ? L"-document.png" : L".png"),
+                   result);
     }
   }
+}
+
+SheetTask WriteCockpit(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result) {
+  constexpr int kCockpit = 120;
+  sheet.SelectTab(0);
+  co_await sheet.Settled();
+  bool shown = sheet.PageId() == kCockpit;
+  if (!shown) co_await ClickPage(sheet, kCockpit, shown);
+  CO_ASSERT_TRUE(shown);
+  WritePicture(sheet, directory + L"\\" + language + L"-120-cockpit-changed.png", result);
 }

@@ -15,3 +15,6 @@ struct GalleryResult {
 // each page: "<directory>\<language>-<number>-<name>.png", on the second tab with "-document" behind the name. The
 // sheet stays open.
 SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result);
+
+// The cockpit of the first tab alone, as "<directory>\<language>-120-cockpit-changed.png".
+SheetTask WriteCockpit(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result);

@@ -1,8 +1,9 @@
 // nempdf_gallery DIRECTORY
 //
-// Writes pictures of all pages of both tabs in all languages to the directory, with the values of the host's sample.
-// Each language needs a process of its own, since the library takes up its language when it is loaded: the program
-// starts itself again as "nempdf_gallery DIRECTORY LANGUAGE".
+// Writes pictures of all pages of both tabs in all languages to the directory, with the values of the host's sample,
+// and one of the cockpit with something changed in each of its rows. Each language needs a process of its own, since
+// the library takes up its language when it is loaded: the program starts itself again as "nempdf_gallery DIRECTORY
+// LANGUAGE".
 #include <windows.h>
 // behind windows.h
 #include <gtest/gtest.h>
@@ -46,17 +47,58 @@ bool FillDialog(NemPdfUIHandle dialog) {
   return true;
 }
 
+// Marks all rows of the cockpit: those of the pages that there are.
+bool ChangeAllCategories(NemPdfUIHandle dialog) {
+  constexpr struct {
+    const wchar_t* name;
+    int32_t value;
+  } kChanges[] = {
+      {L"GraphicJpegQuality", 60},
+      {L"Orientation", 2},
+      {L"PaperScaleWidth", 50},
+      {L"PaperMarginCenter", 0},
+      {L"OpenLayout", 1},
+      {L"HideToolbar", 1},
+      {L"FontsEmbedded", 1},
+      {L"WatermarkEnabled", 1},
+      {L"StationeryEnabled", 1},
+      {L"UseHyperlinkRecognition", 0},
+      {L"EmbedFilenamesEnabled", 1},
+      {L"OutlineStylesEnabled", 1},
+      {L"FileExistsAction", 1},
+      {L"PdfVersion", 17},
+      {L"SaveConversion", 1},
+      {L"StartAction", 2 | 4},
+      {L"Colorspace", 1},
+      {L"ZUGFeRD", 1},
+      {L"ShowFormfields", 1},
+      {L"FormfieldUseTextfieldBorder", 1},
+      {L"FormfieldUseCheckboxBorder", 0},
+      {L"FormfieldUseDropdownBorder", 1},
+      {L"EncryptOwnerPasswordEnabled", 1},
+      {L"EncryptUserPasswordEnabled", 1},
+  };
+  for (const auto& [name, value] : kChanges)
+    if (NemPdfUISetPropertyW(dialog, 0, name, &value) != 1) return false;
+  return NemPdfUISetPropertyW(dialog, 0, L"Title", L"Invoice") == 1;
+}
+
 int WriteLanguage(const std::wstring& directory, const std::wstring& language) {
   SetProcessDPIAware();
   NemPdfUIHandle dialog = nullptr;
   if (NemPdfUICreateDialog(&dialog) != 1 || !dialog || !FillDialog(dialog)) return 1;
   GalleryResult gallery;
-  SheetDriver(kTimeoutSeconds)
-      .Run([dialog] { return NemPdfUIDoModal(dialog); },
-           [&](Sheet& sheet) -> SheetTask {
-             co_await WriteGallery(sheet, directory, language, gallery);
-             sheet.PressCancel();
-           });
+  const auto run = [&](const auto& write) {
+    SheetDriver(kTimeoutSeconds)
+        .Run([dialog] { return NemPdfUIDoModal(dialog); },
+             [&](Sheet& sheet) -> SheetTask {
+               co_await write(sheet, directory, language, gallery);
+               sheet.PressCancel();
+             });
+  };
+  run(WriteGallery);
+  EXPECT_TRUE(ChangeAllCategories(dialog));
+  run(WriteCockpit);
   NemPdfUIFreeDialog(&dialog);
 
   std::printf("%s: %zu pictures", ToUtf8(language).c_str(), gallery.written.size());
