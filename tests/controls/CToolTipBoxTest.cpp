@@ -118,21 +118,21 @@ TEST(CToolTipBox, BreaksLongLines) {
 // Wide letters need more than the five pixels that a character has in the box: they are drawn narrower, so that no line
 // is broken in two and the last one cut.
 TEST(CToolTipBox, DrawsWideLettersNarrowerWhereTheyWouldNotFit) {
-  const auto rowsOfInk = [](const wchar_t* line, int lineCount) {
+  const auto heightOfInk = [](const wchar_t* text) {
     ControlDialog page;
     CToolTipBox tip;
-    tip.text = line;
-    tip.lineCount = lineCount;
-    tip.widthInCharacters = tip.text.Length();
+    tip.text = text;
+    tip.lineCount = 2;
+    tip.widthInCharacters = 24;
     tip.mousePosition = kMouse;
     EXPECT_TRUE(tip.Open(page, kId));
     const Picture picture = Paint(tip);
     const RECT inked = Inked(Cut(picture, {1, 1, picture.width - 1, picture.height - 1}), kTipGround);
     return inked.bottom - inked.top;
   };
-  EXPECT_LT(rowsOfInk(L"ODOG ODOG ODOG ODOG ODOG", 1), 13) << "one line";
-  EXPECT_LT(rowsOfInk(L"lili lili lili lili lili", 1), 13);
-  EXPECT_GT(rowsOfInk(L"WWWW WWWW WWWW WWWW WWWW", 2), 13) << "what is too wide all the same is broken";
+  const LONG twoLines = heightOfInk(L"HHHH HHHH\nHHHH");
+  EXPECT_EQ(twoLines, heightOfInk(L"ODOG ODOG ODOG ODOG ODOG\nHHHH"));
+  EXPECT_LT(twoLines, heightOfInk(L"WWWW WWWW WWWW WWWW WWWW WWWW WWWW\nHHHH")) << "far too wide: broken all the same";
 }
 
 TEST(CToolTipBox, HasSystemColorsInHighContrast) {
