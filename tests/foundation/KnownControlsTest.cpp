@@ -69,7 +69,7 @@ constexpr KnownControl kKnownControls[] = {
     {192, 1276, L"Static", L""},
     {192, 1249, L"Static", L"Manual"},
     {1365, IDC_COCKPIT_EXPLANATION, L"Static", L"Here you can conduct and modify user specific settings."},
-    {1365, IDC_COCKPIT_RESTORE_PROMPT, L"Static", L"To reset the settings, please click here:"},
+    {1365, IDC_COCKPIT_RESTORE_LABEL, L"Static", L"To reset the settings, please click here:"},
     {1365, 1444, L"Button", L"Restore defaults"},
     {1365, IDC_COCKPIT_FILE_SIZE_GROUP, L"Button", L"File size"},
     {1365, IDC_COCKPIT_LAYOUT_GROUP, L"Button", L"Layout"},

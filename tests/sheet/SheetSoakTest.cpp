@@ -26,28 +26,33 @@ void OpenAndCloseOne(bool ok) {
 
 INT_PTR CALLBACK PlainProcedure(HWND, UINT message, WPARAM, LPARAM) { return message == WM_INITDIALOG; }
 
-// The platform's own sheet with two pages of the graphic page's template.
+// The platform's own sheet with the same pages: the cockpit and the graphic page, of two tabs.
 void OpenAndCloseBareOne() {
-  const std::vector<BYTE> dialog = LoadDialogTemplate(IDD_GRAPHIC_PAGE);
-  PROPSHEETPAGEW pages[2]{};
-  for (PROPSHEETPAGEW& page : pages) {
+  constexpr UINT kTemplates[] = {IDD_COCKPIT_PAGE, IDD_GRAPHIC_PAGE, IDD_COCKPIT_PAGE, IDD_GRAPHIC_PAGE};
+  std::vector<BYTE> dialogs[std::size(kTemplates)];
+  PROPSHEETPAGEW pages[std::size(kTemplates)]{};
+  for (size_t i = 0; i < std::size(pages); ++i) {
+    dialogs[i] = LoadDialogTemplate(kTemplates[i]);
+    PROPSHEETPAGEW& page = pages[i];
     page.dwSize = sizeof page;
     page.dwFlags = PSP_DLGINDIRECT;
     page.hInstance = GetModuleHandleW(nullptr);
-    page.pResource = reinterpret_cast<const DLGTEMPLATE*>(dialog.data());
+    page.pResource = reinterpret_cast<const DLGTEMPLATE*>(dialogs[i].data());
     page.pfnDlgProc = PlainProcedure;
   }
   PROPSHEETHEADERW header{};
   header.dwSize = sizeof header;
   header.dwFlags = PSH_PROPSHEETPAGE | PSH_NOAPPLYNOW;
   header.hInstance = GetModuleHandleW(nullptr);
-  header.nPages = 2;
+  header.nPages = static_cast<UINT>(std::size(pages));
   header.ppsp = pages;
   const CActivationScope look;
   RunSheet([&header] { return PropertySheetW(&header); },
            [](Sheet& sheet) -> SheetTask {
-             sheet.SelectTab(1);
-             co_await sheet.Settled();
+             for (int tab = 1; tab < sheet.TabCount(); ++tab) {
+               sheet.SelectTab(tab);
+               co_await sheet.Settled();
+             }
              sheet.PressOk();
            });
 }
