@@ -21,15 +21,15 @@ void CDataExchange::SetNumber(int id, long value) const {
 
 long CDataExchange::NumberIn(int id) const { return ParseDecimal(dialog_.Item(id).Text().Text()); }
 
-void CDataExchange::MoveRadio(int firstId, int lastId, int& index) {
-  if (IsLoading()) ::CheckRadioButton(dialog_.Handle(), firstId, lastId, firstId + index);
-  if (!IsSaving()) return;
+void CDataExchange::ShowRadio(int firstId, int lastId, int index) const {
+  ::CheckRadioButton(dialog_.Handle(), firstId, lastId, firstId + index);
+}
+
+// Which one is on, from 0; -1 when none is.
+int CDataExchange::ChosenRadio(int firstId, int lastId) const {
   for (int id = firstId; id <= lastId; ++id)
-    if (IsChecked(id)) {
-      index = id - firstId;
-      return;
-    }
-  Fail(firstId);
+    if (IsChecked(id)) return id - firstId;
+  return -1;
 }
 
 void CDataExchange::Text(int id, CUString& value) {
@@ -39,14 +39,25 @@ void CDataExchange::Text(int id, CUString& value) {
 
 void CDataExchange::MoveChoice(int id, const ValueRow* table, int32_t& value) {
   const CComboBox combo(dialog_.Item(id));
-  if (IsLoading()) combo.Select(RowOfValue(table, value));
+  if (IsLoading()) {
+    const bool filled = combo.Count() > 0 || FillFromTable(combo, table);
+    if (!filled || !combo.Select(RowOfValue(table, value))) Fail(id);
+  }
   if (!IsSaving()) return;
   const int row = combo.Selection();
   value = table[row < 0 ? 0 : row].value;
   if (row < 0) Fail(id);
 }
 
-void FillFromTable(const CComboBox& combo, const ValueRow* table) {
+bool FillFromTable(const CComboBox& combo, const ValueRow* table) {
   combo.Reset();
-  for (int row = 0; row < RowCount(table); ++row) combo.AddString(MessageText(table[row].messageId).Text());
+  for (int row = 0; row < RowCount(table); ++row)
+    if (combo.AddString(MessageText(table[row].messageId).Text()) < 0) return false;
+  return true;
+}
+
+std::optional<int32_t> SelectedValue(const CComboBox& combo, const ValueRow* table) {
+  const int row = combo.Selection();
+  if (row < 0) return std::nullopt;
+  return table[row].value;
 }

@@ -5,7 +5,11 @@
 // control of the failed step.
 #pragma once
 
+#include <optional>
+#include <type_traits>
+
 #include "window/Controls.h"
+#include "window/NumberEdit.h"
 #include "window/ValueTable.h"
 
 class CDataExchange {
@@ -26,12 +30,18 @@ class CDataExchange {
     if (IsSaving()) value = static_cast<T>(IsChecked(id) ? 1 : 0);
   }
 
-  // The radio buttons `firstId` to `lastId` and a member that counts from 0 which of them is on; none on fails.
+  // The radio buttons `firstId` to `lastId` and a member that counts from 0 which of them is on. None on stores `none`
+  // where that is given, and fails otherwise.
   template <class T>
-  void Radio(int firstId, int lastId, T& index) {
-    int chosen = static_cast<int>(index);
-    MoveRadio(firstId, lastId, chosen);
-    if (IsSaving()) index = static_cast<T>(chosen);
+  void Radio(int firstId, int lastId, T& index, std::optional<std::type_identity_t<T>> none = {}) {
+    if (IsLoading()) ShowRadio(firstId, lastId, static_cast<int>(index));
+    if (!IsSaving()) return;
+    if (const int chosen = ChosenRadio(firstId, lastId); chosen >= 0)
+      index = static_cast<T>(chosen);
+    else if (none)
+      index = *none;
+    else
+      Fail(firstId);
   }
 
   // An edit, a static or a combo's edit field, and a text.
@@ -44,8 +54,15 @@ class CDataExchange {
     if (IsSaving()) value = static_cast<T>(NumberIn(id));
   }
 
-  // A combo that was filled from a value table, and the stored value. Loading selects the value's row, or the first;
-  // saving with no row selected stores the first row's value and fails.
+  // The same with a number that has to keep to a rule: saving corrects it first, and drops its decimal place.
+  template <class T>
+  void Number(int id, const NumberRule& rule, T& value) {
+    if (IsLoading()) SetNumber(id, static_cast<long>(value));
+    if (IsSaving()) value = static_cast<T>(CorrectNumber(dialog_, id, rule));
+  }
+
+  // A combo with the rows of a value table, and the stored value. Loading fills a combo that is empty, and selects the
+  // value's row, or the first; saving with no row selected stores the first row's value and fails.
   template <class T>
   void Choice(int id, const ValueRow* table, T& value) {
     int32_t stored = static_cast<int32_t>(value);
@@ -58,7 +75,8 @@ class CDataExchange {
   void SetChecked(int id, bool checked) const;
   void SetNumber(int id, long value) const;
   long NumberIn(int id) const;
-  void MoveRadio(int firstId, int lastId, int& index);
+  void ShowRadio(int firstId, int lastId, int index) const;
+  int ChosenRadio(int firstId, int lastId) const;
   void MoveChoice(int id, const ValueRow* table, int32_t& value);
 
   CWnd dialog_;
@@ -67,5 +85,8 @@ class CDataExchange {
   int failedControl_ = 0;
 };
 
-// Fills a combo with the texts of a value table, in its order.
-void FillFromTable(const CComboBox& combo, const ValueRow* table);
+// Fills a combo with the texts of a value table, in its order. False when a row could not be inserted.
+bool FillFromTable(const CComboBox& combo, const ValueRow* table);
+
+// The stored value of the selected row; nothing without a selection.
+std::optional<int32_t> SelectedValue(const CComboBox& combo, const ValueRow* table);

@@ -41,7 +41,8 @@ class CComboBox : public CWnd {
   int Count() const { return static_cast<int>(Send(CB_GETCOUNT)); }
   // The selected row, or -1.
   int Selection() const { return static_cast<int>(Send(CB_GETCURSEL)); }
-  void Select(int row) const { Send(CB_SETCURSEL, static_cast<WPARAM>(row)); }
+  // False when there is no such row; -1 takes the selection away.
+  bool Select(int row) const { return static_cast<int>(Send(CB_SETCURSEL, static_cast<WPARAM>(row))) == row; }
   void LimitText(int characters) const { Send(CB_LIMITTEXT, static_cast<WPARAM>(characters)); }
   CUString RowText(int row) const;
   // The text of the selected row, empty when there is none. While a selection is being announced (CBN_SELCHANGE) the

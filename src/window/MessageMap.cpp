@@ -26,7 +26,7 @@ bool Fits(const MessageRow& row, const WindowMessage& message) {
 
 }  // namespace
 
-bool DispatchMessages(std::span<const MessageRow> table, CMessageTarget& target, WindowMessage& message) {
+bool DispatchMessages(MessageTable table, CMessageTarget& target, WindowMessage& message) {
   for (const MessageRow& row : table)
     if (Fits(row, message)) return row.handle(target, message);
   return false;

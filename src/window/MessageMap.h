@@ -1,17 +1,20 @@
 // Dispatch of window messages. Every object behind a window is a CMessageTarget; beside the typed virtuals for the
-// life cycle each class has one constant table of what else can happen to it. It is a private static member, so that
-// it may name private handlers:
+// life cycle each class has one constant table of what else can happen to it. A page gives it by Messages, inside of
+// which private handlers may be named:
 //
-//   const MessageRow CPdfGraphicPage::kMessages[] = {
-//       OnClick<&CPdfGraphicPage::OnModeClicked>(IDC_GRAPHIC_BY_FILE_SIZE),
-//       OnCommand<&CPdfGraphicPage::OnResolutionChanged>(IDC_GRAPHIC_RESOLUTION, CBN_EDITCHANGE),
-//       OnMessage<&CPdfGraphicPage::OnScroll>(WM_HSCROLL),
-//   };
+//   MessageTable CPdfGraphicPage::Messages() const {
+//     static constexpr MessageRow kMessages[] = {
+//         OnClick<&CPdfGraphicPage::OnModeClicked>(IDC_GRAPHIC_BY_FILE_SIZE),
+//         OnCommand<&CPdfGraphicPage::OnResolutionEdited>(IDC_GRAPHIC_RESOLUTION, CBN_EDITCHANGE),
+//         OnMessage<&CPdfGraphicPage::OnScroll>(WM_HSCROLL),
+//     };
+//     return kMessages;
+//   }
 //
-// and one line that looks it up before its base class:
+// A class that is no page looks its table up by itself, before its base class:
 //
-//   bool CPdfGraphicPage::OnWindowMessage(WindowMessage& message) {
-//     return DispatchMessages(kMessages, *this, message) || CNemUIPage::OnWindowMessage(message);
+//   bool CCockpitSquare::OnWindowMessage(WindowMessage& message) {
+//     return DispatchMessages(kMessages, *this, message) || CSubclassed::OnWindowMessage(message);
 //   }
 //
 // A handler takes nothing, the two arguments of the message, or the WindowMessage itself; it gives nothing or the
@@ -106,6 +109,8 @@ bool Invoke(CMessageTarget& target, WindowMessage& message) {
 
 }  // namespace message_map
 
+using MessageTable = std::span<const MessageRow>;
+
 template <auto Handler>
 constexpr MessageRow OnMessage(UINT message) {
   return {message, 0, 0, 0, &message_map::Invoke<Handler>};
@@ -132,7 +137,7 @@ constexpr MessageRow OnUpdateCommandRange(int firstId, int lastId) {
 }
 
 // Looks the message up in the table and calls the first row that fits; false when there is none.
-bool DispatchMessages(std::span<const MessageRow> table, CMessageTarget& target, WindowMessage& message);
+bool DispatchMessages(MessageTable table, CMessageTarget& target, WindowMessage& message);
 
 // Runs a handler at the border to the platform, which no exception may cross: a caught one is traced under `place`,
 // and the target chooses the answer.

@@ -8,6 +8,7 @@
 #include "MessageIds.h"
 #include "support/FakeSheet.h"
 #include "support/PrintText.h"
+#include "window/CSubclassedControl.h"
 
 namespace {
 
@@ -131,6 +132,22 @@ TEST_F(DataExchange, RadioIndexOfNoButtonTurnsAllOff) {
   }
 }
 
+TEST_F(DataExchange, RadioWithNoneOnStoresWhatStandsForIt) {
+  uint16_t index = 2;
+  CDataExchange exchange = Saving();
+  exchange.Radio(kRadio, kLastRadio, index, 0xFFFF);
+  EXPECT_EQ(0xFFFF, index);
+  EXPECT_FALSE(exchange.HasFailed());
+  CDataExchange loading = Loading();
+  loading.Radio(kRadio, kLastRadio, index, 0xFFFF);
+  EXPECT_EQ(std::vector<int>(), CheckedRadios());
+  EXPECT_EQ(0xFFFF, index);
+  SendMessageW(dialog_.Item(kRadio + 1).Handle(), BM_SETCHECK, BST_CHECKED, 0);
+  CDataExchange saving = Saving();
+  saving.Radio(kRadio, kLastRadio, index, 0xFFFF);
+  EXPECT_EQ(1, index);
+}
+
 // --- Texts and numbers ---------------------------------------------------------------------------------------------
 
 TEST_F(DataExchange, TextMovesBothWays) {
@@ -180,6 +197,57 @@ TEST_F(DataExchange, NumberIsReadAndTextWithoutOneCountsAsZero) {
   }
 }
 
+constexpr NumberRule kRule = {.room = 6, .minimum = 1, .maximum = 300.5, .fallback = 7.5};
+
+struct RuleCase {
+  const wchar_t *text, *corrected;
+  double number;
+};
+
+TEST_F(DataExchange, CorrectNumberReplacesWhatBreaksTheRule) {
+  for (const auto& [text, corrected, number] : {
+           RuleCase{L"1", L"1", 1},
+           {L"0.95", L"0.95", 1},  // rounded to one decimal place first
+           {L"0.94", L"7.5", 7.5},
+           {L"300.5", L"300.5", 300.5},
+           {L"300.6", L"7.5", 7.5},
+           {L" 12.34", L"7.5", 7.5},  // six characters
+           {L"12.34", L"12.34", 12.3},
+           {L"-5", L"7.5", 7.5},
+           {L"", L"7.5", 7.5},
+           {L"mm", L"7.5", 7.5},
+       }) {
+    dialog_.Item(kEdit).SetText(text);
+    EXPECT_EQ(number, CorrectNumber(dialog_, kEdit, kRule)) << ToUtf8(text);
+    EXPECT_EQ(corrected, TextOf(kEdit)) << ToUtf8(text);
+    EXPECT_EQ(number, CorrectNumber(dialog_, kEdit, kRule)) << "again: " << ToUtf8(text);
+  }
+}
+
+TEST_F(DataExchange, ShowNumberWritesNoMoreDecimalPlacesThanThereAre) {
+  for (const auto& [number, text] : {std::pair{210.0, L"210"}, {99.5, L"99.5"}, {6553.5, L"6553.5"}, {0.0, L"0"}}) {
+    ShowNumber(dialog_, kEdit, number);
+    EXPECT_EQ(text, TextOf(kEdit));
+  }
+}
+
+TEST_F(DataExchange, NumberWithARuleShowsAnyAndStoresWhatKeepsIt) {
+  uint16_t member = 40000;
+  CDataExchange loading = Loading();
+  loading.Number(kEdit, kRule, member);
+  EXPECT_EQ(L"40000", TextOf(kEdit));
+  EXPECT_EQ(40000, member);
+  CDataExchange saving = Saving();
+  saving.Number(kEdit, kRule, member);
+  EXPECT_EQ(7, member) << "without its decimal place";
+  EXPECT_EQ(L"7.5", TextOf(kEdit));
+  EXPECT_FALSE(saving.HasFailed());
+  dialog_.Item(kEdit).SetText(L"12.34");
+  CDataExchange again = Saving();
+  again.Number(kEdit, kRule, member);
+  EXPECT_EQ(12, member);
+}
+
 // --- Choices -------------------------------------------------------------------------------------------------------
 
 TEST_F(DataExchange, FillFromTableShowsTheTextsInTheirOrder) {
@@ -223,6 +291,56 @@ TEST_F(DataExchange, ChoiceWithoutASelectionStoresTheFirstRowAndFails) {
   EXPECT_EQ(7, member);
   EXPECT_TRUE(exchange.HasFailed());
   EXPECT_EQ(kList, exchange.FailedControl());
+}
+
+TEST_F(DataExchange, ChoiceFillsAnEmptyComboOnce) {
+  const CComboBox combo(dialog_.Item(kDropDown));
+  ASSERT_EQ(0, combo.Count());
+  int member = -3;
+  for (int times = 0; times < 2; ++times) {
+    CDataExchange exchange = Loading();
+    exchange.Choice(kDropDown, kRows, member);
+    EXPECT_FALSE(exchange.HasFailed());
+    EXPECT_EQ(3, combo.Count());
+    EXPECT_EQ(2, combo.Selection());
+    EXPECT_EQ(L"Actions", combo.RowText(2));
+  }
+}
+
+// A combo that refuses one message.
+class RefusingCombo final : public CSubclassed<CComboBox> {
+ public:
+  explicit RefusingCombo(UINT refused) : refused_(refused) {}
+  bool OnWindowMessage(WindowMessage& message) override {
+    if (message.message != refused_) return false;
+    message.result = CB_ERR;
+    return true;
+  }
+
+ private:
+  const UINT refused_;
+};
+
+TEST_F(DataExchange, ChoiceFailsWhenARowCannotBeInsertedOrSelected) {
+  for (const UINT refused : {CB_ADDSTRING, CB_SETCURSEL}) {
+    RefusingCombo combo(refused);
+    ASSERT_TRUE(combo.Attach(dialog_, kDropDown));
+    combo.Reset();
+    EXPECT_EQ(refused != CB_ADDSTRING, FillFromTable(combo, kRows));
+    int member = 0;
+    CDataExchange exchange = Loading();
+    exchange.Choice(kDropDown, kRows, member);
+    EXPECT_TRUE(exchange.HasFailed()) << refused;
+    EXPECT_EQ(kDropDown, exchange.FailedControl());
+  }
+}
+
+TEST_F(DataExchange, SelectedValueIsThatOfTheRow) {
+  const CComboBox combo(dialog_.Item(kList));
+  SelectRow(2);
+  EXPECT_EQ(-3, SelectedValue(combo, kRows));
+  SelectRow(-1);
+  EXPECT_EQ(std::nullopt, SelectedValue(combo, kRows));
 }
 
 // --- Failure -------------------------------------------------------------------------------------------------------
