@@ -9,5 +9,5 @@ class CNemUINoDocSettingsPage : public CNemUISettingsPage<CNoDocSettingsPage> {
   using CNemUISettingsPage::CNemUISettingsPage;
 
  protected:
-  std::span<const PropertyBinding<CNoDocSettingsPage>> Bindings() const override { return {}; }
+  BindingTable Bindings() const override { return {}; }
 };

@@ -1,19 +1,16 @@
 #include "pages/CNemUIPdfGraphicPage.h"
 
-namespace {
-
-constexpr PropertyBinding<CPdfGraphicPage> kBindings[] = {
-    Bind<&CPdfGraphicPage::compressMethod, &CDialogProperties::GraphicCompressMethod>(),
-    Bind<&CPdfGraphicPage::jpegQuality, &CDialogProperties::GraphicJpegQuality>(),
-    Bind<&CPdfGraphicPage::resolution, &CDialogProperties::GraphicResolution>(),
-    Bind<&CPdfGraphicPage::colorReduction, &CDialogProperties::GraphicColorReduction>(),
-    Bind<&CPdfGraphicPage::enhancedReplacements, &CDialogProperties::EnhancedPdfReplacements>(),
-    BindOverride<&CPdfGraphicPage::resolutionOverride, &AdminSettings::GraphicResolution_Override>(),
-    BindOverride<&CPdfGraphicPage::jpegQualityOverride, &AdminSettings::GraphicJpegQuality_Override>(),
-    BindOverride<&CPdfGraphicPage::compressMethodOverride, &AdminSettings::GraphicCompressMethod_Override>(),
-    BindOverride<&CPdfGraphicPage::colorReductionOverride, &AdminSettings::GraphicColorReduction_Override>(),
-};
-
-}  // namespace
-
-std::span<const PropertyBinding<CPdfGraphicPage>> CNemUIPdfGraphicPage::Bindings() const { return kBindings; }
+auto CNemUIPdfGraphicPage::Bindings() const -> BindingTable {
+  static constexpr Binding kBindings[] = {
+      Bind<&CPdfGraphicPage::compressMethod, &CDialogProperties::GraphicCompressMethod>(),
+      Bind<&CPdfGraphicPage::jpegQuality, &CDialogProperties::GraphicJpegQuality>(),
+      Bind<&CPdfGraphicPage::resolution, &CDialogProperties::GraphicResolution>(),
+      Bind<&CPdfGraphicPage::colorReduction, &CDialogProperties::GraphicColorReduction>(),
+      Bind<&CPdfGraphicPage::enhancedReplacements, &CDialogProperties::EnhancedPdfReplacements>(),
+      BindOverride<&CPdfGraphicPage::resolutionOverride, &AdminSettings::GraphicResolution_Override>(),
+      BindOverride<&CPdfGraphicPage::jpegQualityOverride, &AdminSettings::GraphicJpegQuality_Override>(),
+      BindOverride<&CPdfGraphicPage::compressMethodOverride, &AdminSettings::GraphicCompressMethod_Override>(),
+      BindOverride<&CPdfGraphicPage::colorReductionOverride, &AdminSettings::GraphicColorReduction_Override>(),
+  };
+  return kBindings;
+}

@@ -8,5 +8,5 @@ class CNemUIPdfGraphicPage : public CNemUISettingsPage<CPdfGraphicPage> {
   using CNemUISettingsPage::CNemUISettingsPage;
 
  protected:
-  std::span<const PropertyBinding<CPdfGraphicPage>> Bindings() const override;
+  BindingTable Bindings() const override;
 };

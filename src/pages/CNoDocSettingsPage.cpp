@@ -1,7 +1,5 @@
 #include "pages/CNoDocSettingsPage.h"
 
-#include "resources/ResourceIds.h"
-
 namespace {
 
 PageDescription WithOwnTemplate(PageDescription description) {
@@ -13,11 +11,3 @@ PageDescription WithOwnTemplate(PageDescription description) {
 
 CNoDocSettingsPage::CNoDocSettingsPage(const PageDescription& standsFor)
     : CNemUIPage(WithOwnTemplate(standsFor)), replacedTemplateId_(standsFor.templateId) {}
-
-BOOL CNoDocSettingsPage::OnInitDialog() {
-  if (!CNemUIPage::OnInitDialog()) return FALSE;
-  difference_.Attach(*this, IDC_NO_DOC_SETTINGS_LINK);
-  difference_.SetNotifyParent(true);
-  difference_.SetUnderline(true);
-  return TRUE;
-}

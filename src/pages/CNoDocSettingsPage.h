@@ -1,6 +1,6 @@
 #pragma once
 
-#include "controls/CMyHyperLink.h"
+#include "resources/ResourceIds.h"
 #include "sheet/CNemUIPage.h"
 
 // Stands in for a page that has settings of new documents only: two texts and a link to the help.
@@ -10,11 +10,10 @@ class CNoDocSettingsPage : public CNemUIPage {
   explicit CNoDocSettingsPage(const PageDescription& standsFor);
 
  protected:
-  BOOL OnInitDialog() override;
+  int HelpLinkId() const override { return IDC_NO_DOC_SETTINGS_LINK; }
   // No topic of its own: only its link leads to the help.
   DWORD ContextHelpId() const override { return 0; }
 
  private:
   const uint32_t replacedTemplateId_;
-  CMyHyperLink difference_;
 };

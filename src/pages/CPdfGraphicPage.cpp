@@ -108,43 +108,34 @@ constexpr int kBoldCaptions[] = {IDC_GRAPHIC_FILE_SIZE, IDC_GRAPHIC_PICTURE_QUAL
 
 }  // namespace
 
-const MessageRow CPdfGraphicPage::kMessages[] = {
-    OnClick<&CPdfGraphicPage::OnModeClicked>(IDC_GRAPHIC_BY_FILE_SIZE),
-    OnClick<&CPdfGraphicPage::OnModeClicked>(IDC_GRAPHIC_USER_DEFINED),
-    OnCommand<&CPdfGraphicPage::OnResolutionEdited>(IDC_GRAPHIC_RESOLUTION, CBN_EDITCHANGE),
-    OnCommand<&CPdfGraphicPage::OnResolutionSelected>(IDC_GRAPHIC_RESOLUTION, CBN_SELCHANGE),
-    OnCommand<&CPdfGraphicPage::OnResolutionLeft>(IDC_GRAPHIC_RESOLUTION, CBN_KILLFOCUS),
-    OnCommand<&CPdfGraphicPage::UpdateControls>(IDC_GRAPHIC_COMPRESSION, CBN_SELCHANGE),
-    OnCommand<&CPdfGraphicPage::OnQualityEdited>(IDC_GRAPHIC_QUALITY, CBN_EDITCHANGE),
-    OnCommand<&CPdfGraphicPage::OnQualitySelected>(IDC_GRAPHIC_QUALITY, CBN_SELCHANGE),
-    OnCommand<&CPdfGraphicPage::OnQualityLeft>(IDC_GRAPHIC_QUALITY, CBN_KILLFOCUS),
-    OnMessage<&CPdfGraphicPage::OnScroll>(WM_HSCROLL),
-    OnMessage<&CPdfGraphicPage::OnMouseMove>(WM_MOUSEMOVE),
-};
-
-bool CPdfGraphicPage::OnWindowMessage(WindowMessage& message) {
-  return DispatchMessages(kMessages, *this, message) || CNemUIPage::OnWindowMessage(message);
+MessageTable CPdfGraphicPage::Messages() const {
+  static constexpr MessageRow kMessages[] = {
+      OnClick<&CPdfGraphicPage::OnModeClicked>(IDC_GRAPHIC_BY_FILE_SIZE),
+      OnClick<&CPdfGraphicPage::OnModeClicked>(IDC_GRAPHIC_USER_DEFINED),
+      OnCommand<&CPdfGraphicPage::OnResolutionEdited>(IDC_GRAPHIC_RESOLUTION, CBN_EDITCHANGE),
+      OnCommand<&CPdfGraphicPage::OnResolutionSelected>(IDC_GRAPHIC_RESOLUTION, CBN_SELCHANGE),
+      OnCommand<&CPdfGraphicPage::OnResolutionLeft>(IDC_GRAPHIC_RESOLUTION, CBN_KILLFOCUS),
+      OnCommand<&CPdfGraphicPage::UpdateControls>(IDC_GRAPHIC_COMPRESSION, CBN_SELCHANGE),
+      OnCommand<&CPdfGraphicPage::OnQualityEdited>(IDC_GRAPHIC_QUALITY, CBN_EDITCHANGE),
+      OnCommand<&CPdfGraphicPage::OnQualitySelected>(IDC_GRAPHIC_QUALITY, CBN_SELCHANGE),
+      OnCommand<&CPdfGraphicPage::OnQualityLeft>(IDC_GRAPHIC_QUALITY, CBN_KILLFOCUS),
+      OnMessage<&CPdfGraphicPage::OnScroll>(WM_HSCROLL),
+      OnMessage<&CPdfGraphicPage::OnMouseMove>(WM_MOUSEMOVE),
+  };
+  return kMessages;
 }
 
-void CPdfGraphicPage::GetCockpitValues(GraphicCockpitValues& values) {
-  ReadProperties();
-  values = {compressMethod, jpegQuality, resolution, colorReduction};
-}
-
-void CPdfGraphicPage::SetCockpitValues(const GraphicCockpitValues& values) {
-  ReadProperties();
-  if (compressMethodOverride == kUnsetNumber) compressMethod = values.compressMethod;
-  if (jpegQualityOverride == kUnsetNumber) jpegQuality = values.jpegQuality;
-  if (resolutionOverride == kUnsetNumber) resolution = values.resolution;
-  if (colorReductionOverride == kUnsetBoolean) colorReduction = values.colorReduction;
-  if (IsWindow()) UpdateData(false);
+void CPdfGraphicPage::ExchangeCockpitValues(const CockpitExchange& exchange, GraphicCockpitValues& values) {
+  exchange.Value(compressMethod, values.compressMethod, compressMethodOverride.IsSet());
+  exchange.Value(jpegQuality, values.jpegQuality, jpegQualityOverride.IsSet());
+  exchange.Value(resolution, values.resolution, resolutionOverride.IsSet());
+  exchange.Value(colorReduction, values.colorReduction, colorReductionOverride.IsSet());
 }
 
 BOOL CPdfGraphicPage::OnInitDialog() {
-  FillFromTable(CComboBox(Item(IDC_GRAPHIC_COMPRESSION)), kCompressions);
-  FillFromTable(CComboBox(Item(IDC_GRAPHIC_RESOLUTION)), kResolutions);
-  FillFromTable(CComboBox(Item(IDC_GRAPHIC_QUALITY)), kQualities);
-  FillFromTable(CComboBox(Item(IDC_GRAPHIC_COLOR_DEPTH)), kColorReductions);
+  if (!FillFromTable(CComboBox(Item(IDC_GRAPHIC_RESOLUTION)), kResolutions) ||
+      !FillFromTable(CComboBox(Item(IDC_GRAPHIC_QUALITY)), kQualities))
+    return FALSE;
   resolutionBar_.Attach(*this, IDC_GRAPHIC_RESOLUTION_BAR);
   qualityBar_.Attach(*this, IDC_GRAPHIC_QUALITY_BAR);
   if (!CNemUIPage::OnInitDialog()) return FALSE;
@@ -154,9 +145,6 @@ BOOL CPdfGraphicPage::OnInitDialog() {
   CComboBox(Item(IDC_GRAPHIC_RESOLUTION)).LimitText(kResolutionDigits);
   CComboBox(Item(IDC_GRAPHIC_QUALITY)).LimitText(kQualityDigits);
 
-  helpLink_.Attach(*this, IDC_GRAPHIC_HELP_LINK);
-  helpLink_.SetNotifyParent(true);
-  helpLink_.SetUnderline(true);
   videoLink_.Attach(*this, IDC_GRAPHIC_VIDEO_LINK);
   videoLink_.SetUrl(MessageText(MSG_VIDEO_ADDRESS).Text());
   // The video is offered in Germany: the ids of Austria and others do not have it, though their texts are the same.
@@ -325,14 +313,9 @@ void CPdfGraphicPage::UpdateHint() {
   Item(IDC_GRAPHIC_SIGN_INFORMATION).Show(!reduces);
 }
 
-int CPdfGraphicPage::SelectedCompression() const {
-  const int row = CComboBox(Item(IDC_GRAPHIC_COMPRESSION)).Selection();
-  return row < 0 ? 0 : kCompressions[row].value;
-}
-
 void CPdfGraphicPage::UpdateControls() {
   const bool custom = IsUserDefined();
-  const bool usesJpeg = SelectedCompression() != 0;
+  const bool usesJpeg = SelectedValue(CComboBox(Item(IDC_GRAPHIC_COMPRESSION)), kCompressions).value_or(0) != 0;
   Item(IDC_GRAPHIC_SLIDER).Enable(!custom);
   Item(IDC_GRAPHIC_RESOLUTION).Enable(custom);
   Item(IDC_GRAPHIC_RESOLUTION_BAR).Enable(custom);
@@ -344,19 +327,15 @@ void CPdfGraphicPage::UpdateControls() {
 }
 
 void CPdfGraphicPage::ApplyOverrides() {
-  const bool resolutionFixed = resolutionOverride != kUnsetNumber;
-  const bool qualityFixed = jpegQualityOverride != kUnsetNumber;
-  const bool compressionFixed = compressMethodOverride != kUnsetNumber;
-  const bool colorsFixed = colorReductionOverride != kUnsetBoolean;
-  const auto disable = [this](bool fixed, std::initializer_list<int> controls) {
-    if (!fixed) return;
-    for (const int id : controls) Item(id).Enable(false);
-  };
-  disable(resolutionFixed, {IDC_GRAPHIC_RESOLUTION, IDC_GRAPHIC_RESOLUTION_BAR});
-  disable(qualityFixed, {IDC_GRAPHIC_QUALITY, IDC_GRAPHIC_QUALITY_BAR});
-  disable(compressionFixed, {IDC_GRAPHIC_COMPRESSION});
-  disable(colorsFixed, {IDC_GRAPHIC_COLOR_DEPTH});
+  const bool resolutionFixed = resolutionOverride.IsSet();
+  const bool qualityFixed = jpegQualityOverride.IsSet();
+  const bool compressionFixed = compressMethodOverride.IsSet();
+  const bool colorsFixed = colorReductionOverride.IsSet();
+  Lock(resolutionFixed, {IDC_GRAPHIC_RESOLUTION, IDC_GRAPHIC_RESOLUTION_BAR});
+  Lock(qualityFixed, {IDC_GRAPHIC_QUALITY, IDC_GRAPHIC_QUALITY_BAR});
+  Lock(compressionFixed, {IDC_GRAPHIC_COMPRESSION});
+  Lock(colorsFixed, {IDC_GRAPHIC_COLOR_DEPTH});
   // A preset would change all four.
-  disable(resolutionFixed || qualityFixed || compressionFixed || colorsFixed,
-          {IDC_GRAPHIC_BY_FILE_SIZE, IDC_GRAPHIC_SLIDER});
+  Lock(resolutionFixed || qualityFixed || compressionFixed || colorsFixed,
+       {IDC_GRAPHIC_BY_FILE_SIZE, IDC_GRAPHIC_SLIDER});
 }

@@ -1,21 +1,17 @@
 // How images are stored in the PDF: by one of five presets on a slider, or value by value.
 #pragma once
 
-#include "cockpit/CockpitValues.h"
+#include "cockpit/CTrackedPage.h"
 #include "controls/CImageStatic.h"
 #include "controls/CIntScrollBar.h"
 #include "controls/CMyHyperLink.h"
-#include "environment/AdminSettings.h"
+#include "environment/Override.h"
 #include "pages/GraphicPresets.h"
 #include "resources/ResourceIds.h"
-#include "sheet/CNemUIPage.h"
 
-class CPdfGraphicPage : public CNemUIPage, public CockpitPage<GraphicCockpitValues> {
+class CPdfGraphicPage : public CTrackedPage<GraphicCockpitValues> {
  public:
-  using CNemUIPage::CNemUIPage;
-
-  void GetCockpitValues(GraphicCockpitValues& values) override;
-  void SetCockpitValues(const GraphicCockpitValues& values) override;
+  using CTrackedPage::CTrackedPage;
 
   uint16_t compressMethod = 0;
   uint16_t jpegQuality = 0;
@@ -24,19 +20,19 @@ class CPdfGraphicPage : public CNemUIPage, public CockpitPage<GraphicCockpitValu
   uint16_t enhancedReplacements = 0;
 
   // What an administrator has fixed.
-  int32_t resolutionOverride = kUnsetNumber;
-  int32_t jpegQualityOverride = kUnsetNumber;
-  int32_t compressMethodOverride = kUnsetNumber;
-  int32_t colorReductionOverride = kUnsetBoolean;
+  NumberOverride resolutionOverride;
+  NumberOverride jpegQualityOverride;
+  NumberOverride compressMethodOverride;
+  BooleanOverride colorReductionOverride;
 
  protected:
   BOOL OnInitDialog() override;
   void DoDataExchange(CDataExchange& exchange) override;
-  bool OnWindowMessage(WindowMessage& message) override;
+  MessageTable Messages() const override;
+  int HelpLinkId() const override { return IDC_GRAPHIC_HELP_LINK; }
+  void ExchangeCockpitValues(const CockpitExchange& exchange, GraphicCockpitValues& values) override;
 
  private:
-  static const MessageRow kMessages[];
-
   void LoadControls(CDataExchange& exchange);
   void SaveControls(CDataExchange& exchange);
 
@@ -58,13 +54,12 @@ class CPdfGraphicPage : public CNemUIPage, public CockpitPage<GraphicCockpitValu
   void ApplyOverrides();
 
   bool IsUserDefined() const { return CButton(Item(IDC_GRAPHIC_USER_DEFINED)).IsChecked(); }
-  int SelectedCompression() const;
   GraphicValues Values() const;
   void SetValues(const GraphicValues& values);
 
   GdiFont boldFont_;
   CIntScrollBar resolutionBar_, qualityBar_;
-  CMyHyperLink helpLink_, videoLink_;
+  CMyHyperLink videoLink_;
   CImageStatic pictures_[7];
   bool applying_ = false;  // a preset is being applied: the loading exchange in it must not apply one again
 };

@@ -69,8 +69,18 @@ BOOL CNemUIPage::OnInitDialog() {
   }
   if (const DWORD helpId = ContextHelpId()) ::SetWindowContextHelpId(window_, helpId);
   ::EnableThemeDialogTexture(window_, ETDT_ENABLETAB);
+  if (const int link = HelpLinkId()) {
+    helpLink_.Attach(*this, link);
+    helpLink_.SetNotifyParent(true);
+    helpLink_.SetUnderline(true);
+  }
   initialized_ = CPropertyPage::OnInitDialog();
   return initialized_;
+}
+
+void CNemUIPage::Lock(bool fixed, std::initializer_list<int> controls) const {
+  if (!fixed) return;
+  for (const int id : controls) Item(id).Enable(false);
 }
 
 bool CNemUIPage::OnSetActive() {
@@ -105,7 +115,7 @@ LRESULT CNemUIPage::ShowHelpForControl(WPARAM controlId, LPARAM) {
 }
 
 bool CNemUIPage::OnWindowMessage(WindowMessage& message) {
-  if (DispatchMessages(kMessages, *this, message)) return true;
+  if (DispatchMessages(Messages(), *this, message) || DispatchMessages(kMessages, *this, message)) return true;
   switch (message.message) {
     case WM_CLOSE:
       // Esc in a multi-line edit closes the dialog that holds it: here it means the sheet's Cancel.

@@ -3,6 +3,9 @@
 // sheet. A page that was never shown has no window, and its properties keep the host's values.
 #pragma once
 
+#include <initializer_list>
+
+#include "controls/CMyHyperLink.h"
 #include "DriverLIB/CUString.h"
 #include "sheet/PageDescription.h"
 #include "window/CPropertyPage.h"
@@ -50,15 +53,22 @@ class CNemUIPage : public CPropertyPage {
   bool OnWindowMessage(WindowMessage& message) override;
   const wchar_t* TabCaption() const override { return title_.Text(); }
   UINT TabIconId() const override { return description_.iconId; }
+  // What can happen to the page beside its life: looked up before anything else. The table is constant.
+  virtual MessageTable Messages() const { return {}; }
+  // The link that opens the help on the page; 0 when there is none.
+  virtual int HelpLinkId() const { return 0; }
   // Key of the help topic for controls without one of their own.
   virtual DWORD ContextHelpId() const { return description_.templateId; }
   void SetLoaded() { loaded_ = true; }
+  // Disables what an administrator has fixed: the last step of each rule about what is enabled.
+  void Lock(bool fixed, std::initializer_list<int> controls) const;
 
  private:
   bool SaveControls();
 
   const PageDescription description_;
   const CUString title_;
+  CMyHyperLink helpLink_;
   bool loaded_ = false;
   bool initialized_ = false;
   bool shownBefore_ = false;

@@ -11,6 +11,9 @@
 template <class Logic>
 class CNemUISettingsPage : public Logic {
  public:
+  using Binding = PropertyBinding<Logic>;
+  using BindingTable = std::span<const Binding>;
+
   // Without a sheet the page has no properties, and its property exchange fails.
   CNemUISettingsPage(SheetServices* sheet, const PageDescription& description, int settingsIndex)
       : Logic(description), sheet_(sheet), settingsIndex_(settingsIndex) {}
@@ -31,20 +34,20 @@ class CNemUISettingsPage : public Logic {
 
   void ReadProperties() override {
     if (!sheet_ || this->IsLoaded()) return;
-    for (const PropertyBinding<Logic>& binding : Bindings()) binding.read(*this, sheet_->Properties(), settingsIndex_);
+    for (const Binding& binding : Bindings()) binding.read(*this, sheet_->Properties(), settingsIndex_);
     OnPropertiesRead();
     this->SetLoaded();
   }
 
   void WriteProperties() override {
     if (!sheet_) return;
-    for (const PropertyBinding<Logic>& binding : Bindings())
+    for (const Binding& binding : Bindings())
       if (binding.write) binding.write(*this, sheet_->Properties(), settingsIndex_);
     OnPropertiesWritten();
   }
 
  protected:
-  virtual std::span<const PropertyBinding<Logic>> Bindings() const = 0;
+  virtual BindingTable Bindings() const = 0;
   // What the table cannot say; both run with a sheet.
   virtual void OnPropertiesRead() {}
   virtual void OnPropertiesWritten() {}

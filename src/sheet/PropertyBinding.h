@@ -1,16 +1,17 @@
 // The table by which a glue class moves values between the members of its page and the properties of the sheet. Each
 // row is made from a member of the page and the property, or the administrator's field, that it stands for:
 //
-//   constexpr PropertyBinding<CPdfGraphicPage> kBindings[] = {
+//   static constexpr Binding kBindings[] = {
 //       Bind<&CPdfGraphicPage::jpegQuality, &CDialogProperties::GraphicJpegQuality>(),
 //       BindOverride<&CPdfGraphicPage::jpegQualityOverride, &AdminSettings::GraphicJpegQuality_Override>(),
 //   };
 //
-// What a table cannot say stands in the glue class's own ReadProperties and WriteProperties.
+// What a table cannot say stands in the glue class's own OnPropertiesRead and OnPropertiesWritten.
 #pragma once
 
 #include <type_traits>
 
+#include "environment/Override.h"
 #include "ui/CDialogProperties.h"
 
 template <class Page>
@@ -64,11 +65,9 @@ void Write(const PageOf<Member>& page, CDialogProperties& properties, int settin
 
 template <auto Member, auto Field>
 void ReadOverride(PageOf<Member>& page, const CDialogProperties& properties, int) {
-  using Value = std::remove_reference_t<decltype(page.*Member)>;
-  if constexpr (std::is_integral_v<Value>)
-    page.*Member = static_cast<Value>(properties.adminSettings.*Field);
-  else
-    page.*Member = properties.adminSettings.*Field;
+  static_assert(std::is_same_v<std::remove_reference_t<decltype(page.*Member)>, typename OverrideOf<Field>::Type>,
+                "Booleans, numbers and texts have marks of their own for what is not set.");
+  (page.*Member).value = properties.adminSettings.*Field;
 }
 
 }  // namespace property_binding

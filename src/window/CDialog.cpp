@@ -176,14 +176,14 @@ bool CDialog::OnHandlerFailed(WindowMessage& message) {
   return true;
 }
 
-void CDialog::Bind(HWND window) {
+void CDialog::BindWindow(HWND window) {
   window_ = window;
   ::SetWindowLongPtrW(window, DWLP_USER, reinterpret_cast<LONG_PTR>(this));
 }
 
 INT_PTR CALLBACK CDialog::DialogProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   // Messages before WM_INITDIALOG find no object and get the default.
-  if (message == WM_INITDIALOG) reinterpret_cast<CDialog*>(lParam)->Bind(window);
+  if (message == WM_INITDIALOG) reinterpret_cast<CDialog*>(lParam)->BindWindow(window);
   return Process(window, message, wParam, lParam);
 }
 

@@ -61,7 +61,7 @@ class CDialog : public CWnd, public CMessageTarget {
   };
 
   // Binds the object to its window, and hands the window's messages to the bound object.
-  void Bind(HWND window);
+  void BindWindow(HWND window);
   static INT_PTR Process(HWND, UINT, WPARAM, LPARAM);
 
  private:

@@ -29,7 +29,7 @@ HPROPSHEETPAGE CPropertyPage::CreatePage(CPropertySheet& sheet) {
 INT_PTR CALLBACK CPropertyPage::PageProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
   if (message == WM_INITDIALOG) {
     auto* page = reinterpret_cast<CPropertyPage*>(reinterpret_cast<const PROPSHEETPAGEW*>(lParam)->lParam);
-    page->Bind(window);
+    page->BindWindow(window);
   }
   return Process(window, message, wParam, lParam);
 }

@@ -73,6 +73,60 @@ TEST_F(NemUIPage, TitleIsThatOfTheLanguageInWhichItIsMade) {
   EXPECT_NE(L"Fonts", BarePage().Title());
 }
 
+// A page with a table of its own, a link to the help, and something to lock.
+class RichPage : public BarePage {
+ public:
+  int closed = 0;
+  WPARAM helpFor = 0;
+  using CNemUIPage::Lock;
+
+  LRESULT ShowHelpForControl(WPARAM controlId, LPARAM) override {
+    helpFor = controlId;
+    return 1;
+  }
+
+ protected:
+  MessageTable Messages() const override {
+    static constexpr MessageRow kMessages[] = {OnMessage<&RichPage::OnClose>(WM_CLOSE)};
+    return kMessages;
+  }
+  int HelpLinkId() const override { return IDC_NO_DOC_SETTINGS_LINK; }
+
+ private:
+  void OnClose() { ++closed; }
+};
+
+TEST_F(NemUIPage, ItsTableComesBeforeWhatAllPagesDo) {
+  RichPage page;
+  ASSERT_TRUE(page.Create(parent_.Window()));
+  page.Send(WM_CLOSE);
+  EXPECT_EQ(1, page.closed);
+  EXPECT_EQ(1, page.Send(kShowHelpForControlMessage, 77)) << "what the table does not name goes on to the base";
+  EXPECT_EQ(77u, page.helpFor);
+}
+
+TEST_F(NemUIPage, ItsLinkAsksForHelp) {
+  RichPage page;
+  ASSERT_TRUE(page.Create(parent_.Window()));
+  page.Show(true);
+  ControlRef(page.Item(IDC_NO_DOC_SETTINGS_LINK).Handle(), IDC_NO_DOC_SETTINGS_LINK, ControlRef::Location::current())
+      .Click();
+  EXPECT_EQ(WPARAM{IDC_NO_DOC_SETTINGS_LINK}, page.helpFor);
+}
+
+TEST_F(NemUIPage, LockOnlyEverDisables) {
+  RichPage page;
+  ASSERT_TRUE(page.Create(parent_.Window()));
+  const CWnd when = page.Item(IDC_NO_DOC_SETTINGS_WHEN), where = page.Item(IDC_NO_DOC_SETTINGS_WHERE);
+  page.Lock(false, {IDC_NO_DOC_SETTINGS_WHEN, IDC_NO_DOC_SETTINGS_WHERE});
+  EXPECT_TRUE(when.IsEnabled());
+  page.Lock(true, {IDC_NO_DOC_SETTINGS_WHEN});
+  EXPECT_FALSE(when.IsEnabled());
+  EXPECT_TRUE(where.IsEnabled());
+  page.Lock(false, {IDC_NO_DOC_SETTINGS_WHEN});
+  EXPECT_FALSE(when.IsEnabled());
+}
+
 TEST_F(NemUIPage, KnowsNoOtherPages) {
   BarePage page;
   EXPECT_FALSE(page.ActivatePage(120));
@@ -262,8 +316,8 @@ class GlueLogic : public CNemUIPage {
   CUString watermark;
   uint8_t readOnly = 0;
   int32_t fixed = 0;
-  int resolutionOverride = -1;
-  CUString authorOverride;
+  NumberOverride resolutionOverride;
+  TextOverride authorOverride;
 };
 
 constexpr PropertyBinding<GlueLogic> kBindings[] = {
@@ -335,8 +389,8 @@ TEST_F(NemUIPage, GlueReadsOnceAndWritesTheSameEachTime) {
   EXPECT_EQ(L"second", page.watermark);
   EXPECT_EQ(1, page.readOnly);
   EXPECT_EQ(600, page.fixed) << "the set that the row fixes";
-  EXPECT_EQ(72, page.resolutionOverride);
-  EXPECT_EQ(L"Company", page.authorOverride);
+  EXPECT_EQ(72, page.resolutionOverride.value);
+  EXPECT_EQ(L"Company", page.authorOverride.value);
   EXPECT_TRUE(page.IsLoaded());
   properties.Scale[1].SetLong(5);
   EXPECT_TRUE(page.UpdateDataSuper(false));
@@ -346,8 +400,8 @@ TEST_F(NemUIPage, GlueReadsOnceAndWritesTheSameEachTime) {
   page.watermark = L"third";
   page.readOnly = 9;
   page.fixed = 300;
-  page.resolutionOverride = 9;
-  page.authorOverride = L"User";
+  page.resolutionOverride.value = 9;
+  page.authorOverride.value = L"User";
   for (int times = 0; times < 3; ++times) {
     EXPECT_TRUE(page.UpdateDataSuper(true));
     EXPECT_EQ(50, properties.Scale[1].GetLong());
