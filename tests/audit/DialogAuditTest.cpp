@@ -12,6 +12,7 @@
 #include <map>
 #include <ostream>
 #include <sstream>
+#include <string_view>
 
 #include "driver/DialogAudit.h"
 #include "driver/Pages.h"
@@ -45,7 +46,7 @@ constexpr const Language& kEnglish = kLanguages[0];
 constexpr struct {
   int pageId;
   const wchar_t* keys;
-} kEnglishDoubleKeys[] = {{0, L""}};
+} kEnglishDoubleKeys[] = {{109, L"PS"}};
 
 AuditOptions OptionsFor(const Language& language, int dpi, const PageInfo* page) {
   AuditOptions options;
@@ -55,7 +56,7 @@ AuditOptions OptionsFor(const Language& language, int dpi, const PageInfo* page)
   // A page gets the room of the host's tab control: 259 units less 4 pixels, a pixel or two short of the cockpit's 257.
   options.size.cy = std::min(options.size.cy, LONG{256});
   for (const auto& [pageId, keys] : kEnglishDoubleKeys)
-    if (page && page->id == pageId && &language == &kEnglish) options.allowedDoubleKeys = keys;
+    if (page && page->id == pageId && std::wstring_view(language.id) == kEnglish.id) options.allowedDoubleKeys = keys;
   return options;
 }
 

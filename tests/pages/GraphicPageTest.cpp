@@ -3,11 +3,11 @@
 #include "driver/SheetDriver.h"
 #include "MessageIds.h"
 #include "pages/CNemUIPdfGraphicPage.h"
+#include "PageTable.h"
 #include "Pictures.h"
 #include "resources/ResourceIds.h"
 #include "support/Accessible.h"
 #include "support/FakeSheet.h"
-#include "ui/PropertyAccess.h"
 
 namespace {
 
@@ -20,6 +20,47 @@ constexpr wchar_t kHintReduced[] =
 constexpr wchar_t kHintOriginal[] =
     L"To enable a loss-free reprocessing in Word, original graphics data will be embedded in the e.pdf file. Thus the "
     L"e.pdf file will be larger.";
+
+using Values = GraphicCockpitValues;
+
+// The first values are those of no preset, so that all lists are open.
+const PageTable kTable = {
+    .name = "Graphic",
+    .pageId = kPageId,
+    .helpLink = IDC_GRAPHIC_HELP_LINK,
+    .rows =
+        {
+            Field(L"GraphicResolution", IDC_GRAPHIC_RESOLUTION)
+                .Stores({{601, L"601 dpi", 601},
+                         {300, L"300 dpi (Printer, low)", 300},
+                         {0, L"Do not change", 0},
+                         {9999, L"2400 dpi", 2400}})
+                .LockedBy<&AdminSettings::GraphicResolution_Override>(
+                    {IDC_GRAPHIC_RESOLUTION, IDC_GRAPHIC_RESOLUTION_BAR, IDC_GRAPHIC_BY_FILE_SIZE})
+                .Tracked<&Values::resolution>(),
+            Field(L"GraphicJpegQuality", IDC_GRAPHIC_QUALITY)
+                .Stores({{86, L"86%", 86}, {60, L"60% low - medium", 60}, {150, L"100% maximum", 100}})
+                .Given({{L"GraphicCompressMethod", 1}})
+                .LockedBy<&AdminSettings::GraphicJpegQuality_Override>(
+                    {IDC_GRAPHIC_QUALITY, IDC_GRAPHIC_QUALITY_BAR, IDC_GRAPHIC_BY_FILE_SIZE})
+                .Tracked<&Values::jpegQuality>(),
+            Choice(L"GraphicCompressMethod", IDC_GRAPHIC_COMPRESSION,
+                   {{L"loss-free, ZIP only", 0},
+                    {L"JPEG", 1},
+                    {L"JPEG and ZIP", 3},
+                    {L"JPEG automatically", 2},
+                    {L"JPEG automatically and ZIP", 4}})
+                .LockedBy<&AdminSettings::GraphicCompressMethod_Override>(
+                    {IDC_GRAPHIC_COMPRESSION, IDC_GRAPHIC_BY_FILE_SIZE})
+                .Tracked<&Values::compressMethod>(),
+            Choice(L"GraphicColorReduction", IDC_GRAPHIC_COLOR_DEPTH,
+                   {{L"Do not change", 0}, {L"Reduce, if loss-free", 1}})
+                .LockedBy<&AdminSettings::GraphicColorReduction_Override>(
+                    {IDC_GRAPHIC_COLOR_DEPTH, IDC_GRAPHIC_BY_FILE_SIZE})
+                .Tracked<&Values::colorReduction>(),
+        },
+};
+const PageTableEntry entry(kTable);
 
 // The page alone, on a sheet without a window.
 class GraphicPage : public testing::Test {
@@ -82,22 +123,6 @@ class GraphicPage : public testing::Test {
 
 // --- Value tables --------------------------------------------------------------------------------------------------
 
-TEST_F(GraphicPage, CompressionRowsStoreTheirValues) {
-  const std::pair<const wchar_t*, int> rows[] = {{L"loss-free, ZIP only", 0},
-                                                 {L"JPEG", 1},
-                                                 {L"JPEG and ZIP", 3},
-                                                 {L"JPEG automatically", 2},
-                                                 {L"JPEG automatically and ZIP", 4}};
-  OpenWith(600, 0, 33, 1);
-  ASSERT_EQ(std::size(rows), static_cast<size_t>(Control(IDC_GRAPHIC_COMPRESSION).RowCount()));
-  for (size_t row = 0; row < std::size(rows); ++row) {
-    EXPECT_EQ(rows[row].first, Control(IDC_GRAPHIC_COMPRESSION).Row(static_cast<int>(row)));
-    Control(IDC_GRAPHIC_COMPRESSION).Select(static_cast<int>(row));
-    ASSERT_TRUE(Save());
-    EXPECT_EQ(rows[row].second, properties().GraphicCompressMethod[0].GetLong()) << row;
-  }
-}
-
 TEST_F(GraphicPage, ResolutionRowsStoreTheirValues) {
   const std::pair<const wchar_t*, int> rows[] = {{L"Do not change", 0},
                                                  {L"50 dpi", 50},
@@ -132,32 +157,6 @@ TEST_F(GraphicPage, QualityRowsStoreTheirValues) {
     EXPECT_EQ(rows[row].second, Control(IDC_GRAPHIC_QUALITY_BAR).Position()) << row;
     ASSERT_TRUE(Save());
     EXPECT_EQ(rows[row].second, properties().GraphicJpegQuality[0].GetLong()) << row;
-  }
-}
-
-TEST_F(GraphicPage, ColorRowsStoreTheirValues) {
-  OpenWith(601, 1, 33, 1);
-  EXPECT_EQ((std::vector<std::wstring>{L"Do not change", L"Reduce, if loss-free"}),
-            Control(IDC_GRAPHIC_COLOR_DEPTH).Rows());
-  EXPECT_EQ(1, Control(IDC_GRAPHIC_COLOR_DEPTH).SelectedRow());
-  Control(IDC_GRAPHIC_COLOR_DEPTH).Select(0);
-  ASSERT_TRUE(Save());
-  EXPECT_EQ(0, properties().GraphicColorReduction[0].GetLong());
-}
-
-TEST_F(GraphicPage, ValuesThatNoRowHasFallToTheFirstRow) {
-  OpenWith(601, 77, 33, 9);
-  EXPECT_EQ(0, Control(IDC_GRAPHIC_COMPRESSION).SelectedRow());
-  EXPECT_EQ(0, Control(IDC_GRAPHIC_COLOR_DEPTH).SelectedRow());
-}
-
-TEST_F(GraphicPage, ListsWithoutASelectionFailTheSaveAndStoreTheFirstRow) {
-  for (const int list : {IDC_GRAPHIC_COMPRESSION, IDC_GRAPHIC_COLOR_DEPTH}) {
-    page_.Destroy();
-    Open();
-    SendMessageW(Control(list).Window(), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
-    EXPECT_FALSE(page_.UpdateData(true));
-    EXPECT_EQ(0, list == IDC_GRAPHIC_COMPRESSION ? page_.compressMethod : page_.colorReduction);
   }
 }
 
@@ -510,56 +509,25 @@ TEST_F(GraphicPage, MouseElsewhereLeavesTheSliderOfPresetModeAlone) {
   EXPECT_TRUE(Control(IDC_GRAPHIC_SLIDER).IsEnabled());
 }
 
-struct OverrideCase {
-  const char* name;
-  void (*fix)(AdminSettings&);
-  std::vector<int> disabled;
-};
-
-const OverrideCase kOverrides[] = {
-    {"resolution",
-     [](AdminSettings& admin) { admin.GraphicResolution_Override = 0; },
-     {IDC_GRAPHIC_RESOLUTION, IDC_GRAPHIC_RESOLUTION_BAR}},
-    {"quality",
-     [](AdminSettings& admin) { admin.GraphicJpegQuality_Override = 50; },
-     {IDC_GRAPHIC_QUALITY, IDC_GRAPHIC_QUALITY_BAR}},
-    {"compression", [](AdminSettings& admin) { admin.GraphicCompressMethod_Override = 1; }, {IDC_GRAPHIC_COMPRESSION}},
-    {"colours", [](AdminSettings& admin) { admin.GraphicColorReduction_Override = 0; }, {IDC_GRAPHIC_COLOR_DEPTH}},
-};
-
-TEST_F(GraphicPage, OverridesDisableTheirControlsAndPresetMode) {
-  for (const OverrideCase& fixed : kOverrides) {
-    FakeSheet sheet;
-    sheet.properties.GraphicResolution[0].SetLong(601);
-    sheet.properties.GraphicCompressMethod[0].SetLong(1);
-    fixed.fix(sheet.properties.adminSettings);
-    CNemUIPdfGraphicPage page(&sheet, kDescription, 0);
-    ASSERT_TRUE(page.Create(parent_.Window()));
-    const CWnd dialog(page.Handle());
-    for (const int id : {IDC_GRAPHIC_RESOLUTION, IDC_GRAPHIC_RESOLUTION_BAR, IDC_GRAPHIC_COMPRESSION,
-                         IDC_GRAPHIC_QUALITY, IDC_GRAPHIC_QUALITY_BAR, IDC_GRAPHIC_COLOR_DEPTH}) {
-      const bool disabled = std::find(fixed.disabled.begin(), fixed.disabled.end(), id) != fixed.disabled.end();
-      EXPECT_EQ(!disabled, dialog.Item(id).IsEnabled()) << fixed.name << ' ' << id;
-    }
-    EXPECT_FALSE(dialog.Item(IDC_GRAPHIC_BY_FILE_SIZE).IsEnabled()) << fixed.name;
-    EXPECT_TRUE(dialog.Item(IDC_GRAPHIC_USER_DEFINED).IsEnabled()) << fixed.name;
-    // The property's value is shown, not the administrator's.
-    EXPECT_EQ(601, CScrollBar(dialog.Item(IDC_GRAPHIC_RESOLUTION_BAR)).Position()) << fixed.name;
-  }
-}
-
 TEST_F(GraphicPage, EachOverrideLocksAPresetThatIsOn) {
-  for (const OverrideCase& fixed : kOverrides) {
+  void (*const fixes[])(AdminSettings&) = {
+      [](AdminSettings& admin) { admin.GraphicResolution_Override = 0; },
+      [](AdminSettings& admin) { admin.GraphicJpegQuality_Override = 50; },
+      [](AdminSettings& admin) { admin.GraphicCompressMethod_Override = 1; },
+      [](AdminSettings& admin) { admin.GraphicColorReduction_Override = 0; },
+  };
+  for (const auto& fix : fixes) {
     FakeSheet sheet;
     CopyAllSets(sheet.properties, properties());
-    fixed.fix(sheet.properties.adminSettings);
+    fix(sheet.properties.adminSettings);
     CNemUIPdfGraphicPage page(&sheet, kDescription, 0);
     ASSERT_TRUE(page.Create(parent_.Window()));
     const CWnd dialog(page.Handle());
-    EXPECT_TRUE(CButton(dialog.Item(IDC_GRAPHIC_BY_FILE_SIZE)).IsChecked()) << fixed.name;
-    EXPECT_FALSE(dialog.Item(IDC_GRAPHIC_BY_FILE_SIZE).IsEnabled()) << fixed.name;
-    EXPECT_FALSE(dialog.Item(IDC_GRAPHIC_SLIDER).IsEnabled()) << fixed.name;
-    EXPECT_TRUE(dialog.Item(IDC_GRAPHIC_USER_DEFINED).IsEnabled()) << fixed.name;
+    const auto number = &fix - fixes;
+    EXPECT_TRUE(CButton(dialog.Item(IDC_GRAPHIC_BY_FILE_SIZE)).IsChecked()) << number;
+    EXPECT_FALSE(dialog.Item(IDC_GRAPHIC_BY_FILE_SIZE).IsEnabled()) << number;
+    EXPECT_FALSE(dialog.Item(IDC_GRAPHIC_SLIDER).IsEnabled()) << number;
+    EXPECT_TRUE(dialog.Item(IDC_GRAPHIC_USER_DEFINED).IsEnabled()) << number;
   }
 }
 
@@ -578,82 +546,6 @@ TEST_F(GraphicPage, OverridesHoldThroughEveryEventThatEnables) {
 }
 
 // --- Properties and cockpit ----------------------------------------------------------------------------------------
-
-TEST_F(GraphicPage, PropertiesAreReadOnce) {
-  Open();
-  properties().GraphicJpegQuality[0].SetLong(10);
-  page_.ReadProperties();
-  EXPECT_EQ(85, page_.jpegQuality);
-}
-
-TEST_F(GraphicPage, WritesItsOwnSetOnlyAndTheSameEachTime) {
-  properties().GraphicJpegQuality[1].SetLong(11);
-  OpenWith(150, 3, 70, 0);
-  for (int i = 0; i < 3; ++i) {
-    ASSERT_TRUE(Save());
-    EXPECT_EQ(150, properties().GraphicResolution[0].GetLong());
-    EXPECT_EQ(3, properties().GraphicCompressMethod[0].GetLong());
-    EXPECT_EQ(70, properties().GraphicJpegQuality[0].GetLong());
-    EXPECT_EQ(0, properties().GraphicColorReduction[0].GetLong());
-  }
-  EXPECT_EQ(11, properties().GraphicJpegQuality[1].GetLong());
-}
-
-TEST_F(GraphicPage, DocumentTabWorksOnItsSet) {
-  properties().GraphicResolution[1].SetLong(450);
-  CNemUIPdfGraphicPage page(&sheet_, kDescription, 1);
-  page.ReadProperties();
-  EXPECT_EQ(450, page.resolution);
-  page.resolution = 50;
-  page.WriteProperties();
-  EXPECT_EQ(50, properties().GraphicResolution[1].GetLong());
-  EXPECT_EQ(600, properties().GraphicResolution[0].GetLong());
-}
-
-TEST_F(GraphicPage, WithoutASheetThePropertyExchangeFails) {
-  CNemUIPdfGraphicPage page(nullptr, kDescription, 0);
-  EXPECT_FALSE(page.UpdateDataSuper(false));
-  EXPECT_FALSE(page.UpdateDataSuper(true));
-  EXPECT_FALSE(page.Create(parent_.Window()));
-  EXPECT_FALSE(page.IsWindow());
-}
-
-TEST_F(GraphicPage, CockpitReadsAPageThatWasNeverShown) {
-  Store(300, 2, 44, 0, 0);
-  GraphicCockpitValues values;
-  page_.GetCockpitValues(values);
-  EXPECT_EQ(300, values.resolution);
-  EXPECT_EQ(2, values.compressMethod);
-  EXPECT_EQ(44, values.jpegQuality);
-  EXPECT_EQ(0, values.colorReduction);
-  EXPECT_FALSE(page_.IsWindow());
-}
-
-TEST_F(GraphicPage, CockpitSetsAllButWhatIsFixed) {
-  const GraphicCockpitValues values{1, 2, 3, 0};
-  struct Row {
-    void (*fix)(AdminSettings&);
-    GraphicCockpitValues expected;
-  };
-  const Row rows[] = {
-      {[](AdminSettings&) {}, {1, 2, 3, 0}},
-      {[](AdminSettings& admin) { admin.GraphicCompressMethod_Override = 4; }, {4, 2, 3, 0}},
-      {[](AdminSettings& admin) { admin.GraphicJpegQuality_Override = 85; }, {1, 85, 3, 0}},
-      {[](AdminSettings& admin) { admin.GraphicResolution_Override = 600; }, {1, 2, 600, 0}},
-      {[](AdminSettings& admin) { admin.GraphicColorReduction_Override = 1; }, {1, 2, 3, 1}},
-  };
-  for (const Row& row : rows) {
-    FakeSheet sheet;
-    CopyAllSets(sheet.properties, properties());
-    row.fix(sheet.properties.adminSettings);
-    CNemUIPdfGraphicPage page(&sheet, kDescription, 0);
-    page.SetCockpitValues(values);
-    EXPECT_EQ(row.expected.compressMethod, page.compressMethod);
-    EXPECT_EQ(row.expected.jpegQuality, page.jpegQuality);
-    EXPECT_EQ(row.expected.resolution, page.resolution);
-    EXPECT_EQ(row.expected.colorReduction, page.colorReduction);
-  }
-}
 
 TEST_F(GraphicPage, CockpitLeavesTheReplacementsAlone) {
   Store(600, 4, 85, 1, 1);

@@ -1,0 +1,51 @@
+#include "pages/CColorsPage.h"
+#include "PageTable.h"
+#include "resources/ResourceIds.h"
+
+namespace {
+
+const PageTable kTable = {
+    .name = "Colors",
+    .pageId = 111,
+    .helpLink = IDC_COLORS_HELP_LINK,
+    .rows = {Radios(L"Colorspace", {IDC_COLORS_RGB, IDC_COLORS_CMYK})
+                 .Stores({{2, L"", 1}, {-1, L"", 1}, {65536, L"0", 0}})
+                 .LockedBy<&AdminSettings::Colorspace_Override>({IDC_COLORS_RGB, IDC_COLORS_CMYK})
+                 .Tracked<&ColorsCockpitValues::colorspace>()},
+};
+const PageTableEntry entry(kTable);
+
+TEST(ColorsPage, EveryValueOfTheOverrideLocks) {
+  for (const auto& [value, open] : {std::pair{kUnsetNumber, true}, {0, false}, {1, false}, {kUnsetBoolean, false}}) {
+    PageUnderTest test(111);
+    test.Admin().Colorspace_Override = value;
+    ASSERT_TRUE(test.Open());
+    EXPECT_EQ(open, test.Control(IDC_COLORS_RGB).IsEnabled()) << value;
+    EXPECT_EQ(open, test.Control(IDC_COLORS_CMYK).IsEnabled()) << value;
+  }
+}
+
+TEST(ColorsPage, AValueOfNeitherKindIsStoredAsCmykUnderAnOverrideToo) {
+  PageUnderTest test(111);
+  test.Set(L"Colorspace", 2);
+  test.Admin().Colorspace_Override = 0;
+  ASSERT_TRUE(test.Open());
+  EXPECT_FALSE(test.Control(IDC_COLORS_RGB).IsChecked());
+  EXPECT_FALSE(test.Control(IDC_COLORS_CMYK).IsChecked());
+  ASSERT_TRUE(test.Save());
+  EXPECT_EQ(L"1", test.Value(L"Colorspace"));
+}
+
+// A radio that gets the keyboard may take itself for chosen.
+TEST(ColorsPage, TheKeyboardAloneChoosesNothing) {
+  PageUnderTest test(111);
+  test.Set(L"Colorspace", 1);
+  ASSERT_TRUE(test.Open());
+  test.Control(IDC_COLORS_HELP_LINK).Focus();
+  const HWND stop = GetNextDlgTabItem(test.Page().Handle(), test.Control(IDC_COLORS_HELP_LINK).Window(), FALSE);
+  EXPECT_EQ(IDC_COLORS_CMYK, GetDlgCtrlID(stop));
+  SetFocus(stop);
+  EXPECT_TRUE(test.Control(IDC_COLORS_CMYK).IsChecked());
+}
+
+}  // namespace

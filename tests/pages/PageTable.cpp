@@ -1,0 +1,46 @@
+#include "PageTable.h"
+
+namespace {
+
+std::vector<PageTable>& Tables() {
+  static std::vector<PageTable> tables;
+  return tables;
+}
+
+PropertyRow Row(PropertyRow::Kind kind, const std::wstring& property, std::vector<int> controls) {
+  PropertyRow row{};
+  row.kind = kind;
+  row.property = property;
+  row.controls = std::move(controls);
+  return row;
+}
+
+}  // namespace
+
+PropertyRow Choice(const std::wstring& property, int combo, const std::vector<std::pair<std::wstring, int32_t>>& rows) {
+  constexpr int32_t kInNoRow = 9999;
+  PropertyRow row = Row(PropertyRow::Kind::kChoice, property, {combo});
+  for (const auto& [text, value] : rows) row.stored.push_back({value, text, value});
+  row.stored.push_back({kInNoRow, rows.front().first, rows.front().second});
+  return row;
+}
+
+PropertyRow CheckBox(const std::wstring& property, int check) {
+  PropertyRow row = Row(PropertyRow::Kind::kCheck, property, {check});
+  row.stored = {{0, L"off", 0}, {1, L"on", 1}, {2, L"on", 1}, {-1, L"on", 1}};
+  return row;
+}
+
+PropertyRow Radios(const std::wstring& property, const std::vector<int>& radios) {
+  PropertyRow row = Row(PropertyRow::Kind::kRadios, property, radios);
+  for (int i = 0; i < static_cast<int>(radios.size()); ++i) row.stored.push_back({i, std::to_wstring(i), i});
+  return row;
+}
+
+PropertyRow Field(const std::wstring& property, int control) {
+  return Row(PropertyRow::Kind::kField, property, {control});
+}
+
+const std::vector<PageTable>& AllPageTables() { return Tables(); }
+
+PageTableEntry::PageTableEntry(const PageTable& table) { Tables().push_back(table); }

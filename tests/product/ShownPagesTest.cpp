@@ -1,0 +1,76 @@
+// Which pages of a sheet touch the host's values: those that were shown, at OK. Each page has a property whose value
+// here is one that no page would store, so that writing it back is seen.
+#include <gtest/gtest.h>
+
+#include "driver/Pages.h"
+#include "driver/SheetDriver.h"
+#include "resources/ResourceIds.h"
+#include "support/HostDialog.h"
+
+namespace {
+
+struct TouchedValue {
+  int pageId;
+  const wchar_t* property;
+  int32_t host;     // what the host gives
+  int32_t shown;    // what the page stores when it was shown
+  int control;      // what the user clicks on
+  int32_t clicked;  // what is stored then
+};
+
+constexpr TouchedValue kValues[] = {
+    {109, L"HideToolbar", 7, 1, IDC_APPEARANCE_HIDE_TOOLBAR, 0},
+    {111, L"Colorspace", 7, 1, IDC_COLORS_RGB, 0},
+};
+
+class ShownPages : public testing::TestWithParam<TouchedValue> {
+ protected:
+  ShownPages() {
+    host_.Set(NEMPDFUI_DOCUMENT, L"Used", 1);
+    for (const int set : {0, 1}) host_.Set(set, GetParam().property, GetParam().host);
+  }
+
+  // The value of `set` after a run in which the user does this on its tab. The other set keeps its own.
+  int32_t Run(int set, bool show, bool click, int button) {
+    RunSheet([&] { return host_.DoModal(); },
+             [&](Sheet& sheet) -> SheetTask {
+               sheet.SelectTab(set);
+               co_await sheet.Settled();
+               if (show) {
+                 EXPECT_TRUE(sheet.SelectPage(GetParam().pageId));
+                 co_await sheet.Settled();
+               }
+               if (click) sheet.Control(GetParam().control).Click();
+               sheet.Press(button);
+             });
+    EXPECT_EQ(GetParam().host, host_.Long(1 - set, GetParam().property));
+    return host_.Long(set, GetParam().property);
+  }
+
+  HostDialog host_;
+};
+
+std::string NameOf(const testing::TestParamInfo<TouchedValue>& info) { return FindPageById(info.param.pageId)->name; }
+
+}  // namespace
+
+TEST_P(ShownPages, APageThatWasNeverShownKeepsTheHostsValue) {
+  for (const int set : {0, 1}) EXPECT_EQ(GetParam().host, Run(set, false, false, IDOK));
+}
+
+TEST_P(ShownPages, OkStoresWhatAShownPageMakesOfIt) { EXPECT_EQ(GetParam().shown, Run(0, true, false, IDOK)); }
+
+TEST_P(ShownPages, OkStoresWhatAShownPageOfTheDocumentMakesOfIt) {
+  EXPECT_EQ(GetParam().shown, Run(1, true, false, IDOK));
+}
+
+TEST_P(ShownPages, OkStoresTheUsersChoice) { EXPECT_EQ(GetParam().clicked, Run(0, true, true, IDOK)); }
+
+TEST_P(ShownPages, CancelKeepsTheHostsValue) {
+  for (const int set : {0, 1}) {
+    EXPECT_EQ(GetParam().host, Run(set, true, false, IDCANCEL));
+    EXPECT_EQ(GetParam().host, Run(set, true, true, IDCANCEL));
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Pages, ShownPages, testing::ValuesIn(kValues), NameOf);
