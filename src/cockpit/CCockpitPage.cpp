@@ -46,16 +46,20 @@ bool Contains(const RECT& rect, POINT point) {
 
 }  // namespace
 
-const MessageRow CCockpitPage::kMessages[] = {
-    OnMessage<&CCockpitPage::OnLinkClicked>(kLinkClickedMessage),
-    OnMessage<&CCockpitPage::OnRowFocus>(kRowFocusMessage),
-    OnMessage<&CCockpitPage::OnMouseLeave>(WM_MOUSELEAVE),
-    OnClick<&CCockpitPage::OnRestoreDefaults>(IDC_COCKPIT_RESTORE),
-};
+MessageTable CCockpitPage::Messages() const {
+  static constexpr MessageRow kMessages[] = {
+      OnMessage<&CCockpitPage::OnLinkClicked>(kLinkClickedMessage),
+      OnMessage<&CCockpitPage::OnRowFocus>(kRowFocusMessage),
+      OnMessage<&CCockpitPage::OnMouseLeave>(WM_MOUSELEAVE),
+      OnClick<&CCockpitPage::OnRestoreDefaults>(IDC_COCKPIT_RESTORE),
+  };
+  return kMessages;
+}
 
+// The mouse's way over the page goes on to the default processing.
 bool CCockpitPage::OnWindowMessage(WindowMessage& message) {
   if (message.message == WM_MOUSEMOVE) OnMouseMove({GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)});
-  return DispatchMessages(kMessages, *this, message) || CNemUIPage::OnWindowMessage(message);
+  return CNemUIPage::OnWindowMessage(message);
 }
 
 // Both records agree on the default paper.

@@ -33,14 +33,13 @@ class CCockpitPage : public CNemUIPage {
  protected:
   BOOL OnInitDialog() override;
   void DoDataExchange(CDataExchange& exchange) override;
+  MessageTable Messages() const override;
   bool OnWindowMessage(WindowMessage& message) override;
 
   // The user has restored the factory state since the page's start.
   bool HasRestored() const { return restored_; }
 
  private:
-  static const MessageRow kMessages[];
-
   void BindControls();
   void CollectValues();
   void PushValues();

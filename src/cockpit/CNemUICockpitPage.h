@@ -12,6 +12,6 @@ class CNemUICockpitPage : public CNemUISettingsPage<CCockpitPage> {
   void WriteAllPages();
 
  protected:
-  std::span<const PropertyBinding<CCockpitPage>> Bindings() const override { return {}; }
+  BindingTable Bindings() const override { return {}; }
   void OnPropertiesWritten() override;
 };

@@ -52,29 +52,19 @@ constexpr int RadioOf(SaveChoice choice) {
 
 }  // namespace
 
-const MessageRow CFormatPage::kMessages[] = {
-    OnCommand<&CFormatPage::OnVersionSelected>(IDC_FORMAT_VERSION, CBN_SELCHANGE),
-    OnClickRange<&CFormatPage::OnSaveFormatClicked>(IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_ASK),
-    OnClickRange<&CFormatPage::OnEngineClicked>(IDC_FORMAT_ENGINE_DRIVER, IDC_FORMAT_ENGINE_RTF),
-};
-
-bool CFormatPage::OnWindowMessage(WindowMessage& message) {
-  return DispatchMessages(kMessages, *this, message) || CNemUIPage::OnWindowMessage(message);
+MessageTable CFormatPage::Messages() const {
+  static constexpr MessageRow kMessages[] = {
+      OnCommand<&CFormatPage::OnVersionSelected>(IDC_FORMAT_VERSION, CBN_SELCHANGE),
+      OnClickRange<&CFormatPage::OnSaveFormatClicked>(IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_ASK),
+      OnClickRange<&CFormatPage::OnEngineClicked>(IDC_FORMAT_ENGINE_DRIVER, IDC_FORMAT_ENGINE_RTF),
+  };
+  return kMessages;
 }
 
-void CFormatPage::GetCockpitValues(FormatCockpitValues& values) {
-  ReadProperties();
-  values = {version, saveFormat, saveConversion};
-}
-
-void CFormatPage::SetCockpitValues(const FormatCockpitValues& values) {
-  ReadProperties();
-  if (!IsSetNumber(versionOverride)) version = values.pdfVersion;
-  if (isFirstSet) {
-    saveFormat = values.saveFormat;
-    saveConversion = values.saveConversion;
-  }
-  if (IsWindow()) UpdateData(false);
+void CFormatPage::ExchangeCockpitValues(const CockpitExchange& exchange, FormatCockpitValues& values) {
+  exchange.Value(version, values.pdfVersion, versionOverride.IsSet());
+  exchange.Value(saveFormat, values.saveFormat, !isFirstSet);
+  exchange.Value(saveConversion, values.saveConversion, !isFirstSet);
 }
 
 void CFormatPage::TakeVersion(uint16_t value) {
@@ -83,14 +73,10 @@ void CFormatPage::TakeVersion(uint16_t value) {
 }
 
 BOOL CFormatPage::OnInitDialog() {
-  FillFromTable(CComboBox(Item(IDC_FORMAT_VERSION)), kPdfVersions);
+  if (!FillFromTable(CComboBox(Item(IDC_FORMAT_VERSION)), kPdfVersions)) return FALSE;
   Item(IDC_FORMAT_ADD_IN_FEATURES).SetText(MessageText(MSG_FORMAT_ADD_IN_FEATURES).Text());
   Item(IDC_FORMAT_ENGINE_RTF).SetText(MessageText(MSG_FORMAT_ENGINE_RTF).Text());
-  if (!CNemUIPage::OnInitDialog()) return FALSE;
-
-  manualLink_.Attach(*this, IDC_FORMAT_MANUAL_LINK);
-  manualLink_.SetNotifyParent(true);
-  manualLink_.SetUnderline(true);
+  if (!CTrackedPage::OnInitDialog()) return FALSE;
 
   informationSign_.Attach(*this, IDC_FORMAT_SIGN_INFORMATION);
   informationSign_.SetImage(Pictures::kSignInformation32.bitmap, kNoTransparentColor,
@@ -253,6 +239,4 @@ void CFormatPage::UpdateControls() {
   ApplyOverrides();
 }
 
-void CFormatPage::ApplyOverrides() {
-  if (IsSetNumber(versionOverride)) Item(IDC_FORMAT_VERSION).Enable(false);
-}
+void CFormatPage::ApplyOverrides() { Lock(versionOverride.IsSet(), {IDC_FORMAT_VERSION}); }

@@ -1,24 +1,19 @@
 // The PDF version of the output, which other pages obey; the kind of file; the conversion engine.
 #pragma once
 
-#include "cockpit/CockpitValues.h"
+#include "cockpit/CTrackedPage.h"
 #include "controls/CImageStatic.h"
-#include "controls/CMyHyperLink.h"
-#include "environment/AdminSettings.h"
+#include "environment/Override.h"
 #include "pages/FormatAccess.h"
 #include "pages/SaveFormat.h"
 #include "resources/ResourceIds.h"
-#include "sheet/CNemUIPage.h"
 
-class CFormatPage : public CNemUIPage, public CockpitPage<FormatCockpitValues>, public FormatAccess {
+class CFormatPage : public CTrackedPage<FormatCockpitValues>, public FormatAccess {
  public:
-  using CNemUIPage::CNemUIPage;
+  using CTrackedPage::CTrackedPage;
 
   // A member that has not been read from its property yet.
   static constexpr uint16_t kNotRead = 0xFFFF;
-
-  void GetCockpitValues(FormatCockpitValues& values) override;
-  void SetCockpitValues(const FormatCockpitValues& values) override;
 
   uint16_t printOutput = 0;
   uint16_t version = kNotRead;  // as the list shows it, unless it has no row for it
@@ -29,7 +24,7 @@ class CFormatPage : public CNemUIPage, public CockpitPage<FormatCockpitValues>, 
   uint16_t stationeryEnabled = 0;
 
   // What an administrator has fixed.
-  int32_t versionOverride = kUnsetNumber;
+  NumberOverride versionOverride;
 
   // The basic settings: those of a document are e.pdf, which leaves the version as the one choice.
   bool isFirstSet = true;
@@ -39,13 +34,13 @@ class CFormatPage : public CNemUIPage, public CockpitPage<FormatCockpitValues>, 
  protected:
   BOOL OnInitDialog() override;
   void DoDataExchange(CDataExchange& exchange) override;
-  bool OnWindowMessage(WindowMessage& message) override;
+  MessageTable Messages() const override;
+  int HelpLinkId() const override { return IDC_FORMAT_MANUAL_LINK; }
+  void ExchangeCockpitValues(const CockpitExchange& exchange, FormatCockpitValues& values) override;
   // As if it had been loaded: an untouched list then stores this version.
   void TakeVersion(uint16_t value);
 
  private:
-  static const MessageRow kMessages[];
-
   void LoadControls();
   void SaveControls(CDataExchange& exchange);
 
@@ -68,7 +63,6 @@ class CFormatPage : public CNemUIPage, public CockpitPage<FormatCockpitValues>, 
   void ApplyOverrides();
 
   CImageStatic informationSign_, warningSign_;
-  CMyHyperLink manualLink_;
   uint16_t versionAsLoaded_ = kNotRead;
   bool versionTouched_ = false;  // the user has chosen one
   // Told once in the page's life: what PDF/A-1, 2, 3 and PDF/UA activate, and what they ask of stationery paper.

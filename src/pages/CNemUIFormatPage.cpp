@@ -5,14 +5,6 @@ namespace {
 // The kind of file is one for all settings sets.
 constexpr int kSaveFormatSet = 0;
 
-constexpr PropertyBinding<CFormatPage> kBindings[] = {
-    BindReadOnly<&CFormatPage::printOutput, &CDialogProperties::PrintOutput>(),
-    Bind<&CFormatPage::version, &CDialogProperties::PdfVersion>(),
-    BindReadOnly<&CFormatPage::saveConversionEnabled, &CDialogProperties::SaveConversionEnabled>(),
-    BindReadOnly<&CFormatPage::stationeryEnabled, &CDialogProperties::StationeryEnabled>(),
-    BindOverride<&CFormatPage::versionOverride, &AdminSettings::PdfVersion_Override>(),
-};
-
 }  // namespace
 
 CNemUIFormatPage::CNemUIFormatPage(SheetServices* sheet, const PageDescription& description, int settingsIndex)
@@ -20,7 +12,16 @@ CNemUIFormatPage::CNemUIFormatPage(SheetServices* sheet, const PageDescription& 
   isFirstSet = settingsIndex == 0;
 }
 
-std::span<const PropertyBinding<CFormatPage>> CNemUIFormatPage::Bindings() const { return kBindings; }
+auto CNemUIFormatPage::Bindings() const -> BindingTable {
+  static constexpr Binding kBindings[] = {
+      BindReadOnly<&CFormatPage::printOutput, &CDialogProperties::PrintOutput>(),
+      Bind<&CFormatPage::version, &CDialogProperties::PdfVersion>(),
+      BindReadOnly<&CFormatPage::saveConversionEnabled, &CDialogProperties::SaveConversionEnabled>(),
+      BindReadOnly<&CFormatPage::stationeryEnabled, &CDialogProperties::StationeryEnabled>(),
+      BindOverride<&CFormatPage::versionOverride, &AdminSettings::PdfVersion_Override>(),
+  };
+  return kBindings;
+}
 
 void CNemUIFormatPage::OnPropertiesRead() {
   const CDialogProperties& properties = Sheet()->Properties();

@@ -12,7 +12,7 @@ class CNemUIFormatPage : public CNemUISettingsPage<CFormatPage> {
   int GetSaveFormat() override;
 
  protected:
-  std::span<const PropertyBinding<CFormatPage>> Bindings() const override;
+  BindingTable Bindings() const override;
   void OnPropertiesRead() override;
   void OnPropertiesWritten() override;
 

@@ -2,8 +2,8 @@
 
 #include "cockpit/CNemUICockpitPage.h"
 #include "MessageIds.h"
-#include "pages/CNemUIFormatPage.h"
 #include "pages/CNemUIColorsPage.h"
+#include "pages/CNemUIFormatPage.h"
 #include "pages/CNemUINoDocSettingsPage.h"
 #include "pages/CNemUIPdfAppearancePage.h"
 #include "pages/CNemUIPdfGraphicPage.h"
@@ -25,12 +25,12 @@ constexpr PageCatalogueRow kPages[] = {
     {{IDD_GRAPHIC_PAGE, 0, MSG_PAGE_GRAPHICAL_OPTIMIZATION, 108, 251, 252},
      Make<CNemUIPdfGraphicPage>,
      Make<CNemUIPdfGraphicPage>},
-    {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
-    {{IDD_COCKPIT_PAGE, 0, MSG_PAGE_COCKPIT, 120, 321, 322}, Make<CNemUICockpitPage>, Make<CNemUICockpitPage>},
     {{IDD_APPEARANCE_PAGE, 0, MSG_PAGE_DISPLAY, 109, 235, 236},
      Make<CNemUIPdfAppearancePage>,
      Make<CNemUIPdfAppearancePage>},
     {{IDD_COLORSPACE_PAGE, 0, MSG_PAGE_COLORSPACE, 111, 239, 240}, Make<CNemUIColorsPage>, Make<CNemUIColorsPage>},
+    {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
+    {{IDD_COCKPIT_PAGE, 0, MSG_PAGE_COCKPIT, 120, 321, 322}, Make<CNemUICockpitPage>, Make<CNemUICockpitPage>},
     {{IDD_ACTION_PAGE, 0, MSG_PAGE_ACTIONS, 102, 237, 238}, nullptr, kPlaceholder},
     {{IDD_MAIL_PAGE, 0, MSG_PAGE_MAIL, 104, 243, 244}, nullptr, kPlaceholder},
     {{IDD_SAVING_PAGE, 0, MSG_PAGE_SAVING, 103, 255, 256}, nullptr, kPlaceholder},

@@ -84,7 +84,7 @@ class ControlDialog : public CDialog {
 
  private:
   static INT_PTR CALLBACK Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
-    if (message == WM_INITDIALOG) reinterpret_cast<ControlDialog*>(lParam)->Bind(window);
+    if (message == WM_INITDIALOG) reinterpret_cast<ControlDialog*>(lParam)->BindWindow(window);
     return Process(window, message, wParam, lParam);
   }
 

@@ -8,6 +8,7 @@
 #include "pages/EmbedFilenamesAccess.h"
 #include "pages/SecurityAccess.h"
 #include "pages/ZugferdAccess.h"
+#include "PageTable.h"
 #include "resources/ResourceIds.h"
 #include "support/FakeSheet.h"
 #include "ui/PropertyAccess.h"
@@ -15,6 +16,10 @@
 namespace {
 
 constexpr PageDescription kDescription{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285};
+
+// The values depend on each other and are tested below.
+const PageTable kTable = {.name = "Format", .pageId = 118, .helpLink = IDC_FORMAT_MANUAL_LINK};
+const PageTableEntry entry(kTable);
 
 // In the order of the list.
 constexpr int kVersions[] = {13, 14, 15, 16, 17, 18, 100, 101, 102, 103, 104, 105, 106, 107, 200};
@@ -39,7 +44,7 @@ const std::wstring kDefaultsUA =
     L"-no stationery paper\r\n-RTF conversion";
 const std::wstring kStationeryReminder =
     L"Please check, that the selected stationery paper is also in the PDF/A format.\r\n"
-    L"Otherwise the output-PDF won't be PDF/A format compatible.";
+    L"Otherweise the output-PDF won't be PDF/A format compatible.";
 const std::wstring kInvoiceQuestion =
     L"The embedding of a ZUGFeRD file needs output as pdf/a3. Is it ok to change to disable the ZUGFeRD-embedding?";
 const std::wstring kRtfInformation =

@@ -8,6 +8,7 @@
 #include "resources/ResourceIds.h"
 #include "support/Accessible.h"
 #include "support/FakeSheet.h"
+#include "ui/PropertyAccess.h"
 
 namespace {
 
