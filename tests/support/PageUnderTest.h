@@ -48,9 +48,10 @@ class PageUnderTest {
   void Set(const std::wstring& property, const std::wstring& value) { Find(property).SetValueText(value.c_str()); }
   void Set(const std::wstring& property, int32_t value) { Set(property, std::to_wstring(value)); }
   std::wstring Value(const std::wstring& property) { return TextOf(Find(property)); }
-  // All properties of both sets, by set and name.
-  std::map<std::pair<int, std::wstring>, std::wstring> AllValues() {
-    std::map<std::pair<int, std::wstring>, std::wstring> values;
+  // Properties of both sets, by set and name.
+  using Values = std::map<std::pair<int, std::wstring>, std::wstring>;
+  Values AllValues() {
+    Values values;
     for (const int set : {0, 1}) {
       const CPropertySet& properties = sheet_.properties.settingsSets[set];
       for (auto position = properties.First(); position;) {
@@ -59,6 +60,14 @@ class PageUnderTest {
       }
     }
     return values;
+  }
+
+  // Those that differ from what they were.
+  Values ChangesSince(const Values& before) {
+    Values changes;
+    for (const auto& [place, value] : AllValues())
+      if (before.at(place) != value) changes[place] = value;
+    return changes;
   }
 
   bool Open() {
