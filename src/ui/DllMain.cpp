@@ -1,5 +1,6 @@
 #include "window/Windows.h"
 
+#include "controls/CColourPopup.h"
 #include "DriverLIB/ModuleState.h"
 #include "window/CActivationContext.h"
 #include "window/CControlBar.h"
@@ -15,6 +16,7 @@ void Detach(bool processEnds) {
   }
   FreeThreadState();
   CControlBar::UnregisterWindowClass();
+  CColourPopup::UnregisterWindowClasses();
   ReleaseActivationContext();
   ReleaseThreadSlots();
 }
