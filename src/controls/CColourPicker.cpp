@@ -253,7 +253,7 @@ void CColourPicker::Draw(HDC dc, const DRAWITEMSTRUCT& item) const {
   ::SetBkMode(dc, TRANSPARENT);
   ::SetTextColor(dc, textColor);
   ::DrawTextW(dc, label.Text(), label.Length(), &text,
-              DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS);
+              DT_LEFT | DT_VCENTER | DT_SINGLELINE | DT_NOPREFIX | DT_END_ELLIPSIS | DT_NOCLIP);
 
   if (!(item.itemState & ODS_FOCUS) || (item.itemState & ODS_NOFOCUSRECT)) return;
   RECT focus = client;

@@ -140,7 +140,11 @@ void CColourPopup::End(UINT code) {
   if (code == ColourSelEndOk && highlighted_ == kCustomCell && !ChooseInDialog()) code = ColourSelEndCancel;
   if (code == ColourSelEndCancel) chosenColour_ = setup_.colour;
   setup_.picker.Send(code, chosenColour_);
-  Destroy();
+  // A window that goes while another one is being activated would call its owner instead: it waits for that to be over.
+  if (left_ && Post(WM_CLOSE))
+    untilClosed_ = alive;
+  else
+    Destroy();
 }
 
 // The dialog's owner is the window around the picker: it cannot be used meanwhile, and takes the dialog with it should
@@ -158,9 +162,11 @@ void CColourPopup::Withdraw() {
   Unwatch();
   if (::GetCapture() == window_) ::ReleaseCapture();
   const CWnd root(Root());
-  if (HasFocus() && !dying_ && ::IsWindowVisible(setup_.picker.Handle())) setup_.picker.Focus();
-  if (!dying_) ::ShowWindow(window_, SW_HIDE);
-  root.Send(WM_NCACTIVATE, ::GetActiveWindow() == root.Handle());
+  if (HasFocus() && !left_ && !dying_ && ::IsWindowVisible(setup_.picker.Handle())) setup_.picker.Focus();
+  if (!dying_)
+    ::SetWindowPos(window_, nullptr, 0, 0, 0, 0,
+                   SWP_HIDEWINDOW | SWP_NOACTIVATE | SWP_NOMOVE | SWP_NOSIZE | SWP_NOZORDER);
+  root.Send(WM_NCACTIVATE, !left_ && ::GetActiveWindow() == root.Handle());
 }
 
 void CColourPopup::Abandon() {
@@ -172,6 +178,13 @@ void CColourPopup::Abandon() {
 
 void CColourPopup::Destroy() {
   if (window_ && !dying_) ::DestroyWindow(window_);
+}
+
+// The user is on his way to another window, and must not be called back.
+void CColourPopup::OnLeft() {
+  if (ending_) return;
+  left_ = true;
+  End(ColourSelEndCancel);
 }
 
 // By its owner's end, if not by its own.
@@ -262,10 +275,10 @@ bool CColourPopup::OnWindowMessage(WindowMessage& message) {
       NotifyAccessibleEvent(EVENT_OBJECT_FOCUS, window_, FocusedPart());
       return false;
     case WM_ACTIVATE:
-      if (LOWORD(message.wParam) == WA_INACTIVE) End(ColourSelEndCancel);
+      if (LOWORD(message.wParam) == WA_INACTIVE) OnLeft();
       return false;
     case WM_ACTIVATEAPP:
-      if (!message.wParam) End(ColourSelEndCancel);
+      if (!message.wParam) OnLeft();
       return false;
     case WM_CAPTURECHANGED:
       if (reinterpret_cast<HWND>(message.lParam) != Handle()) End(ColourSelEndCancel);
@@ -274,8 +287,11 @@ bool CColourPopup::OnWindowMessage(WindowMessage& message) {
       // The release of Alt, with which the popup may have been opened, would end it for a menu that is not there.
       return (message.wParam & 0xFFF0) == SC_KEYMENU;
     case WM_CANCELMODE:
+      End(ColourSelEndCancel);
+      return true;
     case WM_CLOSE:
       End(ColourSelEndCancel);
+      if (untilClosed_) Destroy();
       return true;
     case WM_DESTROY:
       OnWindowDestroyed();
@@ -309,6 +325,7 @@ LRESULT CALLBACK CColourPopup::WindowProcedure(HWND window, UINT message, WPARAM
     ::SetWindowLongPtrW(window, GWLP_USERDATA, 0);
     self->accessibility_.Disconnect();
     self->window_ = nullptr;
+    const auto untilHere = std::exchange(self->untilClosed_, nullptr);
     return ::DefWindowProcW(window, message, wParam, lParam);
   }
   const auto alive = self->weak_from_this().lock();

@@ -72,6 +72,7 @@ class CColourPopup : public CWnd,
   bool OnKey(WPARAM key);
   void OnMouseMove(LPARAM point);
   void OnMouseUp(LPARAM point);
+  void OnLeft();
   void OnWindowDestroyed();
 
   bool ChooseInDialog();
@@ -104,9 +105,11 @@ class CColourPopup : public CWnd,
   COLORREF chosenColour_;
   GdiFont font_;
   GdiPalette palette_;
-  POINT mouse_{};              // where it was last, on the screen
-  std::vector<HWND> watched_;  // the picker and what is around it
-  bool ending_ = false;        // also while the dialog for colours is open
-  bool dying_ = false;         // the window is being destroyed
+  POINT mouse_{};                              // where it was last, on the screen
+  std::vector<HWND> watched_;                  // the picker and what is around it
+  bool ending_ = false;                        // also while the dialog for colours is open
+  bool left_ = false;                          // the activation has gone elsewhere
+  std::shared_ptr<CColourPopup> untilClosed_;  // itself, when it has ended before its window
+  bool dying_ = false;                         // the window is being destroyed
   CAccessibility accessibility_;
 };

@@ -120,6 +120,29 @@ TEST(CColourPopup, LeavesTheActiveLookToTheWindowOfItsPicker) {
   const std::vector<WindowMessage> looks = test.page.Received(WM_NCACTIVATE);
   ASSERT_FALSE(looks.empty());
   EXPECT_EQ(static_cast<WPARAM>(TRUE), looks.back().wParam);
+  test.Press(VK_ESCAPE);
+  EXPECT_EQ(static_cast<WPARAM>(TRUE), test.page.Received(WM_NCACTIVATE).back().wParam) << "and gives it back";
+}
+
+TEST(CColourPopup, TakesTheActiveLookAlongWhenTheUserGoesElsewhere) {
+  ControlDialog elsewhere;
+  ColourPage test;
+  test.Open(kForeign);
+  const HWND popup = test.Popup().Handle();
+  bool calledBack = false;
+  test.page.onMessage = [&](const WindowMessage& message) {
+    if (message.message == WM_ACTIVATE && LOWORD(message.wParam) != WA_INACTIVE) calledBack = true;
+  };
+  ::SetActiveWindow(elsewhere.Handle());
+  EXPECT_FALSE(calledBack);
+  EXPECT_FALSE(::IsWindowVisible(popup));
+  EXPECT_FALSE(test.picker->IsOpen());
+  ASSERT_FALSE(test.page.Received(WM_NCACTIVATE).empty());
+  EXPECT_EQ(static_cast<WPARAM>(FALSE), test.page.Received(WM_NCACTIVATE).back().wParam);
+  RunPostedMessages();
+  EXPECT_TRUE(test.IsOver());
+  EXPECT_FALSE(calledBack);
+  EXPECT_EQ(elsewhere.Handle(), ::GetActiveWindow()) << "it does not take the user back";
 }
 
 bool hasShadows = false;
@@ -495,7 +518,9 @@ TEST(CColourPopup, EndsWhenItIsInterrupted) {
     test.Popup().Highlight(16);
     test.page.received.clear();
     interruption.happens(test);
+    EXPECT_FALSE(::IsWindowVisible(popup)) << interruption.what;
     test.ExpectTold({kCloseUp, kCancel}, kForeign);
+    RunPostedMessages();
     EXPECT_TRUE(test.IsOver()) << interruption.what;
     EXPECT_EQ(kForeign, test.picker->GetColour()) << interruption.what;
     EXPECT_FALSE(::IsWindow(popup)) << interruption.what;
