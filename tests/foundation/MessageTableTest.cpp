@@ -2,6 +2,8 @@
 // number.
 #include <gtest/gtest.h>
 
+#include <algorithm>
+
 #include "support/ModuleResources.h"
 
 namespace {
@@ -125,20 +127,43 @@ TEST(MessageTable, TranslationsDifferFromTheEnglishText) {
   const std::set<std::wstring> papers = {L"A0 841 x 1189 mm", L"A1 594 x 841 mm", L"A2 420 x 594 mm",
                                          L"A3 297 x 420 mm",  L"A4 210 x 297 mm", L"A5 148 x 210 mm",
                                          L"A6 105 x 148 mm",  L"B4 250 x 354 mm", L"B5 182 x 257 mm"};
-  const std::map<WORD, std::set<std::wstring>> same = {
-      {kGerman,
-       {L"Cockpit", L"Layout", L"Info", L"E-Mail", L"Links", L"Update", L"Internet", L"JPEG", L"ZUGFeRD", L"PDF/A-1b",
-        L"Standard", L"50 dpi", L"150 dpi", L"450 dpi", L"900 dpi", L"2400 dpi", L"%1!d! dpi"}},
-      {kFrench, {L"Page", L"Actions", L"Internet", L"JPEG", L"Standard", L"ZUGFeRD", L"PDF/A-1b", L"XX"}},
-      {kGerman, {L"Cockpit", L"Layout",   L"Info",   L"E-Mail",  L"Links",   L"Update",  L"Internet", L"JPEG",
-                 L"ZUGFeRD", L"PDF/A-1b", L"50 dpi", L"150 dpi", L"450 dpi", L"900 dpi", L"2400 dpi", L"%1!d! dpi",
-                 L"Orange",  L"Pink",     L"Gold",   L"R",       L"G",       L"B",       L"Text"}},
-      {kFrench,
-       {L"Page", L"Actions", L"Internet", L"JPEG", L"ZUGFeRD", L"PDF/A-1b", L"Indigo", L"Orange", L"Violet",
-        L"Turquoise", L"Rose", L"R", L"B", L"XX"}},
-      {kArabic,
-       {L"JPEG", L"ZUGFeRD", L"PDF/A-1b", L"50 dpi", L"150 dpi", L"450 dpi", L"900 dpi", L"2400 dpi", L"%1!d! dpi",
-        L"%1!d!%%", L"R", L"G", L"B", L"XX"}},
+  const std::pair<std::wstring, std::set<WORD>> same[] = {
+      {L"Cockpit", {kGerman}},
+      {L"Layout", {kGerman}},
+      {L"Info", {kGerman}},
+      {L"E-Mail", {kGerman}},
+      {L"Links", {kGerman}},
+      {L"Update", {kGerman}},
+      {L"Internet", {kGerman, kFrench}},
+      {L"JPEG", {kGerman, kFrench, kArabic}},
+      {L"ZUGFeRD", {kGerman, kFrench, kArabic}},
+      {L"PDF/A-1b", {kGerman, kFrench, kArabic}},
+      {L"Standard", {kGerman, kFrench}},
+      {L"50 dpi", {kGerman, kArabic}},
+      {L"150 dpi", {kGerman, kArabic}},
+      {L"450 dpi", {kGerman, kArabic}},
+      {L"900 dpi", {kGerman, kArabic}},
+      {L"2400 dpi", {kGerman, kArabic}},
+      {L"%1!d! dpi", {kGerman, kArabic}},
+      {L"Page", {kFrench}},
+      {L"Actions", {kFrench}},
+      {L"XX", {kFrench, kArabic}},
+      {L"Orange", {kGerman, kFrench}},
+      {L"Pink", {kGerman}},
+      {L"Gold", {kGerman}},
+      {L"R", {kGerman, kFrench, kArabic}},
+      {L"G", {kGerman, kArabic}},
+      {L"B", {kGerman, kFrench, kArabic}},
+      {L"Text", {kGerman}},
+      {L"Indigo", {kFrench}},
+      {L"Violet", {kFrench}},
+      {L"Turquoise", {kFrench}},
+      {L"Rose", {kFrench}},
+      {L"%1!d!%%", {kArabic}},
+  };
+  const auto isSame = [&same](const std::wstring& text, WORD language) {
+    return std::ranges::any_of(same,
+                               [&](const auto& row) { return row.first == text && row.second.contains(language); });
   };
   const Texts english = MessageTable(kEnglish);
   for (const WORD language : kTranslations) {
@@ -147,7 +172,7 @@ TEST(MessageTable, TranslationsDifferFromTheEnglishText) {
       const std::wstring text = Text(english, id);
       if (Text(table, id) != text) continue;
       if (language != kArabic && papers.contains(text)) continue;
-      EXPECT_TRUE(same.at(language).contains(text)) << language << std::hex << " " << id;
+      EXPECT_TRUE(isSame(text, language)) << language << std::hex << " " << id;
     }
   }
 }

@@ -98,6 +98,7 @@ class SessionTrace : public testing::Test {
       value->Delete();  // the value is not
     }
     userTrace.Set(L"session.log");
+    country.Set(L"49");  // Germany
   }
 
   // Runs `body` on a thread of its own, as which the library traces it. Returns the thread's trace.
@@ -190,6 +191,11 @@ class SessionTrace : public testing::Test {
         L"Error: SetProperty EncryptUserPasswort failed",
         L"Error: Setze Fehler 99(EncryptUserPasswort) in ..\\NemUI(207)",
         L"Warning: Property \"\" nicht verfuegbar (Set)",
+        // The cockpits of both tabs.
+        L"IsA4PaperDefault: Country = 49",
+        L"IsA4PaperDefault = Yes",
+        L"IsA4PaperDefault: Country = 49",
+        L"IsA4PaperDefault = Yes",
         L"Driver Conf file not found " + driver.Directory() + L"NEMpdf.conf",
         L"Unknown BOOLValue StartActionMailCheck_Override = yes!",
         L"Unknown non negative number Value -96!",
@@ -212,6 +218,7 @@ class SessionTrace : public testing::Test {
   ProductValue userTrace{HKEY_CURRENT_USER, L"TraceFilename"};
   ProductValue machineLog{HKEY_LOCAL_MACHINE, L"LogMsgFile"};
   ProductValue userLog{HKEY_CURRENT_USER, L"LogMsgFile"};
+  RegistryValue country{HKEY_CURRENT_USER, L"Control Panel\\International", L"iCountry"};
   TestDriver driver;
   TestPrinter printer{L"Invoices"};
   DriverFile file{driver, L"Invoices.conf",
@@ -328,6 +335,8 @@ TEST_F(SessionTrace, ASessionWithoutMistakesLeavesLittle) {
                                         });
     EXPECT_EQ(1, result.value);
   });
-  ExpectTrace(text, begin, {L"(the component)", L"(the system)", L"Trace closed."});
+  ExpectTrace(text, begin,
+              {L"(the component)", L"(the system)", L"IsA4PaperDefault: Country = 49", L"IsA4PaperDefault = Yes",
+               L"IsA4PaperDefault: Country = 49", L"IsA4PaperDefault = Yes", L"Trace closed."});
   ExpectNoPassword();
 }

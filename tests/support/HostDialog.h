@@ -16,12 +16,8 @@ class HostDialog {
     EXPECT_EQ(1, NemPdfUICreateDialog(&handle_));
     Set(NEMPDFUI_GENERAL, L"SheetTitle", L"Settings");
     Set(NEMPDFUI_GENERAL, L"MsgBoxTitle", L"Host");
-    for (const int set : {0, 1}) {
-      Set(set, L"GraphicResolution", 600);
-      Set(set, L"GraphicCompressMethod", 4);
-      Set(set, L"GraphicJpegQuality", 85);
-      Set(set, L"GraphicColorReduction", 1);
-    }
+    for (const int set : {0, 1})
+      for (const auto& [name, value] : kDefaults) Set(set, name, value);
   }
   ~HostDialog() { NemPdfUIFreeDialog(&handle_); }
   HostDialog(const HostDialog&) = delete;
@@ -51,5 +47,33 @@ class HostDialog {
   int DoModal() const { return NemPdfUIDoModal(handle_); }
 
  private:
+  // The factory values that the cockpit compares with, as far as they are not 0.
+  static constexpr std::pair<const wchar_t*, int32_t> kDefaults[] = {
+      {L"GraphicResolution", 600},
+      {L"GraphicCompressMethod", 4},
+      {L"GraphicJpegQuality", 85},
+      {L"GraphicColorReduction", 1},
+      {L"PaperSize", 1},  // Letter, the paper of the tests' country
+      {L"Orientation", 1},
+      {L"PaperScaleWidth", 100},
+      {L"PaperScaleHeight", 100},
+      {L"Scale", 100},
+      {L"PaperMarginCenter", 1},
+      {L"OpenPageIndex", 1},
+      {L"FontsEmbedded", 3},
+      {L"UseHyperlinkRecognition", 1},
+      {L"ZUGFeRDCreationMethod", 1},
+      {L"SaveAction", 136},
+      {L"PdfVersion", 14},
+      {L"StartAction", 1},
+      {L"FormfieldUseTextfieldBackColor", 1},
+      {L"FormfieldTextfieldBackColor", 0xC0C0C0},
+      {L"FormfieldUseCheckboxBorder", 1},
+      {L"FormfieldUseCheckboxBackColor", 1},
+      {L"FormfieldCheckboxBackColor", 0xC0C0C0},
+      {L"FormfieldUseDropdownBackColor", 1},
+      {L"FormfieldDropdownBackColor", 0xC0C0C0},
+  };
+
   NemPdfUIHandle handle_ = nullptr;
 };
