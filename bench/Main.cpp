@@ -12,6 +12,9 @@
 #include "DriverLIB/TextLists.h"
 #include "Measure.h"
 #include "NemPdfUI.h"
+#include "pages/EmbedFilenames.h"
+#include "pages/OutlineTexts.h"
+#include "pages/StationeryList.h"
 #include "Sheets.h"
 
 namespace {
@@ -58,19 +61,83 @@ Comparison BenchSetAndGet(int rounds) {
   return comparison;
 }
 
-Comparison BenchParsing(int rounds) {
-  const auto list = [](int entries) {
+// The time of reading a list of 20000 entries against that of 10000. `entry` gives an entry by its number, `read` reads
+// a text and gives the time.
+template <class Entry, class Read>
+Comparison BenchParsing(int rounds, Entry entry, Read read) {
+  const auto list = [&](int entries) {
     std::wstring text;
-    for (int i = 0; i < entries; ++i) text += L"\"C:\\Documents\\attachment " + std::to_wstring(i) + L".pdf\";";
+    for (int i = 0; i < entries; ++i) text += entry(std::to_wstring(i));
     return text;
   };
   const std::wstring twice = list(20000), once = list(10000);
-  const auto split = [](const std::wstring& text) {
-    CUStringArray array;
-    return TimeOf([&] { SplitQuotedList(text, array, L";"); });
-  };
   return Compare(
-      rounds, [&] { return split(twice); }, [&] { return split(once); });
+      rounds, [&] { return read(twice); }, [&] { return read(once); });
+}
+
+Comparison BenchQuotedList(int rounds) {
+  return BenchParsing(
+      rounds, [](const std::wstring& number) { return L"\"C:\\Documents\\attachment " + number + L".pdf\";"; },
+      [](const std::wstring& text) {
+        CUStringArray array;
+        return TimeOf([&] { SplitQuotedList(text, array, L";"); });
+      });
+}
+
+Comparison BenchEmbedFilenames(int rounds) {
+  return BenchParsing(
+      rounds, [](const std::wstring& number) { return L"\"C:\\Documents\\attachment " + number + L".pdf\";"; },
+      [](const std::wstring& text) {
+        CUStringArray paths;
+        return TimeOf([&] {
+          ReadEmbedFilenames(text, paths);
+          EmbedFilenamesText(paths);
+        });
+      });
+}
+
+Comparison BenchStationeryList(int rounds) {
+  return BenchParsing(
+      rounds,
+      [](const std::wstring& number) {
+        return L"{NAME:\"Paper \\\"" + number + L"\\\"\";FILE:\"C:\\\\Paper\\\\a.pdf\";P:\"x\";TYPE:\"3\"}";
+      },
+      [](const std::wstring& entries) {
+        const std::wstring text = L"{" + entries + L"}";
+        StationeryFormats formats;
+        return TimeOf([&] {
+          ReadStationeryList(text, formats);
+          StationeryListText(formats);
+        });
+      });
+}
+
+Comparison BenchOutlineStyles(int rounds) {
+  return BenchParsing(
+      rounds, [](const std::wstring& number) { return L"Style " + number + L";2;"; },
+      [](const std::wstring& text) {
+        OutlineStyles styles;
+        return TimeOf([&] { ReadOutlineStyles(text, styles); });
+      });
+}
+
+// All formats are in use, so that each is looked for among the styles.
+Comparison BenchOutlineFormats(int rounds) {
+  return BenchParsing(
+      rounds,
+      [](const std::wstring& number) { return L"{STYLE:Style " + number + L";1;{FONT:Arial;10.5;Bold;1.2.3}};"; },
+      [](const std::wstring& text) {
+        CBookmarkFormatArray formats;
+        OutlineStyles used;
+        ReadOutlineFormats(text, used, false, formats);
+        for (int i = 0; i < formats.Count(); ++i) used.names.Add(formats.GetAt(i)->styleName);
+        formats.RemoveAll();
+        return TimeOf([&] {
+          ReadOutlineFormats(text, used, false, formats);
+          COutlineWriter writer;
+          for (int i = 0; i < formats.Count(); ++i) writer.Add(*formats.GetAt(i));
+        });
+      });
 }
 
 std::wstring FolderOfProgram() {
@@ -108,7 +175,11 @@ int wmain() {
   PrintRow("first show of the graphic page / a bare dialog of its template", BenchFirstShowOfGraphicPage(41), 1.5);
   PrintRow("set and get a number by name / a hash map of variants", BenchSetAndGet(11), 1.0);
   PrintRow("loading the library / an empty one with the same imports", BenchLoading(101), 3.0);
-  PrintRow("splitting 20000 quoted entries / 10000", BenchParsing(21), 2.3);
+  PrintRow("splitting 20000 quoted entries / 10000", BenchQuotedList(21), 2.3);
+  PrintRow("reading and writing 20000 attachments / 10000", BenchEmbedFilenames(21), 2.3);
+  PrintRow("reading and writing 20000 stationeries / 10000", BenchStationeryList(21), 2.3);
+  PrintRow("reading 20000 styles in use / 10000", BenchOutlineStyles(21), 2.3);
+  PrintRow("reading and writing 20000 bookmark formats / 10000", BenchOutlineFormats(21), 2.3);
   std::printf("\nNemPdfUI64.dll: %lu bytes; heap of one open sheet: %zu bytes\n",
               FileSize(FolderOfProgram() + L"NemPdfUI64.dll"), MemoryOfOpenSheet());
   return allReached ? 0 : 1;
