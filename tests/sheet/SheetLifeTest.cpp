@@ -39,7 +39,7 @@ class ModalRun : public testing::Test {
   }
   static void ExpectChanged(const HostDialog& host, bool changed) {
     EXPECT_EQ(changed ? 1 : 0, host.Long(-1, L"PasswordVisible"));
-    EXPECT_EQ(changed ? 50 : 0, host.Long(0, L"Scale"));
+    EXPECT_EQ(changed ? 50 : 100, host.Long(0, L"Scale"));
     EXPECT_EQ(changed ? L"mark.png" : L"", host.Text(1, L"WatermarkFilename"));
   }
 
