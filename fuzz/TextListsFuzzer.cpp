@@ -104,8 +104,7 @@ void TestLists(Input& input) {
   if (Split(joined, separator) == Split(text, separator)) RequireSame(Split(text, separator), again);
 }
 
-// --- Strings
-// -----------------------------------------------------------------------------------------------------------
+// --- Strings -------------------------------------------------------------------------------------------------------
 
 int Found(size_t position) { return position == Text::npos ? -1 : static_cast<int>(position); }
 
@@ -191,7 +190,8 @@ void Change(CUString& string, Text& text, Input& input) {
       break;
     }
     case 6: {
-      const Text oldText = other.substr(0, 2), newText = input.String();
+      // Short, so that a text of one letter over and over does not take all the time.
+      const Text oldText = other.substr(0, 2), newText = input.String().substr(0, 8);
       string.ReplaceStr(oldText, newText);
       text = Replaced(text, oldText, newText);
       break;
