@@ -111,4 +111,35 @@ class CListCtrl : public CWnd {
   explicit CListCtrl(CWnd window) : CWnd(window) {}
 
   int Count() const { return static_cast<int>(Send(LVM_GETITEMCOUNT)); }
+  int ColumnCount() const;
+  void AddListStyle(DWORD style) const { Send(LVM_SETEXTENDEDLISTVIEWSTYLE, style, static_cast<LPARAM>(style)); }
+  // The width is one in pixels of the window's dpi.
+  int InsertColumn(int column, const wchar_t* title, int width) const;
+  void SetColumnWidth(int column, int width) const { Send(LVM_SETCOLUMNWIDTH, static_cast<WPARAM>(column), width); }
+
+  int InsertRow(int row, const wchar_t* text, LPARAM data = 0) const;
+  bool DeleteRow(int row) const { return row >= 0 && Send(LVM_DELETEITEM, static_cast<WPARAM>(row)); }
+  void DeleteAllRows() const { Send(LVM_DELETEALLITEMS); }
+  LPARAM RowData(int row) const;  // 0 when there is no such row
+  void SetCell(int row, int column, const wchar_t* text) const;
+  CUString CellText(int row, int column) const;
+
+  bool IsChecked(int row) const;
+  void SetCheck(int row, bool check) const;
+  UINT RowState(int row, UINT mask) const { return static_cast<UINT>(Send(LVM_GETITEMSTATE, row, mask)); }
+  void SetRowState(int row, UINT mask, UINT state) const;
+  // The row that the keyboard stands on, -1 for none.
+  int FocusedRow() const { return static_cast<int>(Send(LVM_GETNEXTITEM, static_cast<WPARAM>(-1), LVNI_FOCUSED)); }
+  // In a list of one selection the selected row, -1 for none.
+  int SelectionMark() const { return static_cast<int>(Send(LVM_GETSELECTIONMARK)); }
+  void SetSelectionMark(int row) const { Send(LVM_SETSELECTIONMARK, 0, row); }
+  void EnsureVisible(int row) const { Send(LVM_ENSUREVISIBLE, static_cast<WPARAM>(row), FALSE); }
+  // Makes the row the selection mark, visible, selected and focused. Nothing happens when there is no such row.
+  void SelectRow(int row) const;
+
+  // In client coordinates; empty when there is no such row.
+  RECT RowRect(int row) const;
+  RECT CellRect(int row, int column) const;
+  // The row at a point, in any of its cells; -1 for none.
+  int RowAt(POINT point) const;
 };

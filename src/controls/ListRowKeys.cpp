@@ -1,0 +1,24 @@
+#include "controls/ListRowKeys.h"
+
+namespace {
+
+bool IsDialogKey(WPARAM key) { return key == VK_RETURN || key == VK_ESCAPE; }
+
+}  // namespace
+
+bool WantsDialogKey(const CListCtrl& list, const MSG* message) {
+  if (!message || message->message != WM_KEYDOWN || !IsDialogKey(message->wParam)) return false;
+  return IsRepeatedKey(message->lParam) || (message->wParam == VK_RETURN && list.FocusedRow() >= 0);
+}
+
+bool IsHeldDialogKey(const WindowMessage& message) {
+  return message.message == WM_KEYDOWN && IsDialogKey(message.wParam) && IsRepeatedKey(message.lParam);
+}
+
+int ClickedColumn(const WindowMessage& message) {
+  if (message.message != WM_NOTIFY) return -1;
+  const UINT code = message.Notify().code;
+  if (code != static_cast<UINT>(HDN_ITEMCLICKW) && code != static_cast<UINT>(HDN_ITEMCLICKA)) return -1;
+  const auto& click = reinterpret_cast<const NMHEADERW&>(message.Notify());
+  return click.iButton == 0 ? click.iItem : -1;
+}
