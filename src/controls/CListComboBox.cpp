@@ -55,7 +55,8 @@ void CListComboBox::OnListClosed() {
   const HWND box = Handle();
   CListCtrlComboEdit& list = list_;
   const CUString text = SelectedRowText();
-  if (!text.IsEmpty()) list.OnComboDone(text);
+  // A list that is hidden is coming to its end.
+  if (!text.IsEmpty() && ::IsWindowVisible(list.Handle())) list.OnComboDone(text);
   if (FromHandle(box) != this) return;
   // A box that closes because the user has gone elsewhere does not fetch them back.
   if (HoldsFocus()) list.Focus();

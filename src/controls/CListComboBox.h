@@ -38,6 +38,6 @@ class CListComboBox : public CSubclassed<CComboBox> {
   void DrawOwnText() const;
 
   CListCtrlComboEdit& list_;
-  CUString text_;      // of the cell
+  CUString text_;        // of the cell
   int initialRow_ = -1;  // the row of that text
 };

@@ -16,8 +16,8 @@ constexpr int kTypeWidth = 50, kTypeWidthInWord = 80;
 constexpr int kFormatWidth = 160, kFormatWidthInWord = 120;
 constexpr int kHintGap = 10, kHintTopWithoutRows = 25, kHintHeight = 50;
 
-constexpr int kHintId = 1;         // within the list
-constexpr int kStandardRows = 3;   // the formats that are always there, outside Word mode
+constexpr int kHintId = 1;        // within the list
+constexpr int kStandardRows = 3;  // the formats that are always there, outside Word mode
 
 int CompareInColumn(int column, const BookmarkListEntry& left, const BookmarkListEntry& right) {
   switch (column) {

@@ -209,9 +209,8 @@ bool CListCtrlComboEdit::OnKeyDown(const WindowMessage& message) {
 // What the windows in the list tell their parent is for their own objects. The list itself takes an edit box for one
 // of its own.
 bool CListCtrlComboEdit::OnChildMessage(WindowMessage& message) {
-  const HWND child = message.message == WM_DRAWITEM
-                         ? reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam)->hwndItem
-                         : reinterpret_cast<HWND>(message.lParam);
+  const HWND child = message.message == WM_DRAWITEM ? reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam)->hwndItem
+                                                    : reinterpret_cast<HWND>(message.lParam);
   CSubclassedControl* const control = FromHandle(child);
   if (!control) return false;
   control->OnReflected(message);

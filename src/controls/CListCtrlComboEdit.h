@@ -1,10 +1,10 @@
 // A report list in which two columns are edited in place: one by an edit box, one by a combo box of numbers. What an
 // edit means is up to the derived class.
 //
-// The first click on a row selects it; a click on one of the two cells of the selected row opens the editor. By keyboard
-// F2 edits the text, F4 and Alt+Down open the combo box; F2 does so as well where the text cannot be edited. An editor
-// never stays open over a cell that moves, ends or is disabled. Whoever is about to read what the rows stand for calls
-// CloseEditors first, since a typed text may still be in its box.
+// The first click on a row selects it; a click on one of the two cells of the selected row opens the editor. By
+// keyboard F2 edits the text, F4 and Alt+Down open the combo box; F2 does so as well where the text cannot be edited.
+// An editor never stays open over a cell that moves, ends or is disabled. Whoever is about to read what the rows stand
+// for calls CloseEditors first, since a typed text may still be in its box.
 #pragma once
 
 #include <memory>

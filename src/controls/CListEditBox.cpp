@@ -13,10 +13,9 @@ CListEditBox::~CListEditBox() {
 
 bool CListEditBox::Create(const RECT& cell, const CUString& text) {
   const CActivationScope look;
-  const HWND box =
-      ::CreateWindowExW(WS_EX_NOPARENTNOTIFY, L"EDIT", nullptr, WS_CHILD | WS_BORDER | WS_CLIPSIBLINGS | ES_AUTOHSCROLL,
-                        cell.left, cell.top, cell.right - cell.left, cell.bottom - cell.top, list_.Handle(), nullptr,
-                        nullptr, nullptr);
+  const HWND box = ::CreateWindowExW(
+      WS_EX_NOPARENTNOTIFY, L"EDIT", nullptr, WS_CHILD | WS_BORDER | WS_CLIPSIBLINGS | ES_AUTOHSCROLL, cell.left,
+      cell.top, cell.right - cell.left, cell.bottom - cell.top, list_.Handle(), nullptr, nullptr, nullptr);
   if (!AttachTo(box)) return false;
   SetFont(list_.Font());
   SetText(text.Text());

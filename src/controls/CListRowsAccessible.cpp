@@ -18,9 +18,7 @@ CUString CListRowsAccessible::PartName(int part) const {
   return name;
 }
 
-int CListRowsAccessible::PartRole(int part) const {
-  return part == kSelf ? ROLE_SYSTEM_LIST : ROLE_SYSTEM_LISTITEM;
-}
+int CListRowsAccessible::PartRole(int part) const { return part == kSelf ? ROLE_SYSTEM_LIST : ROLE_SYSTEM_LISTITEM; }
 
 int CListRowsAccessible::PartState(int part) const {
   if (part == kSelf) return list_.IsEnabled() ? 0 : STATE_SYSTEM_UNAVAILABLE;

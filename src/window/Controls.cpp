@@ -134,8 +134,8 @@ RECT CListCtrl::RowRect(int row) const {
 RECT CListCtrl::CellRect(int row, int column) const {
   // The bounds of the first cell are those of the row.
   RECT rect{column == 0 ? LVIR_LABEL : LVIR_BOUNDS, column, 0, 0};
-  const bool found = row >= 0 && row < Count() &&
-                     Send(LVM_GETSUBITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect));
+  const bool found =
+      row >= 0 && row < Count() && Send(LVM_GETSUBITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect));
   return found ? rect : RECT{};
 }
 
