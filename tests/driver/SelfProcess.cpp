@@ -44,10 +44,15 @@ std::wstring EnvironmentValue(const wchar_t* name) {
 }
 
 ProcessResult RunSelf(const std::wstring& arguments, const std::map<std::wstring, std::wstring>& environment) {
-  const AddedEnvironment added(environment);
   wchar_t program[MAX_PATH];
   GetModuleFileNameW(nullptr, program, MAX_PATH);
-  std::wstring commandLine = L"\"" + std::wstring(program) + L"\" " + arguments;
+  return RunProgram(program, arguments, environment);
+}
+
+ProcessResult RunProgram(const std::wstring& program, const std::wstring& arguments,
+                         const std::map<std::wstring, std::wstring>& environment) {
+  const AddedEnvironment added(environment);
+  std::wstring commandLine = L"\"" + program + L"\" " + arguments;
 
   SECURITY_ATTRIBUTES inheritable = {sizeof inheritable, nullptr, TRUE};
   HANDLE readEnd = nullptr, writeEnd = nullptr;
@@ -61,8 +66,8 @@ ProcessResult RunSelf(const std::wstring& arguments, const std::map<std::wstring
   startup.hStdError = writeEnd;
   PROCESS_INFORMATION process = {};
   ProcessResult result;
-  const BOOL started =
-      CreateProcessW(program, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process);
+  const BOOL started = CreateProcessW(program.c_str(), commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr,
+                                      &startup, &process);
   CloseHandle(writeEnd);
   if (started) {
     result.output = ReadAll(readEnd);

@@ -13,5 +13,9 @@ struct ProcessResult {
 // `arguments` is the command line behind the program's name; `environment` is added to the present one.
 ProcessResult RunSelf(const std::wstring& arguments, const std::map<std::wstring, std::wstring>& environment = {});
 
+// The same with another program, of which `program` is the path.
+ProcessResult RunProgram(const std::wstring& program, const std::wstring& arguments,
+                         const std::map<std::wstring, std::wstring>& environment = {});
+
 // The value of an environment variable, empty if it is not set.
 std::wstring EnvironmentValue(const wchar_t* name);

@@ -31,15 +31,18 @@ PropertyRow CheckBox(const std::wstring& property, int check) {
   return row;
 }
 
-PropertyRow Radios(const std::wstring& property, const std::vector<int>& radios) {
+PropertyRow Radios(const std::wstring& property, const std::vector<int>& radios, int32_t first) {
   PropertyRow row = Row(PropertyRow::Kind::kRadios, property, radios);
-  for (int i = 0; i < static_cast<int>(radios.size()); ++i) row.stored.push_back({i, std::to_wstring(i), i});
+  for (int i = 0; i < static_cast<int>(radios.size()); ++i)
+    row.stored.push_back({first + i, std::to_wstring(i), first + i});
   return row;
 }
 
 PropertyRow Field(const std::wstring& property, int control) {
   return Row(PropertyRow::Kind::kField, property, {control});
 }
+
+PropertyRow Unshown(const std::wstring& property) { return Row(PropertyRow::Kind::kUnshown, property, {}); }
 
 const std::vector<PageTable>& AllPageTables() { return Tables(); }
 

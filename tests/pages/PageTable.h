@@ -43,7 +43,7 @@ struct TypedCase {
 };
 
 struct PropertyRow {
-  enum class Kind { kChoice, kCheck, kRadios, kField };
+  enum class Kind { kChoice, kCheck, kRadios, kField, kUnshown };
 
   Kind kind;
   std::wstring property;
@@ -90,10 +90,12 @@ struct PropertyRow {
 
 PropertyRow Choice(const std::wstring& property, int combo, const std::vector<std::pair<std::wstring, int32_t>>& rows);
 PropertyRow CheckBox(const std::wstring& property, int check);
-// The value counts the radios from 0.
-PropertyRow Radios(const std::wstring& property, const std::vector<int>& radios);
+// The value counts the radios from `first`.
+PropertyRow Radios(const std::wstring& property, const std::vector<int>& radios, int32_t first = 0);
 // An edit or a combo with one. The cases are in Stores and Types.
 PropertyRow Field(const std::wstring& property, int control);
+// No single control tells the value: what is shown stands as an empty text in Stores.
+PropertyRow Unshown(const std::wstring& property);
 
 struct PageTable {
   const char* name;

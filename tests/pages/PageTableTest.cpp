@@ -38,6 +38,7 @@ class PageTables : public testing::TestWithParam<PageTable> {
   }
 
   static std::wstring Shown(PageUnderTest& test, const PropertyRow& row) {
+    if (row.kind == Kind::kUnshown) return L"";
     if (row.kind == Kind::kCheck) return test.Control(row.controls.front()).IsChecked() ? L"on" : L"off";
     if (row.kind != Kind::kRadios) return test.Control(row.controls.front()).Text();
     std::wstring shown;
@@ -61,7 +62,7 @@ struct UserCase {
 
 std::vector<UserCase> UserCases(const PropertyRow& row) {
   std::vector<UserCase> cases;
-  const int control = row.controls.front();
+  const int control = row.controls.empty() ? 0 : row.controls.front();
   switch (row.kind) {
     case Kind::kChoice:
       for (int i = 0; i + 1 < static_cast<int>(row.stored.size()); ++i)
@@ -78,10 +79,11 @@ std::vector<UserCase> UserCases(const PropertyRow& row) {
     case Kind::kRadios:
       for (size_t i = 0; i < row.controls.size(); ++i)
         cases.push_back(
-            {[id = row.controls[i]](PageUnderTest& test) { test.Control(id).Click(); }, std::to_wstring(i)});
+            {[id = row.controls[i]](PageUnderTest& test) { test.Control(id).Click(); }, row.stored[i].saved});
       break;
-    case Kind::kField:
-      break;  // typed
+    case Kind::kField:  // typed
+    case Kind::kUnshown:
+      break;
   }
   return cases;
 }
