@@ -12,6 +12,7 @@
 namespace {
 
 constexpr wchar_t kVersionLibrary[] = L"version.dll";
+constexpr wchar_t kWordFileName[] = L"WINWORD.EXE";
 
 }  // namespace
 
@@ -40,6 +41,10 @@ CUString GetFileVersion(const wchar_t* path) try {
   TraceError("%hs: caught throwed exception", "GetFileVersion");
   return {};
 }
+
+CUString GetHostFileName() { return CEPathString::ModulePath(nullptr).GetNameAndExtension(); }
+
+bool IsWordHost() { return GetHostFileName().EqualsNoCase(kWordFileName); }
 
 CUString GetHostApplicationName(bool friendly) {
   const CEPathString program = CEPathString::ModulePath(nullptr);

@@ -54,6 +54,11 @@ TEST(HostApplication, AnUnknownOneIsCalledByItsFile) {
   }
 }
 
+TEST(HostApplication, IsNoWordProcessorUnderAnotherName) {
+  EXPECT_EQ(L"environment_tests.exe", GetHostFileName());
+  EXPECT_FALSE(IsWordHost());
+}
+
 TEST(GetFileVersion, ReadsTheFixedRecord) {
   EXPECT_STREQ(L"15.0.4420.1017", GetFileVersion((ComponentFolder(L"2013") + L"WINWORD.EXE").c_str()).Text());
 }
