@@ -3,8 +3,10 @@
 #include "cockpit/CNemUICockpitPage.h"
 #include "MessageIds.h"
 #include "pages/CNemUIColorsPage.h"
+#include "pages/CNemUIDocInfoPage.h"
 #include "pages/CNemUIFormatPage.h"
 #include "pages/CNemUINoDocSettingsPage.h"
+#include "pages/CNemUIPaperPage.h"
 #include "pages/CNemUIPdfAppearancePage.h"
 #include "pages/CNemUIPdfGraphicPage.h"
 #include "resources/ResourceIds.h"
@@ -22,6 +24,7 @@ constexpr PageFactory kPlaceholder = Make<CNemUINoDocSettingsPage>;
 
 // A page that is not built yet has no row of its own class; its entry in the bar does nothing.
 constexpr PageCatalogueRow kPages[] = {
+    {{IDD_PAPER_PAGE, 0, MSG_PAGE_PAPER, 100, 263, 264}, Make<CNemUIPaperPage>, Make<CNemUIPaperPage>},
     {{IDD_GRAPHIC_PAGE, 0, MSG_PAGE_GRAPHICAL_OPTIMIZATION, 108, 251, 252},
      Make<CNemUIPdfGraphicPage>,
      Make<CNemUIPdfGraphicPage>},
@@ -31,6 +34,9 @@ constexpr PageCatalogueRow kPages[] = {
     {{IDD_COLORSPACE_PAGE, 0, MSG_PAGE_COLORSPACE, 111, 239, 240}, Make<CNemUIColorsPage>, Make<CNemUIColorsPage>},
     {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
     {{IDD_COCKPIT_PAGE, 0, MSG_PAGE_COCKPIT, 120, 321, 322}, Make<CNemUICockpitPage>, Make<CNemUICockpitPage>},
+    {{IDD_DOCUMENT_INFO_PAGE, 0, MSG_PAGE_DOCUMENT_INFO, 105, 241, 242},
+     Make<CNemUIDocInfoPage>,
+     Make<CNemUIDocInfoPage>},
     {{IDD_ACTION_PAGE, 0, MSG_PAGE_ACTIONS, 102, 237, 238}, nullptr, kPlaceholder},
     {{IDD_MAIL_PAGE, 0, MSG_PAGE_MAIL, 104, 243, 244}, nullptr, kPlaceholder},
     {{IDD_SAVING_PAGE, 0, MSG_PAGE_SAVING, 103, 255, 256}, nullptr, kPlaceholder},

@@ -203,6 +203,10 @@ TEST(DialogTemplates, ALabelWithAnAccessKeyStandsBeforeItsField) {
 TEST(DialogTemplates, TranslationsDifferFromTheEnglishText) {
   const std::set<std::pair<WORD, std::wstring>> same = {
       {kGerman, L"e.pdf:"}, {kArabic, L"e.pdf:"}, {kGerman, L"Layout"}, {kGerman, L"&CMYK"}, {kArabic, L"&CMYK"},
+  const std::map<WORD, std::set<std::wstring>> same = {
+      {kGerman, {L"e.pdf:", L"Layout", L"&CMYK", L"mm", L"%"}},
+      {kFrench, {L"&Portrait", L"mm", L"%"}},
+      {kArabic, {L"e.pdf:", L"&CMYK"}},
   };
   for (const WORD id : TranslatedDialogs()) {
     const Dialog english = ReadDialog(id, kEnglish);

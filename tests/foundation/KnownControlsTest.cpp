@@ -116,6 +116,60 @@ constexpr KnownControl kKnownControls[] = {
     {196, 1333, L"Button", L"&RGB (recommended)"},
     {196, 1334, L"Button", L"&CMYK"},
     {196, 1335, L"Static", L"Help: What means \"colorspace\"?"},
+    {144, IDC_PAPER_FORMAT_LABEL, L"Static", L"&Format:"},
+    {144, IDC_PAPER_SIZE_LABEL, L"Static", L"&Size:"},
+    {144, IDC_PAPER_SCALE_WIDTH_LABEL, L"Static", L"&Width:"},
+    {144, IDC_PAPER_SCALE_HEIGHT_LABEL, L"Static", L"&Height:"},
+    {144, IDC_PAPER_SCALED_WIDTH_LABEL, L"Static", L"Width in"},
+    {144, IDC_PAPER_SCALED_HEIGHT_LABEL, L"Static", L"Height in"},
+    {144, IDC_PAPER_SCALE_LABEL, L"Static", L"&Application-specific:"},
+    {144, IDC_PAPER_MARGIN_LEFT_LABEL, L"Static", L"L&eft:"},
+    {144, IDC_PAPER_MARGIN_TOP_LABEL, L"Static", L"&Top:"},
+    {144, IDC_PAPER_BORDER_LABEL, L"Static", L"&Border:"},
+    {144, IDC_PAPER_SOURCE_LABEL, L"Static", L"Paper s&ource:"},
+    {144, IDC_PAPER_DESTINATION_LABEL, L"Static", L"Output bi&n:"},
+    {144, IDC_PAPER_OTHER_GROUP, L"Button", L"Other"},
+    {144, 1001, L"Button", L"&Portrait"},
+    {144, 1002, L"Button", L"&Landscape"},
+    {144, 1060, L"Button", L"&Retain width-to-height ratio"},
+    {144, 1059, L"Button", L"&Centered"},
+    {144, 1124, L"Button", L"&Duplex print"},
+    {144, 1125, L"Button", L"&Upper edge binding"},
+    {144, 1000, L"ComboBox", L""},
+    {144, 1004, L"ComboBox", L""},
+    {144, 1126, L"ComboBox", L""},
+    {144, 1131, L"ComboBox", L""},
+    {144, 1016, L"Edit", L""},
+    {144, 1018, L"Edit", L""},
+    {144, 1023, L"Edit", L""},
+    {144, 1024, L"Edit", L""},
+    {144, 1021, L"Edit", L""},
+    {144, 1026, L"Edit", L""},
+    {144, 1027, L"Edit", L""},
+    {144, 1056, L"Static", L""},
+    {144, 1058, L"Static", L""},
+    {144, 1246, L"Static", L""},
+    {144, 1247, L"Static", L""},
+    {144, 1244, L"Static", L""},
+    {144, 1162, L"Static", L""},
+    {147, IDC_DOCUMENT_INFO_TITLE_LABEL, L"Static", L"&Title:"},
+    {147, IDC_DOCUMENT_INFO_AUTHOR_LABEL, L"Static", L"&Author:"},
+    {147, IDC_DOCUMENT_INFO_SUBJECT_LABEL, L"Static", L"&Subject:"},
+    {147, IDC_DOCUMENT_INFO_KEYWORDS_LABEL, L"Static", L"&Keywords:"},
+    {147, 1101, L"Static", L"Creator:"},
+    {147, 1102, L"Static", L"Generator:"},
+    {147, 1073, L"Edit", L""},
+    {147, 1070, L"Edit", L""},
+    {147, 1071, L"Edit", L""},
+    {147, 1072, L"Edit", L""},
+    {147, 1074, L"Static", L""},
+    {147, 1075, L"Static", L""},
+    {147, 1096, L"Static", L""},
+    {147, 1162, L"Static", L""},
+    {147, 1103, L"Static", L""},
+    {147, 1104, L"Static", L""},
+    {147, 1105, L"Static", L""},
+    {147, 1106, L"Static", L""},
     {191, IDC_NO_DOC_SETTINGS_WHEN, L"Static",
      L"These settings are only available when generating a new PDF or e.pdf document."},
     {191, IDC_NO_DOC_SETTINGS_WHERE, L"Static",
@@ -188,4 +242,21 @@ TEST(FormatPageTemplate, TheSignsShareTheirPlaceAndAreHidden) {
   EXPECT_EQ(std::tuple(first->x, first->y, first->width, first->height),
             std::tuple(second->x, second->y, second->width, second->height));
   EXPECT_FALSE((first->style | second->style) & WS_VISIBLE);
+}
+
+// The radios follow each other, and what stands behind them begins a new group.
+TEST(PaperPageTemplate, TheRadiosAreAGroupOfTheirOwn) {
+  const std::vector<Control> controls = ReadDialog(IDD_PAPER_PAGE, kEnglish).controls;
+  const auto portrait = std::ranges::find(controls, DWORD{1001}, &Control::id);
+  ASSERT_GT(controls.end() - portrait, 2);
+  EXPECT_EQ(portrait[1].id, 1002u);
+  EXPECT_TRUE(portrait[0].style & WS_GROUP);
+  EXPECT_FALSE(portrait[1].style & WS_GROUP);
+  EXPECT_TRUE(portrait[2].style & WS_GROUP);
+}
+
+TEST(DocumentInfoPageTemplate, SubjectAndKeywordsHaveSeveralLines) {
+  const Dialog dialog = ReadDialog(IDD_DOCUMENT_INFO_PAGE, kEnglish);
+  for (const DWORD id : {1071, 1072}) EXPECT_TRUE(FindControl(dialog, id)->style & ES_MULTILINE) << id;
+  for (const DWORD id : {1070, 1073}) EXPECT_FALSE(FindControl(dialog, id)->style & ES_MULTILINE) << id;
 }

@@ -19,6 +19,7 @@ struct TouchedValue {
 };
 
 constexpr TouchedValue kValues[] = {
+    {100, L"PaperMarginCenter", 7, 1, IDC_PAPER_CENTERED, 0},
     {109, L"HideToolbar", 7, 1, IDC_APPEARANCE_HIDE_TOOLBAR, 0},
     {111, L"Colorspace", 7, 1, IDC_COLORS_RGB, 0},
 };
@@ -74,3 +75,25 @@ TEST_P(ShownPages, CancelKeepsTheHostsValue) {
 }
 
 INSTANTIATE_TEST_SUITE_P(Pages, ShownPages, testing::ValuesIn(kValues), NameOf);
+
+// A text is stored as it stands, so that only a change shows that its page has written it.
+TEST(ShownPageOfTexts, OkAloneStoresWhatTheUserTypes) {
+  for (const int set : {0, 1}) {
+    for (const int button : {IDCANCEL, IDOK}) {
+      HostDialog host;
+      host.Set(NEMPDFUI_DOCUMENT, L"Used", 1);
+      for (const int each : {0, 1}) host.Set(each, L"Title", L"Report");
+      RunSheet([&] { return host.DoModal(); },
+               [&](Sheet& sheet) -> SheetTask {
+                 sheet.SelectTab(set);
+                 co_await sheet.Settled();
+                 EXPECT_TRUE(sheet.SelectPage(105));
+                 co_await sheet.Settled();
+                 sheet.Control(IDC_DOCUMENT_INFO_TITLE).SetText(L"Invoice");
+                 sheet.Press(button);
+               });
+      EXPECT_EQ(button == IDOK ? L"Invoice" : L"Report", host.Text(set, L"Title"));
+      EXPECT_EQ(L"Report", host.Text(1 - set, L"Title"));
+    }
+  }
+}
