@@ -2,6 +2,7 @@
 
 #include "DriverLIB/MessageText.h"
 #include "DriverLIB/Numbers.h"
+#include "window/PasswordEdit.h"
 
 void CDataExchange::Fail(int controlId) {
   if (failed_) return;
@@ -35,6 +36,14 @@ int CDataExchange::ChosenRadio(int firstId, int lastId) const {
 void CDataExchange::Text(int id, CUString& value) {
   if (IsLoading()) dialog_.Item(id).SetText(value.Text());
   if (IsSaving()) value = dialog_.Item(id).Text();
+}
+
+void CDataExchange::Password(int id, CSecretText& value, int maximum) {
+  const CEdit edit(dialog_.Item(id));
+  if (IsLoading()) SetPassword(edit, value);
+  if (!IsSaving()) return;
+  value = edit.Text();
+  value.CutTo(maximum);
 }
 
 void CDataExchange::MoveChoice(int id, const ValueRow* table, int32_t& value) {

@@ -8,6 +8,7 @@
 #include <optional>
 #include <type_traits>
 
+#include "DriverLIB/CSecretText.h"
 #include "window/Controls.h"
 #include "window/NumberEdit.h"
 #include "window/ValueTable.h"
@@ -46,6 +47,8 @@ class CDataExchange {
 
   // An edit, a static or a combo's edit field, and a text.
   void Text(int id, CUString& value);
+  // An edit and a password of at most `maximum` characters: none of its copies is left behind.
+  void Password(int id, CSecretText& value, int maximum);
 
   // The same with a decimal number. A text without a number counts as 0.
   template <class T>

@@ -26,6 +26,8 @@ class CEdit : public CWnd {
   // The most characters that the user can type; a text set by code may be longer.
   void LimitText(int characters) const { Send(EM_SETLIMITTEXT, static_cast<WPARAM>(characters)); }
   void SelectAll() const { Send(EM_SETSEL, 0, -1); }
+  // What stands for each character of the text; 0 shows the text itself.
+  void SetPasswordCharacter(wchar_t character) const { Send(EM_SETPASSWORDCHAR, character); }
   void SetReadOnly(bool readOnly) const { Send(EM_SETREADONLY, readOnly); }
 };
 
