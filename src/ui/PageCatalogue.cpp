@@ -9,6 +9,7 @@
 #include "pages/CNemUIPaperPage.h"
 #include "pages/CNemUIPdfAppearancePage.h"
 #include "pages/CNemUIPdfGraphicPage.h"
+#include "pages/CNemUIPdfSecurityPage.h"
 #include "resources/ResourceIds.h"
 
 namespace {
@@ -32,6 +33,9 @@ constexpr PageCatalogueRow kPages[] = {
      Make<CNemUIPdfAppearancePage>,
      Make<CNemUIPdfAppearancePage>},
     {{IDD_COLORSPACE_PAGE, 0, MSG_PAGE_COLORSPACE, 111, 239, 240}, Make<CNemUIColorsPage>, Make<CNemUIColorsPage>},
+    {{IDD_SECURITY_PAGE, 0, MSG_PAGE_PDF_SECURITY, 117, 267, 268},
+     Make<CNemUIPdfSecurityPage>,
+     Make<CNemUIPdfSecurityPage>},
     {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
     {{IDD_COCKPIT_PAGE, 0, MSG_PAGE_COCKPIT, 120, 321, 322}, Make<CNemUICockpitPage>, Make<CNemUICockpitPage>},
     {{IDD_DOCUMENT_INFO_PAGE, 0, MSG_PAGE_DOCUMENT_INFO, 105, 241, 242},

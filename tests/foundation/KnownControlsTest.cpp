@@ -170,6 +170,44 @@ constexpr KnownControl kKnownControls[] = {
     {147, 1104, L"Static", L""},
     {147, 1105, L"Static", L""},
     {147, 1106, L"Static", L""},
+    {140, 1265, L"Static", L""},
+    {140, 1266, L"Static", L"Change"},
+    {140, 1022, L"Button", L"Enter password for changing the PDF &security options"},
+    {140, 1280, L"Static", L"Pass&word:"},
+    {140, 1003, L"Edit", L""},
+    {140, 1008, L"Button", L"&Allow printing"},
+    {140, 1012, L"Button", L"Allow &modifications to the document"},
+    {140, 1006, L"Button", L"Allow comments and no&tes to be added"},
+    {140, 1010, L"Button", L"Allow the &reproduction of text, pictures and other contents"},
+    {140, 1013, L"Button", L"Allow &voice output programs to read the document aloud"},
+    {140, 1014, L"Button", L"Allow the completion of &form fields and allow signing"},
+    {140, 1015, L"Button", L"Allow page mo&difications (paste, delete and rotate)"},
+    {140, 1019, L"Button", L"Defining a password for &opening the PDF in a PDF reader"},
+    {140, 1279, L"Static", L"&Password:"},
+    {140, 1005, L"Edit", L""},
+    {140, 1258, L"Button", L""},
+    {140, 1259, L"Button", L"Use password for changing the PDF security options for &editing"},
+    {140, 1260, L"Button", L"&Independent password:"},
+    {140, 1007, L"Edit", L""},
+    {140, 1245, L"Button", L"&Confirm passwords always"},
+    {140, 1180, L"Button", L"Passwords visi&ble"},
+    {140, 1139, L"Static", L"Help: Passwords - why?"},
+    {IDD_PASSWORD_CONFIRMATION, 1003, L"Edit", L""},
+    {IDD_PASSWORD_CONFIRMATION, 1005, L"Edit", L""},
+    {IDD_PASSWORD_CONFIRMATION, 1007, L"Edit", L""},
+    {IDD_PASSWORD_CONFIRMATION, 1170, L"Static", L""},
+    {IDD_PASSWORD_CONFIRMATION, 1171, L"Static", L""},
+    {IDD_PASSWORD_CONFIRMATION, 1174, L"Static", L""},
+    {IDD_PASSWORD_CONFIRMATION, 1175, L"Static", L""},
+    {IDD_PASSWORD_CONFIRMATION, 1176, L"Static", L""},
+    {IDD_PASSWORD_CONFIRMATION, 1177, L"Static", L""},
+    {IDD_PASSWORD_CONFIRMATION, 1172, L"Button", L"Passwords v&isible"},
+    {IDD_PASSWORD_CONFIRMATION, IDC_CONFIRM_OWNER_LABEL, L"Static", L"Enter Password for changing the PDF &security options:"},
+    {IDD_PASSWORD_CONFIRMATION, IDC_CONFIRM_USER_LABEL, L"Static", L"Enter password to &open the PDF in a PDF Reader:"},
+    {IDD_PASSWORD_CONFIRMATION, IDC_CONFIRM_EDITING_LABEL, L"Static", L""},
+    {IDD_PASSWORD_CONFIRMATION, IDOK, L"Button", L"OK"},
+    {IDD_PASSWORD_CONFIRMATION, IDCANCEL, L"Button", L"Cancel"},
+    {IDD_PASSWORD_CONFIRMATION, 9, L"Button", L"Help"},
     {191, IDC_NO_DOC_SETTINGS_WHEN, L"Static",
      L"These settings are only available when generating a new PDF or e.pdf document."},
     {191, IDC_NO_DOC_SETTINGS_WHERE, L"Static",
@@ -259,4 +297,30 @@ TEST(DocumentInfoPageTemplate, SubjectAndKeywordsHaveSeveralLines) {
   const Dialog dialog = ReadDialog(IDD_DOCUMENT_INFO_PAGE, kEnglish);
   for (const DWORD id : {1071, 1072}) EXPECT_TRUE(FindControl(dialog, id)->style & ES_MULTILINE) << id;
   for (const DWORD id : {1070, 1073}) EXPECT_FALSE(FindControl(dialog, id)->style & ES_MULTILINE) << id;
+// In the order of the page, which is not that of their numbers' values.
+TEST(SecurityPageTemplate, TheRadiosAreAGroupOfTheirOwn) {
+  const std::vector<Control> controls = ReadDialog(IDD_SECURITY_PAGE, kEnglish).controls;
+  std::vector<std::pair<DWORD, bool>> found;
+  for (auto control = std::ranges::find(controls, DWORD{1258}, &Control::id);
+       control != controls.end() && found.size() < 4; ++control)
+    found.emplace_back(control->id, (control->style & WS_GROUP) != 0);
+  EXPECT_EQ(found, (std::vector<std::pair<DWORD, bool>>{{1258, true}, {1259, false}, {1260, false}, {1007, true}}));
+}
+
+// From their first moment on.
+TEST(SecurityTemplates, PasswordsAreHidden) {
+  for (const WORD dialog : {IDD_SECURITY_PAGE, IDD_PASSWORD_CONFIRMATION})
+    for (const DWORD id : {1003, 1005, 1007})
+      EXPECT_TRUE(FindControl(ReadDialog(dialog, kEnglish), id)->style & ES_PASSWORD) << dialog << " " << id;
+}
+
+TEST(PasswordConfirmationTemplate, TheMarksShareTheirPlaceAndAreHidden) {
+  const Dialog dialog = ReadDialog(IDD_PASSWORD_CONFIRMATION, kEnglish);
+  for (const auto& [goodId, badId] : {std::pair{1170, 1171}, {1174, 1176}, {1175, 1177}}) {
+    const Control *good = FindControl(dialog, goodId), *bad = FindControl(dialog, badId);
+    ASSERT_TRUE(good && bad);
+    EXPECT_EQ(std::tuple(good->x, good->y, good->width, good->height),
+              std::tuple(bad->x, bad->y, bad->width, bad->height));
+    EXPECT_FALSE((good->style | bad->style) & WS_VISIBLE);
+  }
 }

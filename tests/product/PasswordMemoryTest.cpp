@@ -1,12 +1,15 @@
 // A password that was given to the library leaves no copy in the memory of the process: not when it is changed, not
-// when the set is put back, not when the dialog object is freed. The test looks at all memory that can be read.
+// when the set is put back, not when the dialog object is freed, and not in what a sheet has shown of it. The test
+// looks at all memory that can be read.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
 #include <cstring>
 
+#include "driver/SheetDriver.h"
 #include "NemPdfUI.h"
+#include "support/HostDialog.h"
 
 namespace {
 
@@ -128,6 +131,87 @@ TEST_P(PasswordMemory, IsCleanWhenTheSetsHaveBeenPutBack) {
 TEST_P(PasswordMemory, IsCleanWhenTheObjectIsFreed) {
   SetInBothSets();
   EXPECT_EQ(1, NemPdfUIFreeDialog(&handle_));
+  EXPECT_EQ(0, CountCopies());
+}
+
+// --- Sheets --------------------------------------------------------------------------------------------------------
+
+constexpr int kGraphicPage = 108, kSecurityPage = 117;
+constexpr int kOwnerSwitch = 1022, kUserSwitch = 1019, kOwnerPassword = 1003, kUserPassword = 1005;
+constexpr const wchar_t* kPasswords[] = {L"EncryptOwnerPassword", L"EncryptUserPassword",
+                                         L"EncryptEnhancedPdfPassword"};
+
+// Key by key: no text of the test holds the password.
+void TypePassword(HWND dialog, int edit) {
+  for (const unsigned char turned : kTurned)
+    SendDlgItemMessageW(dialog, edit, WM_CHAR, static_cast<unsigned char>(~turned), 0);
+}
+
+void SetAllPasswords(const HostDialog& host) {
+  const Password<wchar_t> password;
+  for (const int set : {0, 1})
+    for (const wchar_t* name : kPasswords)
+      EXPECT_EQ(1, NemPdfUISetPropertyW(host.Handle(), set, name, password.Text()));
+}
+
+// Shows the page on both tabs and ends the sheet with this button.
+void ShowPasswords(HostDialog& host, int button) {
+  host.Set(NEMPDFUI_DOCUMENT, L"Used", 1);
+  for (const int set : {0, 1}) {
+    host.Set(set, L"EncryptOwnerPasswordEnabled", 1);
+    host.Set(set, L"EncryptUserPasswordEnabled", 1);
+    host.Set(set, L"UseEncryptEnhancedPdfPassword", 2);
+  }
+  SetAllPasswords(host);
+  RunSheet([&] { return host.DoModal(); },
+           [button](Sheet& sheet) -> SheetTask {
+             for (const int tab : {0, 1}) {
+               sheet.SelectTab(tab);
+               co_await sheet.Settled();
+               CO_ASSERT_TRUE(sheet.SelectPage(kSecurityPage));
+               co_await sheet.Settled();
+               EXPECT_LT(6, CountCopies()) << "the page holds some, too";
+             }
+             sheet.Press(button);
+           });
+}
+
+TEST(PasswordMemoryOfSheets, APageLeavesNoneBehind) {
+  for (const int button : {IDCANCEL, IDOK}) {
+    {
+      HostDialog host;
+      ShowPasswords(host, button);
+      EXPECT_EQ(6, CountCopies()) << "those of the host's object alone";
+    }
+    EXPECT_EQ(0, CountCopies());
+  }
+}
+
+// One that is typed, confirmed and stored.
+TEST(PasswordMemoryOfSheets, AConfirmationLeavesNoneBehind) {
+  {
+    HostDialog host;
+    host.Set(0, L"EncryptPasswordsConfirmed", 1);
+    const SheetResult result = RunSheet([&] { return host.DoModal(); },
+                                        [](Sheet& sheet) -> SheetTask {
+                                          CO_ASSERT_TRUE(sheet.SelectPage(kSecurityPage));
+                                          co_await sheet.Settled();
+                                          sheet.Control(kOwnerSwitch).Click();
+                                          sheet.Control(kUserSwitch).Click();
+                                          for (const int edit : {kOwnerPassword, kUserPassword})
+                                            TypePassword(sheet.Page(), edit);
+                                          sheet.ExpectDialog([](HWND dialog) {
+                                            for (const int edit : {kOwnerPassword, kUserPassword})
+                                              TypePassword(dialog, edit);
+                                            SendMessageW(dialog, WM_COMMAND, IDOK, 0);
+                                          });
+                                          CO_ASSERT_TRUE(sheet.SelectPage(kGraphicPage));
+                                          co_await sheet.Settled();
+                                          sheet.PressOk();
+                                        });
+    EXPECT_EQ(1, result.value);
+    EXPECT_EQ(2, CountCopies()) << "those of the host's object alone";
+  }
   EXPECT_EQ(0, CountCopies());
 }
 

@@ -29,6 +29,8 @@ namespace {
 using Lines = std::vector<std::wstring>;
 
 constexpr int kGraphicPage = 108;
+constexpr int kSecurityPage = 117;
+constexpr int kOwnerSwitch = 1022, kOwnerPassword = 1003;
 constexpr wchar_t kPassword[] = L"hunter2";
 constexpr char kNarrowPassword[] = "hunter2";
 
@@ -123,6 +125,7 @@ class SessionTrace : public testing::Test {
       for (const wchar_t* name :
            {L"EncryptUserPassword", L"EncryptOwnerPassword", L"EncryptEnhancedPdfPassword", L"StationeryInfos"})
         host.Set(set, name, kPassword);
+    host.Set(0, L"EncryptPasswordsConfirmed", 1);
     EXPECT_EQ(1, NemPdfUISetPropertyA(host.Handle(), 0, "EncryptUserPassword", kNarrowPassword));
     EXPECT_EQ(0, NemPdfUISetPropertyW(host.Handle(), 0, L"EncryptUserPasswort", kPassword));
     EXPECT_EQ(1, NemPdfUISetPropertyW(host.Handle(), 2, L"", kPassword));
@@ -131,7 +134,14 @@ class SessionTrace : public testing::Test {
     for (const ExpectedBox& box : boxes) driver.ExpectBox(box);
     const SheetResult result = driver.Run([&] { return host.DoModal(); },
                                           [](Sheet& sheet) -> SheetTask {
-                                            bool shown = false;
+                                            bool shown = sheet.SelectPage(kSecurityPage);
+                                            CO_ASSERT_TRUE(shown);
+                                            co_await sheet.Settled();
+                                            sheet.Control(kOwnerSwitch).Click();
+                                            sheet.ExpectDialog([](HWND confirmation) {
+                                              SetDlgItemTextW(confirmation, kOwnerPassword, kPassword);
+                                              SendMessageW(confirmation, WM_COMMAND, IDOK, 0);
+                                            });
                                             co_await ClickPage(sheet, kGraphicPage, shown);
                                             CO_ASSERT_TRUE(shown);
                                             sheet.PressHelp();

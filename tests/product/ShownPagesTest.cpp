@@ -22,13 +22,17 @@ constexpr TouchedValue kValues[] = {
     {100, L"PaperMarginCenter", 7, 1, IDC_PAPER_CENTERED, 0},
     {109, L"HideToolbar", 7, 1, IDC_APPEARANCE_HIDE_TOOLBAR, 0},
     {111, L"Colorspace", 7, 1, IDC_COLORS_RGB, 0},
+    {117, L"EncryptOwnerPasswordEnabled", 7, 1, IDC_SECURITY_OWNER, 0},
 };
 
 class ShownPages : public testing::TestWithParam<TouchedValue> {
  protected:
   ShownPages() {
     host_.Set(NEMPDFUI_DOCUMENT, L"Used", 1);
-    for (const int set : {0, 1}) host_.Set(set, GetParam().property, GetParam().host);
+    for (const int set : {0, 1}) {
+      host_.Set(set, GetParam().property, GetParam().host);
+      host_.Set(set, L"EncryptOwnerPassword", L"x");  // an empty one may not stand beside its switch
+    }
   }
 
   // The value of `set` after a run in which the user does this on its tab. The other set keeps its own.

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "pages/CPdfSecurityPage.h"
+#include "sheet/CNemUISettingsPage.h"
+
+class CNemUIPdfSecurityPage : public CNemUISettingsPage<CPdfSecurityPage> {
+ public:
+  CNemUIPdfSecurityPage(SheetServices* sheet, const PageDescription& description, int settingsIndex);
+
+  void SwitchPasswordsOff() override;
+
+ protected:
+  BindingTable Bindings() const override;
+  void OnPropertiesRead() override;
+  void OnPropertiesWritten() override;
+
+ private:
+  // As they were read or written last.
+  uint16_t confirmExchanged_ = 0;
+  uint16_t passwordsVisibleExchanged_ = 0;
+};
