@@ -206,6 +206,8 @@ TEST(DialogTemplates, TranslationsDifferFromTheEnglishText) {
   const std::map<WORD, std::set<std::wstring>> same = {
       {kGerman, {L"e.pdf:", L"Layout", L"&CMYK", L"mm", L"%"}},
       {kFrench, {L"&Portrait", L"mm", L"%"}},
+      {kGerman, {L"e.pdf:", L"Layout", L"&CMYK", L"OK"}},
+      {kFrench, {L"OK"}},
       {kArabic, {L"e.pdf:", L"&CMYK"}},
   };
   for (const WORD id : TranslatedDialogs()) {
