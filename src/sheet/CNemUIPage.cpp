@@ -78,6 +78,10 @@ BOOL CNemUIPage::OnInitDialog() {
   return initialized_;
 }
 
+void CNemUIPage::EnableAll(bool enable) const {
+  for (CWnd control = FirstChild(); control.Handle(); control = control.Next()) control.Enable(enable);
+}
+
 void CNemUIPage::Lock(bool fixed, std::initializer_list<int> controls) const {
   if (!fixed) return;
   for (const int id : controls) Item(id).Enable(false);

@@ -60,6 +60,8 @@ class CNemUIPage : public CPropertyPage {
   // Key of the help topic for controls without one of their own.
   virtual DWORD ContextHelpId() const { return description_.templateId; }
   void SetLoaded() { loaded_ = true; }
+  // Enables or disables each control of the page.
+  void EnableAll(bool enable) const;
   // Disables what an administrator has fixed: the last step of each rule about what is enabled.
   void Lock(bool fixed, std::initializer_list<int> controls) const;
 

@@ -31,6 +31,14 @@ class CDataExchange {
     if (IsSaving()) value = static_cast<T>(IsChecked(id) ? 1 : 0);
   }
 
+  // The same where the box says the opposite of the member.
+  template <class T>
+  void CheckInverted(int id, T& value) {
+    bool shown = value == 0;
+    Check(id, shown);
+    if (IsSaving()) value = static_cast<T>(shown ? 0 : 1);
+  }
+
   // The radio buttons `firstId` to `lastId` and a member that counts from 0 which of them is on. None on stores `none`
   // where that is given, and fails otherwise.
   template <class T>

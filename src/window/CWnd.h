@@ -18,6 +18,9 @@ class CWnd {
   // The control `id` of this dialog; a null window when there is none.
   CWnd Item(int id) const { return CWnd(::GetDlgItem(window_, id)); }
   CWnd Parent() const { return CWnd(::GetParent(window_)); }
+  // The children of a window, in their order: from the first to a null window.
+  CWnd FirstChild() const { return CWnd(window_ ? ::GetWindow(window_, GW_CHILD) : nullptr); }
+  CWnd Next() const { return CWnd(window_ ? ::GetWindow(window_, GW_HWNDNEXT) : nullptr); }
   int Id() const { return ::GetDlgCtrlID(window_); }
 
   LRESULT Send(UINT message, WPARAM wParam = 0, LPARAM lParam = 0) const {

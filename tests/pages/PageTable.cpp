@@ -31,6 +31,12 @@ PropertyRow CheckBox(const std::wstring& property, int check) {
   return row;
 }
 
+PropertyRow InvertedCheckBox(const std::wstring& property, int check) {
+  PropertyRow row = Row(PropertyRow::Kind::kCheck, property, {check});
+  row.stored = {{1, L"off", 1}, {0, L"on", 0}, {2, L"off", 1}, {-1, L"off", 1}};
+  return row;
+}
+
 PropertyRow Radios(const std::wstring& property, const std::vector<int>& radios, int32_t first) {
   PropertyRow row = Row(PropertyRow::Kind::kRadios, property, radios);
   for (int i = 0; i < static_cast<int>(radios.size()); ++i)

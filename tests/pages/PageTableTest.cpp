@@ -69,12 +69,13 @@ std::vector<UserCase> UserCases(const PropertyRow& row) {
         cases.push_back({[=](PageUnderTest& test) { test.Control(control).Select(i); }, row.stored[i].saved});
       break;
     case Kind::kCheck:
-      cases.push_back({[=](PageUnderTest& test) { test.Control(control).Click(); }, L"1"});
+      // It is off at first.
+      cases.push_back({[=](PageUnderTest& test) { test.Control(control).Click(); }, row.stored[1].saved});
       cases.push_back({[=](PageUnderTest& test) {
                          test.Control(control).Click();
                          test.Control(control).Click();
                        },
-                       L"0"});
+                       row.stored[0].saved});
       break;
     case Kind::kRadios:
       for (size_t i = 0; i < row.controls.size(); ++i)

@@ -95,6 +95,28 @@ TEST_F(DataExchange, CheckStoresZeroOrOne) {
   EXPECT_EQ(0, member) << "neither on nor off is not on";
 }
 
+TEST_F(DataExchange, AnInvertedCheckSaysTheOpposite) {
+  for (const int value : {0, 1, -1, 77}) {
+    int member = value;
+    CDataExchange exchange = Loading();
+    exchange.CheckInverted(kCheck, member);
+    EXPECT_EQ(value == 0 ? BST_CHECKED : BST_UNCHECKED, CheckOf(kCheck)) << value;
+    EXPECT_EQ(value, member) << "loading leaves the member alone";
+  }
+  uint16_t member = 77;
+  for (const auto& [check, value] : {std::pair{BST_CHECKED, 0}, {BST_UNCHECKED, 1}}) {
+    SetCheck(kCheck, check);
+    CDataExchange exchange = Saving();
+    exchange.CheckInverted(kCheck, member);
+    EXPECT_EQ(value, member);
+  }
+  CDataExchange failed = Saving();
+  failed.Fail(kEdit);
+  SetCheck(kCheck, BST_CHECKED);
+  failed.CheckInverted(kCheck, member);
+  EXPECT_EQ(1, member) << "steps behind a failed one do nothing";
+}
+
 TEST_F(DataExchange, RadioTurnsOnTheOneOfItsIndex) {
   for (int16_t index : {0, 2, 1}) {
     CDataExchange exchange = Loading();

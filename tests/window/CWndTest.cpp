@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <climits>
+#include <vector>
 
 #include "driver/DialogTemplate.h"
 #include "support/FakeSheet.h"
@@ -93,6 +94,15 @@ TEST_F(Wnd, FindsItsControlsAndItsParent) {
   EXPECT_EQ(kSecond, Button(kSecond).Id());
   EXPECT_EQ(page_, Button(kSecond).Parent());
   EXPECT_FALSE(page_.Item(999).IsWindow());
+}
+
+TEST_F(Wnd, WalksOverItsChildrenInTheirOrder) {
+  std::vector<int> ids;
+  for (CWnd child = page_.FirstChild(); child.Handle(); child = child.Next()) ids.push_back(child.Id());
+  EXPECT_EQ((std::vector<int>{kFirst, kSecond, kThird}), ids);
+  EXPECT_EQ(nullptr, Button(kFirst).FirstChild().Handle());
+  EXPECT_EQ(nullptr, CWnd().FirstChild().Handle()) << "and not the first window of the screen";
+  EXPECT_EQ(nullptr, CWnd().Next().Handle());
 }
 
 TEST_F(Wnd, TextMovesBothWays) {
