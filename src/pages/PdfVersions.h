@@ -47,6 +47,7 @@ constexpr bool AllowsZugferd(int version) { return IsPdfA3(version); }
 constexpr bool AllowsSecurity(int version) { return !IsPdfA(version); }
 constexpr bool AllowsEditingPassword(int version) { return !IsPdfA1(version) && !IsPdfA2(version); }
 constexpr bool AllowsAttachments(int version) { return !IsPdfA1(version) && !IsPdfA2(version); }
+constexpr bool AllowsFormFields(int version) { return !IsPdfA(version); }
 constexpr bool AllowsStationery(int version) { return !IsPdfUA(version); }
 // Extracting for screen readers, filling in forms and assembling pages are no rights of PDF 1.3.
 constexpr bool HasDetailedRights(int version) { return version != 13; }

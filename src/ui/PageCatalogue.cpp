@@ -5,6 +5,8 @@
 #include "pages/CNemUIColorsPage.h"
 #include "pages/CNemUIDocInfoPage.h"
 #include "pages/CNemUIFormatPage.h"
+#include "pages/CNemUIFormFieldsColorPage.h"
+#include "pages/CNemUIFormFieldsPage.h"
 #include "pages/CNemUINoDocSettingsPage.h"
 #include "pages/CNemUIPaperPage.h"
 #include "pages/CNemUIPdfAppearancePage.h"
@@ -36,6 +38,10 @@ constexpr PageCatalogueRow kPages[] = {
     {{IDD_SECURITY_PAGE, 0, MSG_PAGE_PDF_SECURITY, 117, 267, 268},
      Make<CNemUIPdfSecurityPage>,
      Make<CNemUIPdfSecurityPage>},
+    {{IDD_FORM_FIELDS_PAGE, 0, MSG_PAGE_FIELDS, 115, 245, 246}, Make<CNemUIFormFieldsPage>, Make<CNemUIFormFieldsPage>},
+    {{IDD_FORM_FIELDS_COLOR_PAGE, 0, MSG_PAGE_COLOR_SETTINGS, 116, 239, 240},
+     Make<CNemUIFormFieldsColorPage>,
+     Make<CNemUIFormFieldsColorPage>},
     {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
     {{IDD_COCKPIT_PAGE, 0, MSG_PAGE_COCKPIT, 120, 321, 322}, Make<CNemUICockpitPage>, Make<CNemUICockpitPage>},
     {{IDD_DOCUMENT_INFO_PAGE, 0, MSG_PAGE_DOCUMENT_INFO, 105, 241, 242},

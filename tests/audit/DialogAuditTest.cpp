@@ -46,7 +46,7 @@ constexpr const Language& kEnglish = kLanguages[0];
 constexpr struct {
   int pageId;
   const wchar_t* keys;
-} kEnglishDoubleKeys[] = {{109, L"PS"}};
+} kEnglishDoubleKeys[] = {{109, L"PS"}, {115, L"C"}};
 
 AuditOptions OptionsFor(const Language& language, int dpi, const PageInfo* page) {
   AuditOptions options;
@@ -111,6 +111,8 @@ void AuditInThisProcess(const Language& language, int dpi) {
   if (GetDpiForSystem() != static_cast<UINT>(dpi)) GTEST_SKIP() << "This system gives " << GetDpiForSystem() << " dpi.";
   HostDialog dialog;
   dialog.Set(NEMPDFUI_DOCUMENT, L"Used", 1);
+  // The pages of form fields: open on the first tab; on the other one the first of them says why it is not.
+  dialog.Set(0, L"FormFieldsEnabled", 1);
   int count = 0;
   SheetDriver(kTimeoutSeconds)
       .Run([&dialog] { return dialog.DoModal(); },

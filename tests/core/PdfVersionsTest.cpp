@@ -65,6 +65,7 @@ TEST(PdfVersions, BandsEndWhereTheyShould) {
       {"security", AllowsSecurity, Without(a)},
       {"password for editing", AllowsEditingPassword, Without(a1And2)},
       {"attachments", AllowsAttachments, Without(a1And2)},
+      {"form fields", AllowsFormFields, Without(a)},
       {"stationery", AllowsStationery, Without({200})},
       {"detailed rights", HasDetailedRights, Without({13})},
   };

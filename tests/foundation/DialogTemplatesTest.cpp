@@ -166,6 +166,7 @@ TEST(DialogTemplates, AccessKeysAreUniqueInTranslations) {
 TEST(DialogTemplates, EnglishAccessKeysAreUniqueButForTheKnownDoubles) {
   const std::map<WORD, std::set<wchar_t>> known = {
       {IDD_APPEARANCE_PAGE, {L'P', L'S'}},
+      {IDD_FORM_FIELDS_PAGE, {L'C'}},
   };
   for (const WORD id : TranslatedDialogs()) {
     const auto doubles = known.find(id);

@@ -12,10 +12,11 @@ namespace {
 struct TouchedValue {
   int pageId;
   const wchar_t* property;
-  int32_t host;     // what the host gives
-  int32_t shown;    // what the page stores when it was shown
-  int control;      // what the user clicks on
-  int32_t clicked;  // what is stored then
+  int32_t host;         // what the host gives
+  int32_t shown;        // what the page stores when it was shown
+  int control;          // what the user clicks on
+  int32_t clicked;      // what is stored then
+  WPARAM keys[2] = {};  // what he then presses
 };
 
 constexpr TouchedValue kValues[] = {
@@ -23,6 +24,9 @@ constexpr TouchedValue kValues[] = {
     {109, L"HideToolbar", 7, 1, IDC_APPEARANCE_HIDE_TOOLBAR, 0},
     {111, L"Colorspace", 7, 1, IDC_COLORS_RGB, 0},
     {117, L"EncryptOwnerPasswordEnabled", 7, 1, IDC_SECURITY_OWNER, 0},
+    {115, L"ShowFormfields", 7, 1, IDC_FORM_FIELDS_CONVERT, 0},
+    // Above black stands the cell for no colour.
+    {116, L"FormfieldUseTextfieldBorder", 7, 1, IDC_FORM_COLORS_TEXT_BORDER, 0, {VK_UP, VK_RETURN}},
 };
 
 class ShownPages : public testing::TestWithParam<TouchedValue> {
@@ -32,6 +36,8 @@ class ShownPages : public testing::TestWithParam<TouchedValue> {
     for (const int set : {0, 1}) {
       host_.Set(set, GetParam().property, GetParam().host);
       host_.Set(set, L"EncryptOwnerPassword", L"x");  // an empty one may not stand beside its switch
+      host_.Set(set, L"FormFieldsEnabled", 1);  // opens their pages
+      host_.Set(set, GetParam().property, GetParam().host);
     }
   }
 
@@ -45,7 +51,11 @@ class ShownPages : public testing::TestWithParam<TouchedValue> {
                  EXPECT_TRUE(sheet.SelectPage(GetParam().pageId));
                  co_await sheet.Settled();
                }
-               if (click) sheet.Control(GetParam().control).Click();
+               if (click) {
+                 sheet.Control(GetParam().control).Click();
+                 for (const WPARAM key : GetParam().keys)
+                   if (key) SendMessageW(GetFocus(), WM_KEYDOWN, key, 1);
+               }
                sheet.Press(button);
              });
     EXPECT_EQ(GetParam().host, host_.Long(1 - set, GetParam().property));
