@@ -202,7 +202,8 @@ constexpr KnownControl kKnownControls[] = {
     {IDD_PASSWORD_CONFIRMATION, 1176, L"Static", L""},
     {IDD_PASSWORD_CONFIRMATION, 1177, L"Static", L""},
     {IDD_PASSWORD_CONFIRMATION, 1172, L"Button", L"Passwords v&isible"},
-    {IDD_PASSWORD_CONFIRMATION, IDC_CONFIRM_OWNER_LABEL, L"Static", L"Enter Password for changing the PDF &security options:"},
+    {IDD_PASSWORD_CONFIRMATION, IDC_CONFIRM_OWNER_LABEL, L"Static",
+     L"Enter Password for changing the PDF &security options:"},
     {IDD_PASSWORD_CONFIRMATION, IDC_CONFIRM_USER_LABEL, L"Static", L"Enter password to &open the PDF in a PDF Reader:"},
     {IDD_PASSWORD_CONFIRMATION, IDC_CONFIRM_EDITING_LABEL, L"Static", L""},
     {IDD_PASSWORD_CONFIRMATION, IDOK, L"Button", L"OK"},
@@ -331,6 +332,8 @@ TEST(DocumentInfoPageTemplate, SubjectAndKeywordsHaveSeveralLines) {
   const Dialog dialog = ReadDialog(IDD_DOCUMENT_INFO_PAGE, kEnglish);
   for (const DWORD id : {1071, 1072}) EXPECT_TRUE(FindControl(dialog, id)->style & ES_MULTILINE) << id;
   for (const DWORD id : {1070, 1073}) EXPECT_FALSE(FindControl(dialog, id)->style & ES_MULTILINE) << id;
+}
+
 // In the order of the page, which is not that of their numbers' values.
 TEST(SecurityPageTemplate, TheRadiosAreAGroupOfTheirOwn) {
   const std::vector<Control> controls = ReadDialog(IDD_SECURITY_PAGE, kEnglish).controls;
