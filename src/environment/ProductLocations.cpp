@@ -32,6 +32,8 @@ bool WaitForEnd(HANDLE process) {
 
 }  // namespace
 
+CUString GetLibraryDirectory() { return CEPathString::ModulePath(ModuleInstance()).GetDriveAndDirectory(); }
+
 CUString GetAddInNEMDllPath() try {
   CUStringArray printers;
   if (!IsWin9x() && !GetPrinterNames(printers, kDriverName)) {
@@ -39,7 +41,7 @@ CUString GetAddInNEMDllPath() try {
     return {};
   }
   if (printers.Count() > 0) return DriverDirectoryOf(printers[0].Text());
-  return CEPathString::ModulePath(ModuleInstance()).GetDriveAndDirectory();
+  return GetLibraryDirectory();
 } catch (...) {
   TraceError("%hs: caught throwed exception", "GetAddInNEMDllPath");
   return {};

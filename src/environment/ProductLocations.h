@@ -3,6 +3,9 @@
 
 #include "DriverLIB/CUString.h"
 
+// The directory of this library itself, with its trailing separator.
+CUString GetLibraryDirectory();
+
 // The directory of the printer components, with its trailing separator: that of the driver of the first printer that
 // the product has, this library's own where there is none. Empty on failure.
 CUString GetAddInNEMDllPath();

@@ -1,11 +1,11 @@
 #include "sheet/CNemUISheet.h"
 
-#include "DriverLIB/MessageText.h"
 #include "environment/CPrinterHandle.h"
 #include "environment/ReadAdminSettings.h"
 #include "MessageIds.h"
 #include "resources/ResourceIds.h"
 #include "window/CenterWindow.h"
+#include "window/SmallIcon.h"
 
 namespace {
 
@@ -41,9 +41,7 @@ BOOL CNemUISheet::OnInitDialog(WindowMessage& message) {
   // Before the first page exists: pages take an administrator's values when they read theirs.
   ReadAdministratorSettings();
   const BOOL result = CNemUISheetBase::OnInitDialog(message);
-  const HANDLE icon = ::LoadImageW(static_cast<HINSTANCE>(ModuleInstance()), MAKEINTRESOURCEW(IDI_PRODUCT), IMAGE_ICON,
-                                   ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED);
-  Send(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+  SetSmallIcon(*this, IDI_PRODUCT);
   if (OffersDocumentProperties()) SetActivePage(documentPage_);
   CenterWindow(*this);
   return result;

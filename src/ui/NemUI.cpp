@@ -1,5 +1,6 @@
-// The exported functions, but for NemPdfUIDoModal, which has a unit of its own. They take up the thread and hand on;
-// what they hand on to knows no window. They have no catch-all: destructors clean up, and what was thrown passes on.
+// The exported functions, but for NemPdfUIDoModal and NemPdfUIShowVersion, which have units of their own. They take up
+// the thread and hand on; what they hand on to knows no window. They have no catch-all: destructors clean up, and what
+// was thrown passes on.
 #include <new>
 
 #include "DriverLIB/CError.h"
@@ -63,10 +64,4 @@ int NemPdfUIGetVersion(uint32_t* version) {
   if (!version) return SetError(CurrentError(), kErrorInvalidFunctionArgument, kSource, 282);
   *version = kVersionNumber;
   return 1;
-}
-
-// The version dialog is not built yet: nothing is shown, and 0 is returned as if it could not be.
-int NemPdfUIShowVersion(void) {
-  EnterThread();
-  return 0;
 }

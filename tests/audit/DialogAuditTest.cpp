@@ -106,6 +106,21 @@ SheetTask AuditPages(Sheet& sheet, const Language& language, int dpi, int& count
   }
 }
 
+void AuditVersionDialog(const Language& language, int dpi) {
+  AuditOptions options;
+  options.mirrored = language.mirrored;
+  options.dpi = dpi;
+  options.size = {205, 143};
+  SheetDriver(kTimeoutSeconds)
+      .Run([] { return NemPdfUIShowVersion(); },
+           [&](Sheet& dialog) -> SheetTask {
+             co_await dialog.Settled();
+             Report("version dialog", AuditPage(dialog.Window(), options));
+             std::printf("%sversion dialog\n%s\n", kInventoryMark, InventoryOf(dialog.Window()).c_str());
+             dialog.PressOk();
+           });
+}
+
 void AuditInThisProcess(const Language& language, int dpi) {
   SetProcessDPIAware();
   if (GetDpiForSystem() != static_cast<UINT>(dpi)) GTEST_SKIP() << "This system gives " << GetDpiForSystem() << " dpi.";
@@ -121,6 +136,7 @@ void AuditInThisProcess(const Language& language, int dpi) {
              sheet.PressCancel();
            });
   EXPECT_GT(count, 0) << "no page came up";
+  AuditVersionDialog(language, dpi);
 }
 
 // --- In the process of the test ---------------------------------------------------------------------------------

@@ -48,3 +48,8 @@ SheetTask WriteCockpit(Sheet& sheet, std::wstring directory, std::wstring langua
   CO_ASSERT_TRUE(shown);
   WritePicture(sheet, directory + L"\\" + language + L"-120-cockpit-changed.png", result);
 }
+
+void WriteDialogPicture(const Sheet& dialog, const std::wstring& directory, const std::wstring& language,
+                        const std::wstring& name, GalleryResult& result) {
+  WritePicture(dialog, directory + L"\\" + language + L"-" + name + L".png", result);
+}

@@ -18,3 +18,7 @@ SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring langua
 
 // The cockpit of the first tab alone, as "<directory>\<language>-120-cockpit-changed.png".
 SheetTask WriteCockpit(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result);
+
+// A dialog that is no page, as "<directory>\<language>-<name>.png". It stays open.
+void WriteDialogPicture(const Sheet& dialog, const std::wstring& directory, const std::wstring& language,
+                        const std::wstring& name, GalleryResult& result);

@@ -45,10 +45,12 @@ constexpr PageSize kPages[] = {
     {IDD_HOST_PAGE, 386, 274},
 };
 
-// Templates with texts; the host page has none and no language.
+// Templates without texts of their own: the code sets them.
+const std::set<WORD> kNeutralDialogs = {IDD_HOST_PAGE, IDD_VERSION_DIALOG};
+
 std::set<WORD> TranslatedDialogs() {
   std::set<WORD> dialogs = Names(RT_DIALOG);
-  dialogs.erase(IDD_HOST_PAGE);
+  for (const WORD id : kNeutralDialogs) dialogs.erase(id);
   return dialogs;
 }
 
@@ -75,6 +77,15 @@ bool IsLabel(const Control& control) { return control.className == L"Static" && 
 TEST(DialogTemplates, ExistInExactlyFourLanguages) {
   ASSERT_TRUE(TranslatedDialogs().contains(IDD_GRAPHIC_PAGE));
   for (const WORD id : TranslatedDialogs()) EXPECT_EQ(Languages(RT_DIALOG, id), kLanguages) << id;
+}
+
+TEST(DialogTemplates, WithoutTextsBelongToNoLanguage) {
+  for (const WORD id : kNeutralDialogs) EXPECT_EQ(Languages(RT_DIALOG, id), std::set<WORD>{LANG_NEUTRAL}) << id;
+}
+
+TEST(DialogTemplates, TheVersionDialogHasItsSize) {
+  const Dialog dialog = ReadDialog(185, LANG_NEUTRAL);
+  EXPECT_EQ(std::tuple(205, 143), std::tuple(dialog.width, dialog.height));
 }
 
 TEST(DialogTemplates, HaveTheSameControlsInEachLanguage) {
@@ -134,8 +145,7 @@ TEST(DialogTemplates, PagesAreControlsOfTheirSize) {
   }
 }
 
-TEST(DialogTemplates, TheHostPageHasItsHiddenTabControlAndNoLanguage) {
-  EXPECT_EQ(Languages(RT_DIALOG, IDD_HOST_PAGE), std::set<WORD>{LANG_NEUTRAL});
+TEST(DialogTemplates, TheHostPageHasItsHiddenTabControl) {
   const Dialog host = ReadDialog(187, LANG_NEUTRAL);
   ASSERT_EQ(host.controls.size(), 1u);
   const Control& tab = host.controls[0];
@@ -146,9 +156,9 @@ TEST(DialogTemplates, TheHostPageHasItsHiddenTabControlAndNoLanguage) {
 }
 
 TEST(DialogTemplates, EveryControlHasANumberOfItsOwn) {
-  for (const WORD id : TranslatedDialogs()) {
+  for (const WORD id : Names(RT_DIALOG)) {
     std::set<DWORD> seen;
-    for (const Control& control : ReadDialog(id, kEnglish).controls) {
+    for (const Control& control : ReadDialog(id, kNeutralDialogs.contains(id) ? LANG_NEUTRAL : kEnglish).controls) {
       EXPECT_NE(LOWORD(control.id), 0xFFFF) << id;
       EXPECT_NE(control.id, 0u) << id;
       EXPECT_TRUE(seen.insert(control.id).second) << id << " control " << control.id;

@@ -243,6 +243,23 @@ constexpr KnownControl kKnownControls[] = {
     {183, 1212, L"Static", L""},
     {183, 1213, L"Static", L""},
     {183, 1215, L"Static", L""},
+    {185, 1111, L"Static", L""},
+    {185, 1230, L"Static", L"n/a"},
+    {185, 1231, L"Static", L"n/a"},
+    {185, 1232, L"Static", L"n/a"},
+    {185, 1233, L"Static", L"n/a"},
+    {185, 1234, L"Static", L"n/a"},
+    {185, 1235, L"Static", L"n/a"},
+    {185, 1237, L"Static", L"n/a"},
+    {185, 1345, L"Static", L""},
+    {185, 1346, L"Static", L""},
+    {185, 1347, L"Static", L""},
+    {185, 1353, L"Static", L""},
+    {185, 1354, L"Static", L""},
+    {185, 1355, L"Static", L""},
+    {185, 1356, L"Static", L""},
+    {185, 1357, L"Static", L""},
+    {185, IDOK, L"Button", L"OK"},
     {191, IDC_NO_DOC_SETTINGS_WHEN, L"Static",
      L"These settings are only available when generating a new PDF or e.pdf document."},
     {191, IDC_NO_DOC_SETTINGS_WHERE, L"Static",
@@ -252,8 +269,10 @@ constexpr KnownControl kKnownControls[] = {
 
 }  // namespace
 
+// A template without texts of its own has no language.
 TEST_P(KnownEnglishControl, HasItsClassAndText) {
-  const Dialog dialog = ReadDialog(GetParam().dialog, kEnglish);
+  const bool isNeutral = Languages(RT_DIALOG, GetParam().dialog) == std::set<WORD>{LANG_NEUTRAL};
+  const Dialog dialog = ReadDialog(GetParam().dialog, isNeutral ? LANG_NEUTRAL : kEnglish);
   const Control* control = FindControl(dialog, GetParam().id);
   ASSERT_TRUE(control);
   EXPECT_EQ(control->className, GetParam().className);

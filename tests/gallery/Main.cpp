@@ -1,9 +1,9 @@
 // nempdf_gallery DIRECTORY
 //
 // Writes pictures of all pages of both tabs in all languages to the directory, with the values of the host's sample,
-// and one of the cockpit with something changed in each of its rows. Each language needs a process of its own, since
-// the library takes up its language when it is loaded: the program starts itself again as "nempdf_gallery DIRECTORY
-// LANGUAGE".
+// one of the cockpit with something changed in each of its rows, and one of the version dialog. Each language needs a
+// process of its own, since the library takes up its language when it is loaded: the program starts itself again as
+// "nempdf_gallery DIRECTORY LANGUAGE".
 #include <windows.h>
 // behind windows.h
 #include <gtest/gtest.h>
@@ -100,6 +100,13 @@ int WriteLanguage(const std::wstring& directory, const std::wstring& language) {
   EXPECT_TRUE(ChangeAllCategories(dialog));
   run(WriteCockpit);
   NemPdfUIFreeDialog(&dialog);
+  SheetDriver(kTimeoutSeconds)
+      .Run([] { return NemPdfUIShowVersion(); },
+           [&](Sheet& version) -> SheetTask {
+             co_await version.Settled();
+             WriteDialogPicture(version, directory, language, L"version", gallery);
+             version.PressOk();
+           });
 
   std::printf("%s: %zu pictures", ToUtf8(language).c_str(), gallery.written.size());
   for (size_t i = 0; i < gallery.missing.size(); ++i)

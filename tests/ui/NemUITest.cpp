@@ -9,6 +9,7 @@
 #include <string>
 
 #include "driver/ImportPatch.h"
+#include "driver/Popups.h"
 #include "DriverLIB/CError.h"
 #include "DriverLIB/ModuleState.h"
 #include "NemPdfUI.h"
@@ -57,7 +58,11 @@ TEST_F(NemUI, EveryExportTakesUpItsThread) {
       [] { NemPdfUIGetPropertyA(nullptr, 0, nullptr, nullptr, 0); },
       [] { NemPdfUIGetPropertyW(nullptr, 0, nullptr, nullptr, 0); },
       [] { NemPdfUIGetVersion(nullptr); },
-      [] { NemPdfUIShowVersion(); },
+      [] {
+        Popups popups;
+        popups.ExpectDialog(DismissDialog);
+        NemPdfUIShowVersion();
+      },
   };
   for (const auto& call : exports)
     OnFreshThread([&call] {
@@ -86,6 +91,7 @@ TEST_F(NemUI, AThreadThatCannotBeTakenUpGetsZero) {
       {"GetPropertyA", [&] { return NemPdfUIGetPropertyA(handle_, 0, "Scale", &number, 4); }},
       {"GetPropertyW", [&] { return NemPdfUIGetPropertyW(handle_, 0, L"Scale", &number, 4); }},
       {"GetVersion", [&] { return NemPdfUIGetVersion(&version); }},
+      {"ShowVersion", [] { return NemPdfUIShowVersion(); }},
   };
   for (const auto& row : rows) {
     int result = -7;
