@@ -3,6 +3,9 @@
 
 #include "DriverLIB/CUString.h"
 
+// Where trace files go when nobody chooses another folder.
+constexpr wchar_t kDefaultTraceFolder[] = L"C:\\NEMpdfVonderTrace";
+
 // The value TraceFilename under `key`, empty when there is none: the general name, from which each component derives
 // its own.
 CUString GetTraceFilename(const wchar_t* key);

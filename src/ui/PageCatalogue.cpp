@@ -7,11 +7,15 @@
 #include "pages/CNemUIFormatPage.h"
 #include "pages/CNemUIFormFieldsColorPage.h"
 #include "pages/CNemUIFormFieldsPage.h"
+#include "pages/CNemUIInfoPage.h"
+#include "pages/CNemUILangPage.h"
 #include "pages/CNemUINoDocSettingsPage.h"
 #include "pages/CNemUIPaperPage.h"
 #include "pages/CNemUIPdfAppearancePage.h"
 #include "pages/CNemUIPdfGraphicPage.h"
 #include "pages/CNemUIPdfSecurityPage.h"
+#include "pages/CNemUIStatisticsPage.h"
+#include "pages/CNemUIUpdatePage.h"
 #include "resources/ResourceIds.h"
 
 namespace {
@@ -50,7 +54,10 @@ constexpr PageCatalogueRow kPages[] = {
     {{IDD_ACTION_PAGE, 0, MSG_PAGE_ACTIONS, 102, 237, 238}, nullptr, kPlaceholder},
     {{IDD_MAIL_PAGE, 0, MSG_PAGE_MAIL, 104, 243, 244}, nullptr, kPlaceholder},
     {{IDD_SAVING_PAGE, 0, MSG_PAGE_SAVING, 103, 255, 256}, nullptr, kPlaceholder},
-    {{IDD_INFO_PAGE, 0, MSG_PAGE_INFO, 106, 257, 258}, nullptr, kPlaceholder},
+    {{IDD_INFO_PAGE, 0, MSG_PAGE_INFO, 106, 257, 258}, Make<CNemUIInfoPage>, kPlaceholder},
+    {{IDD_LANGUAGE_PAGE, 0, MSG_PAGE_LANGUAGE, 107, 319, 318}, Make<CNemUILangPage>, nullptr},
+    {{IDD_UPDATE_PAGE, 0, MSG_PAGE_UPDATE, 121, 328, 330}, Make<CNemUIUpdatePage>, nullptr},
+    {{IDD_STATISTICS_PAGE, 0, MSG_PAGE_STATISTICS, 123, 257, 258}, Make<CNemUIStatisticsPage>, nullptr},
 };
 
 }  // namespace

@@ -7,44 +7,19 @@
 
 #include <string>
 
-#include "support/ComponentFolder.h"
+#include "support/LoadedUpdator.h"
 #include "support/PrintText.h"
 
 namespace {
 
 constexpr wchar_t kFile[] = L"NemUpdator64.dll";
 
-// Keeps the updater of that kind in memory, so that what it has noted can be read when the job is gone.
-class Updator {
- public:
-  explicit Updator(const std::wstring& kind) : module_(LoadLibraryW((ComponentFolder(kind) + kFile).c_str())) {
-    EXPECT_TRUE(module_);
-  }
-  ~Updator() { FreeLibrary(module_); }
-  Updator(const Updator&) = delete;
-  Updator& operator=(const Updator&) = delete;
-
-  // What was noted since the last question.
-  std::string TakeCalls() {
-    auto* calls = static_cast<char*>(Find("calls"));
-    std::string result(calls);
-    *calls = '\0';
-    return result;
-  }
-  int OpenJobs() { return *static_cast<int*>(Find("openJobs")); }
-
- private:
-  void* Find(const char* name) { return reinterpret_cast<void*>(GetProcAddress(module_, name)); }
-
-  HMODULE module_;
-};
-
 bool Load(NemUpdateJob& job, const std::wstring& kind) { return job.Load(1, ComponentFolder(kind).c_str(), kFile); }
 
 }  // namespace
 
 TEST(NemUpdateJob, FreesItsJobBeforeTheComponent) {
-  Updator updator(L"newer");
+  LoadedUpdator updator(L"newer");
   {
     NemUpdateJob job;
     ASSERT_TRUE(Load(job, L"newer"));
@@ -72,7 +47,7 @@ TEST(NemUpdateJob, HasAUsualFileAndAddsNoSeparator) {
 }
 
 TEST(NemUpdateJob, LoadsOnce) {
-  Updator updator(L"newer");
+  LoadedUpdator updator(L"newer");
   NemUpdateJob job;
   ASSERT_TRUE(Load(job, L"newer"));
   EXPECT_TRUE(Load(job, L"createfails")) << "stays with its file";
@@ -94,7 +69,7 @@ TEST(NemUpdateJob, DoesNotLoadWithoutFileExportOrJob) {
 }
 
 TEST(NemUpdateJob, PassesPropertiesOnAsText) {
-  Updator updator(L"newer");
+  LoadedUpdator updator(L"newer");
   NemUpdateJob job;
   ASSERT_TRUE(Load(job, L"newer"));
   EXPECT_TRUE(job.SetProperty(L"product", L"NEM pdf vonder"));
@@ -126,7 +101,7 @@ TEST(NemUpdateJob, CutsATextThatIsTooLong) {
 }
 
 TEST(NemUpdateJob, SearchesAndDownloads) {
-  Updator updator(L"newer");
+  LoadedUpdator updator(L"newer");
   NemUpdateJob job;
   ASSERT_TRUE(Load(job, L"newer"));
   EXPECT_TRUE(job.SearchForUpdate(1));

@@ -14,8 +14,8 @@
 #include "environment/PrinterQueries.h"
 #include "environment/Spooler.h"
 #include "support/ComponentFolder.h"
+#include "support/InstalledProduct.h"
 #include "support/PrintText.h"
-#include "support/RegistryValue.h"
 #include "support/TempFile.h"
 #include "support/TestPrinter.h"
 #include "support/TracedThread.h"
@@ -68,26 +68,14 @@ TEST(ProductLocations, AreNotKnownWhenThePrintersAreNot) {
 
 namespace {
 
-constexpr wchar_t kUpgradeKey[] =
-    L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Installer\\UpgradeCodes\\00112233445566778899AABBCCDDEEFF";
-constexpr wchar_t kProductKeyOfInstaller[] =
-    L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Installer\\UserData\\S-1-5-18\\Products\\"
-    L"FFEEDDCCBBAA99887766554433221100";
-
 class AdminToolTest : public testing::Test {
  protected:
   AdminToolTest() { SetEnvironmentVariableW(L"NEMPDF_ADMIN_RECORD", record.Name()); }
   ~AdminToolTest() override { SetEnvironmentVariableW(L"NEMPDF_ADMIN_RECORD", nullptr); }
 
-  void Install(const std::wstring& folder) {
-    const auto bytes = static_cast<DWORD>((folder.size() + 1) * sizeof(wchar_t));
-    RegSetKeyValueW(HKEY_LOCAL_MACHINE, kUpgradeKey, L"FFEEDDCCBBAA99887766554433221100", REG_SZ, L"", 2);
-    RegSetKeyValueW(HKEY_LOCAL_MACHINE, (std::wstring(kProductKeyOfInstaller) + L"\\InstallProperties").c_str(),
-                    L"InstallLocation", REG_SZ, folder.c_str(), bytes);
-  }
+  void Install(const std::wstring& folder) { product.Install(folder); }
 
-  RegistryTree upgrade{HKEY_LOCAL_MACHINE, kUpgradeKey};
-  RegistryTree product{HKEY_LOCAL_MACHINE, kProductKeyOfInstaller};
+  InstalledProduct product;
   TempFile record{"nempdf_admin_record.txt"};
 };
 

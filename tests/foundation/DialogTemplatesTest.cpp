@@ -46,7 +46,7 @@ constexpr PageSize kPages[] = {
 };
 
 // Templates without texts of their own: the code sets them.
-const std::set<WORD> kNeutralDialogs = {IDD_HOST_PAGE, IDD_VERSION_DIALOG};
+const std::set<WORD> kNeutralDialogs = {IDD_HOST_PAGE, IDD_LANGUAGE_PAGE, IDD_UPDATE_PAGE, IDD_VERSION_DIALOG};
 
 std::set<WORD> TranslatedDialogs() {
   std::set<WORD> dialogs = Names(RT_DIALOG);
@@ -222,6 +222,9 @@ TEST(DialogTemplates, TranslationsDifferFromTheEnglishText) {
   const auto isSame = [&same](const std::wstring& text, WORD language) {
     return std::ranges::any_of(same,
                                [&](const auto& row) { return row.first == text && row.second.contains(language); });
+  const std::set<std::pair<WORD, std::wstring>> same = {
+      {kGerman, L"Support"}, {kFrench, L"Support"}, {kGerman, L"e.pdf:"}, {kArabic, L"e.pdf:"},
+      {kGerman, L"Layout"},  {kGerman, L"&CMYK"},   {kArabic, L"&CMYK"},
   };
   for (const WORD id : TranslatedDialogs()) {
     const Dialog english = ReadDialog(id, kEnglish);

@@ -111,6 +111,16 @@ TEST(MessageTable, OnlyTheGermanVideoAddressLeavesItsEntryOpenInOtherLanguages) 
   EXPECT_TRUE(Format(kVideoAddress, kGerman).starts_with(L"https://www.nem-software.example/"));
 }
 
+// The web site has one name, which stands in one text; only the German video has an address of its own.
+TEST(MessageTable, NamesTheWebSiteOnce) {
+  for (const WORD language : kLanguages) {
+    std::set<std::wstring> addresses;
+    for (const auto& [id, text] : MessageTable(language))
+      if (id != kVideoAddress && text.find(L"://") != text.npos) addresses.insert(text);
+    EXPECT_EQ(addresses, std::set<std::wstring>{L"https://www.nem-software.example%0"}) << language;
+  }
+}
+
 TEST(MessageTable, NumbersLeadTheRowsOfResolutionsAndQualitiesInEachLanguage) {
   const Texts english = MessageTable(kEnglish);
   for (const WORD language : kLanguages) {
@@ -195,6 +205,7 @@ TEST(MessageTable, TranslationsDifferFromTheEnglishText) {
       {L"Normal (Web)", {kFrench}},
       {L"Word std.", {kFrench}},
       {L"Rectangle", {kFrench}},
+      {L"https://www.nem-software.example", {kGerman, kFrench, kArabic}},
       {L"OK", {kGerman, kFrench}},
       {L"NEM pdf:", {kGerman, kArabic}},
       {L"NEM pdf vonder:", {kGerman, kArabic}},
@@ -445,6 +456,33 @@ constexpr KnownText kKnownTexts[] = {
     {0x4001091A, L"Left to right"},
     {0x4001091B, L"Right to left"},
     {0x4001087C, L"XX"},
+    {0x4001080C, L"NEM pdf vonder:"},
+    {0x40010818, L"Should the creation of trace files be activated?"},
+    {0x40010819, L"Should the creation of trace files be deactivated?"},
+    {0x4001081A, L"The printer queue could not be restarted. Please quit the program and restart the printer queue."},
+    {0x4001081C, L"The creation of trace files has been deactivated."},
+    {0x4001081D, L"The folder \"%1!s!\" could not be created."},
+    {0x4001081F,
+     L"You can choose a directory, that should be used to write the Trace-Files.%nCancel: \"%1!s!\" will be used."},
+    {0x40010857,
+     L"The registry entry \"%1!s!\" could not be modified. %nPlease verify, if you're holding all appropriate security "
+     L"rights or log on as administrator!"},
+    {0xC0012775,
+     L"Please reopen the NEM pdf vonder settings dialog, so that the new language can be applied everywhere"},
+    {0xC0012776, L"System language"},
+    {0xC0012777, L"Arabic"},
+    {0xC0012778, L"French"},
+    {0xC0012779, L"English"},
+    {0xC001277A, L"German"},
+    {0xC001283D, L"Automatic search for updates periodically"},
+    {0xC001283E, L"Search for updates only manually"},
+    {0xC001283F, L"Download updates automatically"},
+    {0xC0012840, L"Install updates automatically"},
+    {0xC0012841, L"Update also to BETA Versions"},
+    {0xC0012842, L"Search for an update now"},
+    {0xC0012843, L"There was an error during initializing the update process."},
+    {0xC0012844, L"You are using the most current version of this software."},
+    {0xC0012845, L"The update check wasn't able to proceed. The reported error was \"%1!s!\"."},
     {0xC0011B58, L"NEM pdf:"},
     {0xC0011B5A, L"NEM pdf vonder:"},
     {0xC0011B5C, L"NEM pdf vonder API:"},

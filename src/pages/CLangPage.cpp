@@ -1,0 +1,112 @@
+#include "pages/CLangPage.h"
+
+#include <algorithm>
+
+#include "DriverLIB/CRegistryEntry.h"
+#include "DriverLIB/Identity.h"
+#include "DriverLIB/LanguageSetting.h"
+#include "DriverLIB/MessageBoxes.h"
+#include "MessageIds.h"
+#include "Pictures.h"
+
+namespace {
+
+// How the registry says that the language of the system is to be taken; a reader of the setting answers kNoSetting.
+constexpr uint16_t kSystemLanguage = 1;
+constexpr uint16_t kNoSetting = 0;
+
+struct LanguageRow {
+  int controlId;
+  uint32_t messageId;
+  uint16_t stored;  // but for the first row, the language itself
+};
+
+// In the order of the numbers of the radios. The first row is that of the system, and of every language without a row.
+constexpr LanguageRow kLanguages[] = {
+    {IDC_LANGUAGE_SYSTEM, MSG_LANGUAGE_SYSTEM, kSystemLanguage},
+    {IDC_LANGUAGE_ENGLISH, MSG_LANGUAGE_ENGLISH, MAKELANGID(LANG_ENGLISH, SUBLANG_ENGLISH_US)},
+    {IDC_LANGUAGE_GERMAN, MSG_LANGUAGE_GERMAN, MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN)},
+    {IDC_LANGUAGE_ARABIC, MSG_LANGUAGE_ARABIC, MAKELANGID(LANG_ARABIC, SUBLANG_ARABIC_SAUDI_ARABIA)},
+    {IDC_LANGUAGE_FRENCH, MSG_LANGUAGE_FRENCH, MAKELANGID(LANG_FRENCH, SUBLANG_FRENCH)},
+};
+
+struct FlagRow {
+  int controlId;
+  PictureNumbers picture;
+};
+
+constexpr FlagRow kFlags[] = {
+    {IDC_LANGUAGE_FLAG_ENGLISH, Pictures::kFlagEnglish},
+    {IDC_LANGUAGE_FLAG_GERMAN, Pictures::kFlagGerman},
+    {IDC_LANGUAGE_FLAG_ARABIC, Pictures::kFlagArabic},
+    {IDC_LANGUAGE_FLAG_FRENCH, Pictures::kFlagFrench},
+};
+
+// What a running dialog shows for a choice. The system's language takes a new start: until then it is English.
+constexpr uint16_t ShownLanguage(uint16_t choice) {
+  return choice == kSystemLanguage || choice == kNoSetting ? kEnglish : choice;
+}
+
+// The choice of the radio that is on; without one that of the fallback.
+uint16_t CheckedLanguage(const CWnd& page, uint16_t fallback) {
+  const auto* row = std::ranges::find_if(
+      kLanguages, [&](const LanguageRow& language) { return CButton(page.Item(language.controlId)).IsChecked(); });
+  return row == std::end(kLanguages) ? fallback : row->stored;
+}
+
+}  // namespace
+
+MessageTable CLangPage::Messages() const {
+  static constexpr MessageRow kMessages[] = {
+      OnClickRange<&CLangPage::OnLanguageClicked>(IDC_LANGUAGE_SYSTEM, IDC_LANGUAGE_FRENCH),
+  };
+  return kMessages;
+}
+
+BOOL CLangPage::OnInitDialog() {
+  if (!CNemUIPage::OnInitDialog()) return FALSE;
+  for (size_t i = 0; i < std::size(kFlags); ++i) {
+    flags_[i].Attach(*this, kFlags[i].controlId);
+    flags_[i].SetImage(kFlags[i].picture.bitmap, kNoTransparentColor, kFlags[i].picture.mask);
+  }
+  return TRUE;
+}
+
+// Saving is writing to the registry: it happens when the page is left, and Cancel does not undo it.
+void CLangPage::DoDataExchange(CDataExchange& exchange) {
+  if (exchange.IsLoading())
+    LoadLanguage();
+  else
+    SaveLanguage();
+}
+
+void CLangPage::LoadLanguage() {
+  RefreshLanguageTexts();
+  const auto* row = std::ranges::find(kLanguages, ReadLanguageSetting(), &LanguageRow::stored);
+  if (row == std::end(kLanguages)) row = kLanguages;
+  ::CheckRadioButton(Handle(), IDC_LANGUAGE_SYSTEM, IDC_LANGUAGE_FRENCH, row->controlId);
+}
+
+void CLangPage::SaveLanguage() {
+  const uint16_t stored = ReadLanguageSetting();
+  uint16_t chosen = CheckedLanguage(*this, kSystemLanguage);
+  if (stored == kNoSetting && chosen == kSystemLanguage) chosen = kNoSetting;
+  if (chosen == stored) return;
+  CRegistryEntry setting(kProductKey, L"LanguageID");
+  if (!setting.SetRoot(HKEY_CURRENT_USER).WriteLong(chosen)) return;
+  SetUILanguage(ShownLanguage(chosen));
+  MsgBoxById(Handle(), GetMsgBoxTitle().Text(), MSG_LANGUAGE_REOPEN, MB_ICONINFORMATION);
+  RefreshLanguageTexts();
+}
+
+// The rows show at once in the language that is chosen. Nothing is stored, and no other page notices.
+void CLangPage::OnLanguageClicked() {
+  const uint16_t language = GetUILanguage();
+  SetUILanguage(ShownLanguage(CheckedLanguage(*this, kEnglish)));
+  RefreshLanguageTexts();
+  SetUILanguage(language);
+}
+
+void CLangPage::RefreshLanguageTexts() {
+  for (const LanguageRow& row : kLanguages) Item(row.controlId).SetText(MessageText(row.messageId).Text());
+}

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "pages/CInfoPage.h"
+#include "sheet/CNemUISettingsPage.h"
+
+class CNemUIInfoPage : public CNemUISettingsPage<CInfoPage> {
+ public:
+  using CNemUISettingsPage::CNemUISettingsPage;
+
+ protected:
+  BindingTable Bindings() const override { return {}; }
+  BOOL OnInitDialog() override;
+};

@@ -1,0 +1,33 @@
+// When the product looks for a newer version, and what it does with one. The schedule is the user's, a value in the
+// registry and no property; the updater, a component of its own, does the work.
+#pragma once
+
+#include "environment/Override.h"
+#include "resources/ResourceIds.h"
+#include "sheet/CNemUIPage.h"
+
+class NemUpdateJob;
+
+class CUpdatePage : public CNemUIPage {
+ public:
+  using CNemUIPage::CNemUIPage;
+
+  NumberOverride updateTypeOverride;
+  BooleanOverride disableManualUpdate;
+
+ protected:
+  void DoDataExchange(CDataExchange& exchange) override;
+  MessageTable Messages() const override;
+
+ private:
+  void OnSearchClicked();
+  void SetJobProperties(NemUpdateJob& job);
+  void Tell(uint32_t messageId, UINT icon, const CUString& insert = {});
+
+  void LoadSchedule();
+  void SaveSchedule();
+  void UpdateControls();
+  void ApplyOverrides();
+
+  bool IsChecked(int id) const { return CButton(Item(id)).IsChecked(); }
+};
