@@ -149,6 +149,7 @@ std::wstring RunningTest() {
 ProcessResult RunInOwnProcess(const Language& language, int dpi, const std::wstring& test) {
   ProductValue languageId(HKEY_CURRENT_USER, L"LanguageID");
   languageId.Set(language.id);
+  ProductValue schedule(HKEY_CURRENT_USER, L"UpdateType");  // stored whenever the update page is left
   RegistryValue pixels(HKEY_CURRENT_USER, L"Control Panel\\Desktop", L"LogPixels");
   const DWORD value = static_cast<DWORD>(dpi);
   pixels.SetBytes(REG_DWORD, &value, sizeof value);

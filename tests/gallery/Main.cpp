@@ -120,6 +120,7 @@ int WriteAll(const std::wstring& directory) {
   for (const auto& [name, id] : kLanguages) {
     ProductValue language(HKEY_CURRENT_USER, L"LanguageID");
     language.Set(id);
+    ProductValue schedule(HKEY_CURRENT_USER, L"UpdateType");  // stored whenever the update page is left
     const ProcessResult child = RunSelf(L"\"" + directory + L"\" " + name);
     std::printf("%s", child.output.c_str());
     std::fflush(stdout);
