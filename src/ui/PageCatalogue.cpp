@@ -12,6 +12,7 @@
 #include "pages/CNemUINoDocSettingsPage.h"
 #include "pages/CNemUIPaperPage.h"
 #include "pages/CNemUIPdfAppearancePage.h"
+#include "pages/CNemUIPdfFontsPage.h"
 #include "pages/CNemUIPdfGraphicPage.h"
 #include "pages/CNemUIPdfSecurityPage.h"
 #include "pages/CNemUIStatisticsPage.h"
@@ -46,6 +47,7 @@ constexpr PageCatalogueRow kPages[] = {
     {{IDD_FORM_FIELDS_COLOR_PAGE, 0, MSG_PAGE_COLOR_SETTINGS, 116, 239, 240},
      Make<CNemUIFormFieldsColorPage>,
      Make<CNemUIFormFieldsColorPage>},
+    {{IDD_FONTS_PAGE, 0, MSG_PAGE_FONTS, 110, 269, 271}, Make<CNemUIPdfFontsPage>, Make<CNemUIPdfFontsPage>},
     {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
     {{IDD_COCKPIT_PAGE, 0, MSG_PAGE_COCKPIT, 120, 321, 322}, Make<CNemUICockpitPage>, Make<CNemUICockpitPage>},
     {{IDD_DOCUMENT_INFO_PAGE, 0, MSG_PAGE_DOCUMENT_INFO, 105, 241, 242},

@@ -51,6 +51,7 @@ struct PropertyRow {
   std::vector<StoredCase> stored;  // the first is the one that stands while other rows are looked at
   std::vector<TypedCase> typed;
   std::vector<std::pair<std::wstring, PropertyValue>> given;
+  bool chosenByHand = false;
 
   std::function<void(AdminSettings&)> lock;
   std::vector<int> locked;
@@ -69,6 +70,11 @@ struct PropertyRow {
   // Other properties' values that open the control.
   PropertyRow Given(std::vector<std::pair<std::wstring, PropertyValue>> values) && {
     given = std::move(values);
+    return std::move(*this);
+  }
+  // Choosing brings up boxes: the page's own test does it.
+  PropertyRow ChosenByHand() && {
+    chosenByHand = true;
     return std::move(*this);
   }
   // The administrator's field that locks these controls, and no others, whatever its value.

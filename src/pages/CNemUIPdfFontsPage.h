@@ -1,0 +1,14 @@
+#pragma once
+
+#include "pages/CPdfFontsPage.h"
+#include "sheet/CNemUISettingsPage.h"
+
+class CNemUIPdfFontsPage : public CNemUISettingsPage<CPdfFontsPage> {
+ public:
+  using CNemUISettingsPage::CNemUISettingsPage;
+
+ protected:
+  BindingTable Bindings() const override;
+  void OnPropertiesRead() override;
+  void OnPropertiesWritten() override;
+};
