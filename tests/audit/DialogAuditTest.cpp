@@ -47,6 +47,7 @@ constexpr struct {
   int pageId;
   const wchar_t* keys;
 } kEnglishDoubleKeys[] = {{109, L"PS"}, {115, L"C"}};
+} kEnglishDoubleKeys[] = {{109, L"PS"}, {110, L"D"}};
 
 AuditOptions OptionsFor(const Language& language, int dpi, const PageInfo* page) {
   AuditOptions options;

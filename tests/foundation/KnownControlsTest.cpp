@@ -53,6 +53,24 @@ constexpr KnownControl kKnownControls[] = {
     {141, IDC_GRAPHIC_COMPRESSION_LABEL, L"Static", L"&Compression:"},
     {141, IDC_GRAPHIC_QUALITY_LABEL, L"Static", L"&Quality:"},
     {141, IDC_GRAPHIC_COLOR_DEPTH_LABEL, L"Static", L"Color &depth:"},
+    {138, 1054, L"Button", L"&Do not embed fonts"},
+    {138, 1055, L"Button", L"Embed &all fonts used"},
+    {138, 1056, L"Button", L"Do not embed stan&dard fonts"},
+    {138, 1057, L"Button", L"Embed fonts &selectively"},
+    {138, 1162, L"Static", L""},
+    {138, 1161, L"Static", L""},
+    {138, IDC_FONTS_NOTE, L"Static", L"Font embedding will enlarge the PDF file."},
+    {138, 1136, L"Static", L""},
+    {138, 1277, L"Static", L"Embed these &fonts:"},
+    {138, 1032, L"ListBox", L""},
+    {138, 1178, L"Button", L">>"},
+    {138, 1051, L"Button", L">"},
+    {138, 1052, L"Button", L"<"},
+    {138, 1179, L"Button", L"<<"},
+    {138, 1137, L"Static", L""},
+    {138, 1278, L"Static", L"&Never embed these fonts:"},
+    {138, 1053, L"ListBox", L""},
+    {138, 1134, L"Static", L"Help: In which cases my font will not be embeded into the PDF?"},
     {192, 1017, L"ComboBox", L""},
     {192, IDC_FORMAT_VERSION_LABEL, L"Static", L"&PDF version:"},
     {192, 1263, L"Button", L""},
@@ -383,6 +401,36 @@ TEST(FormatPageTemplate, TheRadiosAreGroupsOfTheirOwn) {
   EXPECT_EQ(groupsFrom(1267, 4),
             (std::vector<std::pair<DWORD, bool>>{{1267, true}, {1268, false}, {1269, false}, {1264, true}}));
   EXPECT_EQ(groupsFrom(1272, 3), (std::vector<std::pair<DWORD, bool>>{{1272, true}, {1273, false}, {1249, true}}));
+}
+
+// The radios are walked by number, and the arrow keys walk them as they stand.
+TEST(FontsPageTemplate, TheRadiosAreAGroupOfTheirOwn) {
+  const std::vector<Control> controls = ReadDialog(IDD_FONTS_PAGE, kEnglish).controls;
+  ASSERT_GT(controls.size(), 4u);
+  for (size_t i = 0; i < 4; ++i) {
+    EXPECT_EQ(1054 + i, controls[i].id);
+    EXPECT_EQ(i == 0, (controls[i].style & WS_GROUP) != 0) << i;
+  }
+  EXPECT_TRUE(controls[4].style & WS_GROUP);
+}
+
+// Rows with pictures in the order of the alphabet, of which several can be selected and one clicked twice.
+TEST(FontsPageTemplate, TheListsAreSortedDrawnAndSelectSeveral) {
+  const Dialog dialog = ReadDialog(IDD_FONTS_PAGE, kEnglish);
+  for (const DWORD id : {1032, 1053}) {
+    const DWORD style = FindControl(dialog, id)->style;
+    for (const DWORD bit : {LBS_OWNERDRAWFIXED, LBS_HASSTRINGS, LBS_SORT, LBS_EXTENDEDSEL, LBS_NOTIFY})
+      EXPECT_TRUE(style & bit) << id << " " << std::hex << bit;
+  }
+}
+
+TEST(FontsPageTemplate, TheSignsShareTheirPlaceAndAreHidden) {
+  const Dialog dialog = ReadDialog(IDD_FONTS_PAGE, kEnglish);
+  const Control *first = FindControl(dialog, 1161), *second = FindControl(dialog, 1162);
+  ASSERT_TRUE(first && second);
+  EXPECT_EQ(std::tuple(first->x, first->y, first->width, first->height),
+            std::tuple(second->x, second->y, second->width, second->height));
+  EXPECT_FALSE((first->style | second->style) & WS_VISIBLE);
 }
 
 // Only one of the signs shows, in one place.

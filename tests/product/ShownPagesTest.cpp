@@ -17,11 +17,18 @@ struct TouchedValue {
   int control;          // what the user clicks on
   int32_t clicked;      // what is stored then
   WPARAM keys[2] = {};  // what he then presses
+  int32_t host;                          // what the host gives
+  int32_t shown;                         // what the page stores when it was shown
+  int control;                           // what the user clicks on
+  int32_t clicked;                       // what is stored then
+  const wchar_t* information = nullptr;  // the box that the click brings up
 };
 
 constexpr TouchedValue kValues[] = {
     {100, L"PaperMarginCenter", 7, 1, IDC_PAPER_CENTERED, 0},
     {109, L"HideToolbar", 7, 1, IDC_APPEARANCE_HIDE_TOOLBAR, 0},
+    {110, L"FontsEmbedded", 7, 0, IDC_FONTS_ALL, 1,
+     L"Please observe the license conditions\r\nof the character fonts' licensor when using this option."},
     {111, L"Colorspace", 7, 1, IDC_COLORS_RGB, 0},
     {117, L"EncryptOwnerPasswordEnabled", 7, 1, IDC_SECURITY_OWNER, 0},
     {115, L"ShowFormfields", 7, 1, IDC_FORM_FIELDS_CONVERT, 0},
@@ -56,6 +63,9 @@ class ShownPages : public testing::TestWithParam<TouchedValue> {
                  for (const WPARAM key : GetParam().keys)
                    if (key) SendMessageW(GetFocus(), WM_KEYDOWN, key, 1);
                }
+               if (click && GetParam().information)
+                 sheet.ExpectBox({.text = GetParam().information, .icon = MB_ICONINFORMATION});
+               if (click) sheet.Control(GetParam().control).Click();
                sheet.Press(button);
              });
     EXPECT_EQ(GetParam().host, host_.Long(1 - set, GetParam().property));
