@@ -173,6 +173,7 @@ int wmain() {
   std::printf("%-62s %14s %14s\n", "", "ours", "floor");
   PrintRow("opening the sheet / a bare sheet of the same templates", BenchOpeningSheet(21), 1.5);
   PrintRow("first show of the graphic page / a bare dialog of its template", BenchFirstShowOfGraphicPage(41), 1.5);
+  PrintRow("first show of the fonts page with 1000 fonts / with 100", BenchFontsPage(11), 12.0);
   PrintRow("set and get a number by name / a hash map of variants", BenchSetAndGet(11), 1.0);
   PrintRow("loading the library / an empty one with the same imports", BenchLoading(101), 3.0);
   PrintRow("splitting 20000 quoted entries / 10000", BenchQuotedList(21), 2.3);

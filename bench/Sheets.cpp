@@ -6,6 +6,7 @@
 
 #include "DriverLIB/MessageText.h"
 #include "MessageIds.h"
+#include "pages/CNemUIPdfFontsPage.h"
 #include "pages/CNemUIPdfGraphicPage.h"
 #include "resources/ResourceIds.h"
 #include "support/FakeSheet.h"
@@ -149,6 +150,33 @@ Comparison BenchFirstShowOfGraphicPage(int rounds) {
     return time;
   };
   return Compare(rounds, ours, floor);
+}
+
+Comparison BenchFontsPage(int rounds) {
+  const PageParent parent;
+  constexpr PageDescription kDescription{IDD_FONTS_PAGE, 0, MSG_PAGE_FONTS, 110, 269, 271};
+  constexpr uint16_t kSelective = 2;
+  FakeSheet sheet;
+  sheet.properties.FontsEmbedded[0].SetLong(kSelective);
+  // Each second font changes its list at the start.
+  std::wstring names;
+  for (int i = 0; i < 1000; i += 2) names += L"Font " + std::to_wstring(i) + L";";
+  sheet.properties.FontsEmbeddedOrNoEmbeddedList[0].SetString(names.c_str());
+  const auto timeWith = [&](int fonts) {
+    CNemUIPdfFontsPage page(&sheet, kDescription, 0);
+    page.enumerateFonts = [fonts](HDC, const FontVisitor& visit) {
+      for (int i = 0; i < fonts; ++i) {
+        const std::wstring name = L"Font " + std::to_wstring(i);
+        visit({name, 0, kTrueTypeFont, [] { return std::vector<uint8_t>(96); }});
+      }
+    };
+    return TimeOf([&] {
+      page.Create(parent.Window());
+      ShowAndPaint(page.Handle());
+    });
+  };
+  return Compare(
+      rounds, [&] { return timeWith(1000); }, [&] { return timeWith(100); });
 }
 
 size_t MemoryOfOpenSheet() {

@@ -9,5 +9,8 @@ Comparison BenchOpeningSheet(int rounds);
 // From the creation to the painted page: the graphic page, and a bare dialog of its template.
 Comparison BenchFirstShowOfGraphicPage(int rounds);
 
+// The same of the fonts page with a thousand fonts, and with a hundred.
+Comparison BenchFontsPage(int rounds);
+
 // Memory in use by one open sheet, in bytes of all heaps of the process.
 size_t MemoryOfOpenSheet();
