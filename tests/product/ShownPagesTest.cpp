@@ -64,7 +64,7 @@ class ShownPages : public testing::TestWithParam<TouchedValue> {
                    if (key) SendMessageW(GetFocus(), WM_KEYDOWN, key, 1);
                }
                if (click && GetParam().information)
-                 sheet.ExpectBox({.text = GetParam().information, .icon = MB_ICONINFORMATION});
+                 sheet.ExpectBox({.title = L"Host", .text = GetParam().information, .icon = MB_ICONINFORMATION});
                if (click) sheet.Control(GetParam().control).Click();
                sheet.Press(button);
              });
