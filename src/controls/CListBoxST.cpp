@@ -29,11 +29,12 @@ int TextWidth(HDC dc, const CUString& text) {
 
 // --- Rows -----------------------------------------------------------------------------------------------------------
 
-int CListBoxST::AddItem(const wchar_t* text, int image, int indent) {
+int CListBoxST::AddItem(const wchar_t* text, int image, int indent, uint32_t value) {
   const ULONG_PTR key = ++lastKey_;
   Record& record = records_[key];
   record.image = image;
   record.indent = indent;
+  record.value = value;
   const int row = AddString(text ? text : L"");
   if (row < 0)
     records_.erase(key);
@@ -45,9 +46,11 @@ int CListBoxST::AddItem(const wchar_t* text, int image, int indent) {
 bool CListBoxST::DeleteItem(int row) { return IsWindow() && Send(LB_DELETESTRING, static_cast<WPARAM>(row)) >= 0; }
 
 const CListBoxST::Record* CListBoxST::Find(int row) const {
-  if (row < 0 || row >= Count()) return nullptr;
+  if (row < 0 || !IsWindow()) return nullptr;
+  const LRESULT key = Send(LB_GETITEMDATA, static_cast<WPARAM>(row));
+  if (key == LB_ERR) return nullptr;  // no such row; no key is that high
   static const Record kPlain;
-  const auto found = records_.find(static_cast<ULONG_PTR>(Send(LB_GETITEMDATA, static_cast<WPARAM>(row))));
+  const auto found = records_.find(static_cast<ULONG_PTR>(key));
   return found == records_.end() ? &kPlain : &found->second;
 }
 

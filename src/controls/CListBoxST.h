@@ -23,8 +23,8 @@ class CListBoxST : public CSubclassed<CListBox> {
   // --- Rows ----------------------------------------------------------------------------------------------------------
 
   // Adds a row, sorted or at the end by the list's style. Gives its number, negative when it could not be added. -1
-  // stands for no picture.
-  int AddItem(const wchar_t* text, int image = -1, int indent = 0);
+  // stands for no picture. `value` is what SetItemData would give the row.
+  int AddItem(const wchar_t* text, int image = -1, int indent = 0, uint32_t value = 0);
   bool DeleteItem(int row);
 
   // What a row carries for its owner: a number and a pointer, which stays the owner's. The setters are false, and the

@@ -37,9 +37,8 @@ constexpr uint32_t kNames[] = {0, MSG_FONTS_NAME_DEVICE, MSG_FONTS_NAME_RESTRICT
 bool CFontListBox::LoadPictures() { return SetImages(kFontPictures, SecondHalf::Disabled); }
 
 int CFontListBox::AddFont(const wchar_t* name, FontPermission permission, int font) {
-  const int row = AddItem(name, static_cast<int>(permission));
-  if (row >= 0) SetItemData(row, static_cast<uint32_t>(font));
-  return row;
+  constexpr int kNoIndent = 0;
+  return AddItem(name, static_cast<int>(permission), kNoIndent, static_cast<uint32_t>(font));
 }
 
 std::vector<int> CFontListBox::SelectedRows() const {

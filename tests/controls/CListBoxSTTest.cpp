@@ -45,6 +45,14 @@ TEST(CListBoxST, KeepsWhatRowsCarry) {
   EXPECT_TRUE(test.list->IsItemEnabled(0));
 }
 
+TEST(CListBoxST, ANewRowMayCarryAValue) {
+  ListPage test;
+  test.list->AddItem(L"a", 1, 2, 42);
+  EXPECT_EQ(42u, test.list->ItemData(0));
+  EXPECT_EQ(1, test.list->ItemImage(0));
+  EXPECT_EQ(2, test.list->ItemIndent(0));
+}
+
 TEST(CListBoxST, KnowsNoRowsThatAreNotThere) {
   ListPage test;
   test.list->AddItem(L"a");
