@@ -21,6 +21,15 @@ class CockpitExchange {
       member = field;
   }
 
+  // The same with some bits of a set: the others stay as they are on both sides.
+  template <class T>
+  void Bits(T& member, std::type_identity_t<T>& field, std::type_identity_t<T> mask, bool fixed = false) const {
+    if (!IsToPage())
+      field = static_cast<T>((field & ~mask) | (member & mask));
+    else if (!fixed)
+      member = static_cast<T>((member & ~mask) | (field & mask));
+  }
+
  private:
   const Direction direction_;
 };

@@ -5,6 +5,11 @@
 #include "window/PasswordEdit.h"
 
 void CDataExchange::Fail(int controlId) {
+  FailAndGoOn(controlId);
+  ended_ = true;
+}
+
+void CDataExchange::FailAndGoOn(int controlId) {
   if (failed_) return;
   failed_ = true;
   failedControl_ = controlId;
@@ -44,6 +49,14 @@ void CDataExchange::Password(int id, CSecretText& value, int maximum) {
   if (!IsSaving()) return;
   value = edit.Text();
   value.CutTo(maximum);
+}
+
+void CDataExchange::Text(int id, CUString& value, int limit) {
+  if (IsLoading()) CEdit(dialog_.Item(id)).LimitText(limit);
+  Text(id, value);
+  if (!IsSaving() || value.Length() <= limit) return;
+  value = value.Left(limit);
+  FailAndGoOn(id);
 }
 
 void CDataExchange::MoveChoice(int id, const ValueRow* table, int32_t& value) {

@@ -1,8 +1,8 @@
 // One control exchange of a dialog, in either direction: loading fills the controls from the members, saving brings
 // the controls' contents back. The dialog's DoDataExchange names each control in one line that serves both.
 //
-// The first step that fails ends the exchange: the steps behind it do nothing, and the dialog puts the focus on the
-// control of the failed step.
+// The first step that fails ends the exchange, unless its line says otherwise: the steps behind it do nothing, and the
+// dialog puts the focus on the control of the failed step.
 #pragma once
 
 #include <optional>
@@ -17,12 +17,14 @@ class CDataExchange {
  public:
   CDataExchange(CWnd dialog, bool saving) : dialog_(dialog), saving_(saving) {}
 
-  bool IsSaving() const { return saving_ && !failed_; }
-  bool IsLoading() const { return !saving_ && !failed_; }
+  bool IsSaving() const { return saving_ && !ended_; }
+  bool IsLoading() const { return !saving_ && !ended_; }
   bool HasFailed() const { return failed_; }
   // The control that the user has to correct; 0 when none is named.
   int FailedControl() const { return failedControl_; }
   void Fail(int controlId);
+  // The exchange has failed all the same, but the steps behind this one are still done.
+  void FailAndGoOn(int controlId);
 
   // A check box and a member that is 0 or 1.
   template <class T>
@@ -37,6 +39,14 @@ class CDataExchange {
     bool shown = value == 0;
     Check(id, shown);
     if (IsSaving()) value = static_cast<T>(shown ? 0 : 1);
+  }
+
+  // A check box and a bit of a set; the other bits stay.
+  template <class T>
+  void CheckBit(int id, T& bits, std::type_identity_t<T> bit) {
+    T set = (bits & bit) != 0;
+    Check(id, set);
+    if (IsSaving()) bits = static_cast<T>(set ? bits | bit : bits & ~bit);
   }
 
   // The radio buttons `firstId` to `lastId` and a member that counts from 0 which of them is on. None on stores `none`
@@ -57,6 +67,10 @@ class CDataExchange {
   void Text(int id, CUString& value);
   // An edit and a password of at most `maximum` characters: none of its copies is left behind.
   void Password(int id, CSecretText& value, int maximum);
+
+  // An edit in which at most `limit` characters can be typed. Of a longer text, which a host may have given, saving
+  // takes what fits; then the exchange has failed and goes on.
+  void Text(int id, CUString& value, int limit);
 
   // The same with a decimal number. A text without a number counts as 0.
   template <class T>
@@ -93,6 +107,7 @@ class CDataExchange {
   CWnd dialog_;
   bool saving_;
   bool failed_ = false;
+  bool ended_ = false;  // failed, and nothing more is done
   int failedControl_ = 0;
 };
 

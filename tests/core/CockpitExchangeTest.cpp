@@ -35,6 +35,22 @@ TEST(CockpitExchange, TakesWhatIsNotFixed) {
   EXPECT_EQ(1, field);
 }
 
+TEST(CockpitExchange, BitsLeaveTheOthersAloneOnBothSides) {
+  for (const bool fixed : {false, true}) {
+    uint16_t member = 0b0101, field = 0b1010;
+    CockpitExchange(Direction::kToCockpit).Bits(member, field, 0b0011, fixed);
+    EXPECT_EQ(0b0101, member);
+    EXPECT_EQ(0b1001, field);
+  }
+  uint16_t member = 0b0101, fixed = 0b0101, field = 0b1010;
+  const CockpitExchange toPage(Direction::kToPage);
+  toPage.Bits(member, field, 0b0011);
+  toPage.Bits(fixed, field, 0b0011, true);
+  EXPECT_EQ(0b0110, member);
+  EXPECT_EQ(0b0101, fixed);
+  EXPECT_EQ(0b1010, field);
+}
+
 TEST(Override, StartsUnsetAsTheFieldsOfTheRecordDo) {
   const AdminSettings admin;
   EXPECT_FALSE(NumberOverride{admin.Colorspace_Override}.IsSet());

@@ -66,7 +66,39 @@ TEST_F(DataExchange, KnowsItsDirection) {
   EXPECT_EQ(0, saving.FailedControl());
 }
 
+TEST_F(DataExchange, AFailureMayLetTheExchangeGoOn) {
+  CDataExchange exchange = Saving();
+  exchange.FailAndGoOn(kEdit);
+  EXPECT_TRUE(exchange.HasFailed());
+  EXPECT_TRUE(exchange.IsSaving());
+  exchange.FailAndGoOn(kList);
+  exchange.Fail(kCheck);
+  EXPECT_FALSE(exchange.IsSaving());
+  EXPECT_EQ(kEdit, exchange.FailedControl()) << "the first one counts";
+}
+
 // --- Check boxes and radio buttons ---------------------------------------------------------------------------------
+
+TEST_F(DataExchange, CheckBitShowsAndStoresOneBitAlone) {
+  for (const uint16_t bits : {0b000, 0b010, 0b101, 0b111}) {
+    uint16_t member = bits;
+    CDataExchange loading = Loading();
+    loading.CheckBit(kCheck, member, 2);
+    EXPECT_EQ(bits & 2 ? BST_CHECKED : BST_UNCHECKED, CheckOf(kCheck)) << bits;
+    EXPECT_EQ(bits, member);
+    for (const int check : {BST_CHECKED, BST_UNCHECKED}) {
+      SetCheck(kCheck, check);
+      CDataExchange saving = Saving();
+      saving.CheckBit(kCheck, member, 2);
+      EXPECT_EQ(check == BST_CHECKED ? bits | 2 : bits & ~2, member) << bits;
+    }
+  }
+  CDataExchange ended = Saving();
+  ended.Fail(kEdit);
+  uint16_t member = 2;
+  ended.CheckBit(kCheck, member, 2);
+  EXPECT_EQ(2, member);
+}
 
 TEST_F(DataExchange, CheckShowsAnyValueButZeroAsOn) {
   for (const auto& [value, check] :
@@ -424,6 +456,35 @@ TEST_F(DataExchange, ControlsThatAreMissingReadAsOffAndEmpty) {
   EXPECT_EQ(0, check);
   EXPECT_EQ(L"", text);
   EXPECT_EQ(0, number);
+}
+
+// --- Texts with a limit --------------------------------------------------------------------------------------------
+
+TEST_F(DataExchange, TextWithALimitTakesNoMoreTyping) {
+  CUString member = L"abc";
+  CDataExchange exchange = Loading();
+  exchange.Text(kEdit, member, 5);
+  EXPECT_EQ(L"abc", TextOf(kEdit));
+  EXPECT_EQ(5, dialog_.Item(kEdit).Send(EM_GETLIMITTEXT));
+}
+
+TEST_F(DataExchange, TextWithALimitCutsWhatIsLongerFailsAndGoesOn) {
+  for (const auto& [text, taken, fails] :
+       {std::tuple{L"", L"", false}, {L"abcde", L"abcde", false}, {L"abcdef", L"abcde", true}}) {
+    CUString member = L"old", behind = L"old";
+    CDataExchange loading = Loading();
+    CUString longText = text;
+    loading.Text(kEdit, longText, 5);
+    EXPECT_EQ(text, TextOf(kEdit)) << "it is shown whole";
+    EXPECT_FALSE(loading.HasFailed());
+    CDataExchange saving = Saving();
+    saving.Text(kEdit, member, 5);
+    EXPECT_EQ(taken, member);
+    EXPECT_EQ(fails, saving.HasFailed());
+    EXPECT_EQ(fails ? kEdit : 0, saving.FailedControl());
+    saving.Text(kStatic, behind);
+    EXPECT_EQ(L"", behind) << "the exchange goes on";
+  }
 }
 
 }  // namespace
