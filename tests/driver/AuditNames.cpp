@@ -4,6 +4,7 @@
 #include <oleacc.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "driver/AuditedControl.h"
 #include "driver/DialogAudit.h"
@@ -65,12 +66,17 @@ bool Labels(const AuditedControl& label, const AuditedControl& field) {
 
 void CheckNames(const Controls& controls, Findings& findings) {
   const AuditedControl* previous = nullptr;
+  const AuditedControl* hidden = nullptr;  // a label for readers alone, behind the previous control
   for (const AuditedControl& control : controls) {
-    if (!control.visible) continue;
-    const AuditedControl* label = previous;
-    previous = &control;
+    if (!control.visible) {
+      hidden = control.kind == ControlKind::kLabel ? &control : nullptr;
+      continue;
+    }
+    const AuditedControl* label = std::exchange(previous, &control);
+    const AuditedControl* unseen = std::exchange(hidden, nullptr);
     if (!control.IsTabStop() || NamesItself(control)) continue;
     if (label && Labels(*label, control)) continue;
+    if (unseen && Labels(*unseen, control)) continue;
     if (!AccessibleName(control.window).empty()) continue;
     findings.push_back(Describe(control) + ": no label stands directly before it, and it answers with no name");
   }

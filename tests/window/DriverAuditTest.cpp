@@ -251,6 +251,20 @@ TEST_F(DriverAudit, FindsFieldsWithoutALabelDirectlyBeforeThem) {
   ExpectFinding(kExpected, EmptyPage().Add(L"Button", 1, At(7, 7, 20, 20), L"", kStop | BS_OWNERDRAW));
 }
 
+// A label may be hidden where a field's place alone tells the eye what it is for.
+TEST_F(DriverAudit, TakesAHiddenLabelDirectlyBeforeItsField) {
+  const auto page = [](int hiddenLabels) {
+    auto made = EmptyPage();
+    made.Add(L"Static", 1, At(7, 9, 40, 8), L"Name:").Add(L"Edit", 2, At(50, 7, 60, 14), L"", kStop);
+    for (int i = 0; i < hiddenLabels; ++i)
+      made.Add(L"Static", 3 + i, At(7, 27 + 60 * i, 40, 8), L"Second:", DialogTemplate::kHidden);
+    return made.Add(L"Edit", 5, At(50, 25, 60, 14), L"", kStop);
+  };
+  EXPECT_EQ(Findings(), Audit(page(1)));
+  ExpectFinding("5 Edit: no label", page(0));
+  ExpectFinding("5 Edit: no label", page(2));  // the nearest one stands elsewhere
+}
+
 // A control that answers WM_GETOBJECT has the name that it gives there.
 TEST_F(DriverAudit, TakesTheNameThatAControlAnswers) {
   const HMODULE library = LoadLibraryW(L"oleacc.dll");
