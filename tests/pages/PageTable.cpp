@@ -37,6 +37,13 @@ PropertyRow InvertedCheckBox(const std::wstring& property, int check) {
   return row;
 }
 
+PropertyRow CheckBoxOfBit(const std::wstring& property, int check, int32_t bit) {
+  PropertyRow row = Row(PropertyRow::Kind::kCheck, property, {check});
+  for (const int32_t value : {0, bit, ~bit, -1, 0x10000, 0x10000 | bit})
+    row.stored.push_back({value, value & bit ? L"on" : L"off", value});
+  return row;
+}
+
 PropertyRow Radios(const std::wstring& property, const std::vector<int>& radios, int32_t first) {
   PropertyRow row = Row(PropertyRow::Kind::kRadios, property, radios);
   for (int i = 0; i < static_cast<int>(radios.size()); ++i)

@@ -97,6 +97,8 @@ struct PropertyRow {
 PropertyRow Choice(const std::wstring& property, int combo, const std::vector<std::pair<std::wstring, int32_t>>& rows);
 PropertyRow CheckBox(const std::wstring& property, int check);
 PropertyRow InvertedCheckBox(const std::wstring& property, int check);
+// One bit of a set; the others stay.
+PropertyRow CheckBoxOfBit(const std::wstring& property, int check, int32_t bit);
 // The value counts the radios from `first`.
 PropertyRow Radios(const std::wstring& property, const std::vector<int>& radios, int32_t first = 0);
 // An edit or a combo with one. The cases are in Stores and Types.
