@@ -23,6 +23,13 @@ CUString JoinDestination(const CUString& directory, const CUString& file) {
   return endsInSeparator ? directory + file : directory + kBackslash + file;
 }
 
+std::optional<DestinationPath> SplitChosenFile(const CUString& path, const CUString& file) {
+  // A folder may have the same name: the last one is the file's.
+  const int position = path.ReverseFindStr(file);
+  if (file.IsEmpty() || position <= 0) return std::nullopt;
+  return DestinationPath{path.Left(position - 1), file};
+}
+
 bool IsValidPathText(WideView text, PathTextRule rule) {
   const std::wstring_view refused = rule == PathTextRule::Strict ? kStrictlyRefused : kRefused;
   // Only the low byte is compared, on purpose: U+013C is refused as "<" is, and U+0100 as a zero.

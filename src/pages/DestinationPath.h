@@ -2,6 +2,8 @@
 // good in them.
 #pragma once
 
+#include <optional>
+
 #include "DriverLIB/CEPathS.h"
 
 struct DestinationPath {
@@ -13,6 +15,10 @@ DestinationPath SplitDestination(const CUString& path);
 
 // The two as one path; a folder without a backslash at its end gets one.
 CUString JoinDestination(const CUString& directory, const CUString& file);
+
+// A path that the system's dialog has given with its file name: the folder comes without its last separator. Nothing
+// when the name does not stand behind one.
+std::optional<DestinationPath> SplitChosenFile(const CUString& path, const CUString& file);
 
 // What a text is for decides which characters it may hold.
 enum class PathTextRule {

@@ -2,6 +2,7 @@
 
 #include "cockpit/CNemUICockpitPage.h"
 #include "MessageIds.h"
+#include "pages/CNemUIActionPage.h"
 #include "pages/CNemUIColorsPage.h"
 #include "pages/CNemUIDocInfoPage.h"
 #include "pages/CNemUIFormatPage.h"
@@ -9,6 +10,7 @@
 #include "pages/CNemUIFormFieldsPage.h"
 #include "pages/CNemUIInfoPage.h"
 #include "pages/CNemUILangPage.h"
+#include "pages/CNemUIMailPage.h"
 #include "pages/CNemUINoDocSettingsPage.h"
 #include "pages/CNemUIPaperPage.h"
 #include "pages/CNemUIPdfAppearancePage.h"
@@ -17,6 +19,7 @@
 #include "pages/CNemUIPdfSecurityPage.h"
 #include "pages/CNemUIStatisticsPage.h"
 #include "pages/CNemUIUpdatePage.h"
+#include "pages/CNemUIProgramPage.h"
 #include "resources/ResourceIds.h"
 
 namespace {
@@ -60,6 +63,10 @@ constexpr PageCatalogueRow kPages[] = {
     {{IDD_LANGUAGE_PAGE, 0, MSG_PAGE_LANGUAGE, 107, 319, 318}, Make<CNemUILangPage>, nullptr},
     {{IDD_UPDATE_PAGE, 0, MSG_PAGE_UPDATE, 121, 328, 330}, Make<CNemUIUpdatePage>, nullptr},
     {{IDD_STATISTICS_PAGE, 0, MSG_PAGE_STATISTICS, 123, 257, 258}, Make<CNemUIStatisticsPage>, nullptr},
+    {{IDD_ACTION_PAGE, 0, MSG_PAGE_ACTIONS, 102, 237, 238}, Make<CNemUIActionPage>, kPlaceholder},
+    {{IDD_MAIL_PAGE, 0, MSG_PAGE_MAIL, 104, 243, 244}, Make<CNemUIMailPage>, kPlaceholder},
+    {{IDD_SAVING_PAGE, 0, MSG_PAGE_SAVING, 103, 255, 256}, Make<CNemUIProgramPage>, kPlaceholder},
+    {{IDD_INFO_PAGE, 0, MSG_PAGE_INFO, 106, 257, 258}, nullptr, kPlaceholder},
 };
 
 }  // namespace

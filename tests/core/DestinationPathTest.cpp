@@ -38,6 +38,26 @@ TEST(DestinationPath, ComesBackAsItWas) {
     EXPECT_EQ(Rejoined(path), path);
 }
 
+TEST(ChosenFile, IsFolderWithoutSeparatorAndName) {
+  const auto target = SplitChosenFile(LR"(C:\Out\a.pdf)", L"a.pdf");
+  ASSERT_TRUE(target);
+  EXPECT_EQ(target->directory, LR"(C:\Out)");
+  EXPECT_EQ(target->file, L"a.pdf");
+  EXPECT_EQ(SplitChosenFile(LR"(C:\a.pdf)", L"a.pdf")->directory, L"C:");
+  EXPECT_EQ(SplitChosenFile(LR"(\server\share\a.pdf)", L"a.pdf")->directory, LR"(\server\share)");
+}
+
+TEST(ChosenFile, AFolderOfTheSameNameIsNotTakenForTheFile) {
+  EXPECT_EQ(SplitChosenFile(LR"(C:\a.pdf\a.pdf)", L"a.pdf")->directory, LR"(C:\a.pdf)");
+}
+
+TEST(ChosenFile, TheNameHasToStandBehindAFolder) {
+  EXPECT_FALSE(SplitChosenFile(L"a.pdf", L"a.pdf"));
+  EXPECT_FALSE(SplitChosenFile(LR"(C:\Out\a.pdf)", L"b.pdf"));
+  EXPECT_FALSE(SplitChosenFile(LR"(C:\Out\a.pdf)", L""));
+  EXPECT_FALSE(SplitChosenFile(L"", L""));
+}
+
 TEST(PathText, AnEmptyOneIsValid) {
   EXPECT_TRUE(IsValidPathText(L"", PathTextRule::Strict));
   EXPECT_TRUE(IsValidPathText(nullptr, PathTextRule::Lenient));

@@ -337,6 +337,42 @@ constexpr KnownControl kKnownControls[] = {
     {185, 1356, L"Static", L""},
     {185, 1357, L"Static", L""},
     {185, IDOK, L"Button", L"OK"},
+    {145, 1038, L"ComboBox", L""},
+    {145, 1469, L"ComboBox", L""},
+    {145, 1031, L"Edit", L""},
+    {145, 1122, L"Static", L"Target folder:"},
+    {145, 1034, L"Edit", L""},
+    {145, 1124, L"Static", L"Filename:"},
+    {145, 1033, L"Button", L"Search"},
+    {145, 1030, L"ComboBox", L""},
+    {145, 1236, L"Static", L"If exists:"},
+    {145, 1163, L"Button", L"Add following characters to the e.pdf document name:"},
+    {145, 1035, L"Edit", L""},
+    {145, 1164, L"Static", L"Help: Wherefore I need these settings?"},
+    {145, 1081, L"Button", L"Save settings"},
+    {145, 1061, L"Button", L"&all applications use the same settings"},
+    {145, 1076, L"Button", L"the calling application currently running &manages the settings"},
+    {145, 1077, L"Button", L""},
+    {145, 1080, L"Static", L""},
+    {145, 1078, L"Button", L"stores the settings &permanently"},
+    {145, 1079, L"Button", L"&when the application is started, settings are retrieved from the printer setup"},
+    {145, IDC_SAVING_TYPE_LABEL, L"Static", L"Saving type:"},
+    {145, IDC_SAVING_LOCATION_LABEL, L"Static", L"Folder:"},
+    {143, 1007, L"Button", L""},
+    {143, 1083, L"Button", L"Start &program:"},
+    {143, 1085, L"Edit", L""},
+    {143, 1084, L"Button", L"&Browse"},
+    {143, 1086, L"Edit", L""},
+    {143, 1117, L"Static", L"Pa&rameters:"},
+    {143, 1140, L"Static", L"Help: What is an action?"},
+    {189, 1009, L"Button", L"Send by &e-mail"},
+    {189, 1011, L"Button", L"Send &immediately (no more dialog)"},
+    {189, 1035, L"Edit", L""},
+    {189, 1118, L"Static", L"&To:"},
+    {189, 1036, L"Edit", L""},
+    {189, 1119, L"Static", L"&Subject:"},
+    {189, 1039, L"Edit", L""},
+    {189, 1120, L"Static", L"&Message:"},
     {191, IDC_NO_DOC_SETTINGS_WHEN, L"Static",
      L"These settings are only available when generating a new PDF or e.pdf document."},
     {191, IDC_NO_DOC_SETTINGS_WHERE, L"Static",
@@ -486,4 +522,37 @@ TEST(PasswordConfirmationTemplate, TheMarksShareTheirPlaceAndAreHidden) {
               std::tuple(bad->x, bad->y, bad->width, bad->height));
     EXPECT_FALSE((good->style | bad->style) & WS_VISIBLE);
   }
+// What shows below the two radios is either for all hosts or for the add-in: they share their place.
+TEST(SavingPageTemplate, TheInstancesAndTheAddInShareTheirPlace) {
+  const Dialog dialog = ReadDialog(IDD_SAVING_PAGE, kEnglish);
+  const Control *instances = FindControl(dialog, 1077), *addIn = FindControl(dialog, 1080);
+  ASSERT_TRUE(instances && addIn);
+  EXPECT_EQ(std::tuple(instances->x, instances->y, instances->width, instances->height),
+            std::tuple(addIn->x, addIn->y, addIn->width, addIn->height));
+}
+
+// The second list has no caption: its label is for screen readers alone.
+TEST(SavingPageTemplate, TheLabelOfTheSecondListIsHidden) {
+  const Dialog dialog = ReadDialog(IDD_SAVING_PAGE, kEnglish);
+  const Control* label = FindControl(dialog, IDC_SAVING_LOCATION_LABEL);
+  ASSERT_TRUE(label);
+  EXPECT_FALSE(label->style & WS_VISIBLE);
+}
+
+TEST(SavingPageTemplate, TheRadiosAreGroupsOfTheirOwn) {
+  const std::vector<Control> controls = ReadDialog(IDD_SAVING_PAGE, kEnglish).controls;
+  const auto hasGroup = [&controls](DWORD id) {
+    const auto control = std::ranges::find(controls, id, &Control::id);
+    return control != controls.end() && (control->style & WS_GROUP);
+  };
+  for (const DWORD id : {1061, 1077, 1078, 1164}) EXPECT_TRUE(hasGroup(id)) << id;
+  for (const DWORD id : {1076, 1079}) EXPECT_FALSE(hasGroup(id)) << id;
+}
+
+// Enter begins a new line of the message in place of pressing the sheet's OK.
+TEST(MailPageTemplate, TheMessageHasLines) {
+  const Dialog dialog = ReadDialog(IDD_MAIL_PAGE, kEnglish);
+  const Control* note = FindControl(dialog, 1039);
+  ASSERT_TRUE(note);
+  EXPECT_EQ(DWORD{ES_MULTILINE | ES_WANTRETURN}, note->style & (ES_MULTILINE | ES_WANTRETURN));
 }

@@ -492,6 +492,21 @@ constexpr KnownText kKnownTexts[] = {
     {0xC0011B64, L"NEM pdf Extract:"},
     {0xC0011B66, L"NEM pdf Toolbox:"},
     {0xC0011B68, L"NEM pdf version info"},
+    {0xC0012904, L"Always ask for saving location"},
+    {0xC0012905, L"Save with document name"},
+    {0xC0012906, L"Save with predefined name"},
+    {0xC001290F, L"Use current directory"},
+    {0xC0012910, L"Use last directory"},
+    {0xC0012911, L"Use home directory"},
+    {0xC0012912, L"Use predefined directory"},
+    {0xC0012913, L"Use desktop"},
+    {0x400108E8, L"Give a warning / prompt for a different file name"},
+    {0x400108E9, L"Overwrite without prompting"},
+    {0x400108EA, L"Generate auto-numbered file names"},
+    {0x400108EB, L"Append to existing file"},
+    {0x400108EC, L"Insert into existing file at the very top"},
+    {0x40010802, L"for all &instances/sessions of the application (%1!s!) uniformly"},
+    {0x40010803, L"When using the NEM pdf vonder add-in: The application (%1!s!)"},
     {0xC0010FBE, L"No styles could be read from the document. Perhaps the document protection type is too high."},
     {0x4001086E,
      L"You can adjust the standard formats by pressing 'Edit'. Please press 'New' or 'Copy' to create a "
@@ -628,4 +643,28 @@ TEST(MessageTable, HasATextForEachErrorNumberThatIsKnownAndForNoOther) {
     if (id >> 16 == kErrorTexts) found.insert(id & 0xFFFF);
   EXPECT_EQ(known, found);
   for (const uint32_t silent : {1u, 118u}) EXPECT_FALSE(found.contains(silent)) << silent;
+}
+
+// A text that the library never shows: the components that start programs take it from here.
+TEST(MessageTable, HasTheTextOfAProgramThatCouldNotBeStarted) {
+  EXPECT_EQ(Text(MessageTable(kEnglish), 0xC001F084),
+            L"The program \"%1!s!\" with the parameters \"%2!s!\" could not be started.");
+}
+
+// The dialogs for files split them at the bars: name and pattern in turn, each pattern as it is in English.
+TEST(MessageTable, FiltersHaveTheirPatternsInEachLanguage) {
+  const auto patterns = [](std::wstring filter) {
+    std::vector<std::wstring> parts;
+    for (size_t bar; (bar = filter.find(L'|')) != std::wstring::npos; filter = filter.substr(bar + 1))
+      parts.push_back(filter.substr(0, bar));
+    parts.push_back(filter);
+    for (size_t i = 0; i < parts.size(); i += 2) parts[i] = parts[i].empty() ? L"" : L"name";
+    return parts;
+  };
+  for (const uint32_t id : {0x4001F0C4u, 0x4001F0C5u, 0x4001F082u, 0xC00002FBu}) {
+    const std::wstring english = Text(MessageTable(kEnglish), id);
+    ASSERT_NE(english.find(L'|'), std::wstring::npos) << std::hex << id;
+    for (const WORD language : kTranslations)
+      EXPECT_EQ(patterns(Text(MessageTable(language), id)), patterns(english)) << language << std::hex << " " << id;
+  }
 }

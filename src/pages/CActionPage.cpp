@@ -1,0 +1,82 @@
+#include "pages/CActionPage.h"
+
+#include "DriverLIB/MessageBoxes.h"
+#include "environment/FileDialog.h"
+#include "MessageIds.h"
+#include "pages/StartActions.h"
+#include "window/CActivationContext.h"
+
+namespace {
+
+// Characters.
+constexpr int kProgramLimit = 209;
+constexpr int kParametersLimit = 49;
+
+constexpr uint16_t kPrintOutputWithoutActions = 1;
+
+}  // namespace
+
+MessageTable CActionPage::Messages() const {
+  static constexpr MessageRow kMessages[] = {
+      OnClick<&CActionPage::OnProgramCheck>(IDC_ACTION_PROGRAM_CHECK),
+      OnClick<&CActionPage::OnBrowseProgram>(IDC_ACTION_BROWSE),
+  };
+  return kMessages;
+}
+
+void CActionPage::ExchangeCockpitValues(const CockpitExchange& exchange, ActionCockpitValues& values) {
+  exchange.Bits(startAction, values.startAction, kStartProgram, programCheckOverride.IsSet());
+  exchange.Bits(startAction, values.startAction, kStartViewer, viewerCheckOverride.IsSet());
+  exchange.Bits(startAction, values.startAction, kStartProgramBefore);
+}
+
+BOOL CActionPage::OnInitDialog() {
+  Item(IDC_ACTION_VIEWER).SetText(MessageText(MSG_ACTION_VIEWER).Text());
+  return CTrackedPage::OnInitDialog();
+}
+
+void CActionPage::DoDataExchange(CDataExchange& exchange) {
+  if (exchange.IsSaving() && !ValidateProgram(exchange)) return;
+  exchange.CheckBit(IDC_ACTION_VIEWER, startAction, kStartViewer);
+  exchange.CheckBit(IDC_ACTION_PROGRAM_CHECK, startAction, kStartProgram);
+  exchange.Text(IDC_ACTION_PROGRAM, startProgram, kProgramLimit);
+  exchange.Text(IDC_ACTION_PARAMETERS, startProgramParameters, kParametersLimit);
+  if (exchange.IsLoading()) UpdateControls();
+}
+
+// A program that is to be started and can be named has to be named.
+bool CActionPage::ValidateProgram(CDataExchange& exchange) {
+  const CWnd program = Item(IDC_ACTION_PROGRAM);
+  if (!program.IsEnabled() || !::IsWindowVisible(program.Handle()) || !program.Text().IsEmpty()) return true;
+  MsgBoxById(window_, GetMsgBoxTitle().Text(), MSG_ACTION_INVALID_PROGRAM, MB_OK | MB_ICONEXCLAMATION);
+  exchange.Fail(IDC_ACTION_PROGRAM);
+  return false;
+}
+
+void CActionPage::OnBrowseProgram() {
+  const CActivationScope look;
+  const auto chosen = AskForFileToOpen(window_, {.filter = MessageText(MSG_ACTION_PROGRAM_FILTER),
+                                                 .pathRoom = kProgramLimit + 1,
+                                                 .startName = Item(IDC_ACTION_PROGRAM).Text()});
+  if (chosen) Item(IDC_ACTION_PROGRAM).SetText(chosen->path.Text());
+}
+
+void CActionPage::UpdateControls() {
+  if (globalTab) EnableAllControls(true);
+  ApplyViewerOverride();
+  OnProgramCheck();
+  Lock(printOutput & kPrintOutputWithoutActions,
+       {IDC_ACTION_VIEWER, IDC_ACTION_PROGRAM_CHECK, IDC_ACTION_BROWSE, IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS_LABEL,
+        IDC_ACTION_PARAMETERS});
+  if (!globalTab) EnableAllControls(false);
+}
+
+void CActionPage::ApplyViewerOverride() { Lock(viewerCheckOverride.IsSet(), {IDC_ACTION_VIEWER}); }
+
+void CActionPage::OnProgramCheck() {
+  const bool on = CButton(Item(IDC_ACTION_PROGRAM_CHECK)).IsChecked() && !programCheckOverride.IsSet();
+  for (const int id : {IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS, IDC_ACTION_BROWSE}) Item(id).Enable(on);
+  Lock(programCheckOverride.IsSet(), {IDC_ACTION_PROGRAM_CHECK});
+  Lock(programOverride.IsSet(), {IDC_ACTION_BROWSE, IDC_ACTION_PROGRAM});
+  Lock(parametersOverride.IsSet(), {IDC_ACTION_PARAMETERS});
+}

@@ -1,0 +1,26 @@
+#include "pages/CNemUIActionPage.h"
+
+#include "pages/StartActions.h"
+
+auto CNemUIActionPage::Bindings() const -> BindingTable {
+  static constexpr Binding kBindings[] = {
+      BindReadOnly<&CActionPage::printOutput, &CDialogProperties::PrintOutput>(),
+      Bind<&CActionPage::startProgram, &CDialogProperties::StartProgram>(),
+      Bind<&CActionPage::startProgramParameters, &CDialogProperties::StartProgramParameters>(),
+      BindOverride<&CActionPage::viewerCheckOverride, &AdminSettings::StartActionViewerCheck_Override>(),
+      BindOverride<&CActionPage::programCheckOverride, &AdminSettings::StartActionProgramCheck_Override>(),
+      BindOverride<&CActionPage::programOverride, &AdminSettings::StartActionProgram_Override>(),
+      BindOverride<&CActionPage::parametersOverride, &AdminSettings::StartActionProgramParameters_Override>(),
+  };
+  return kBindings;
+}
+
+void CNemUIActionPage::OnPropertiesRead() {
+  globalTab = SettingsIndex() == 0;
+  startAction = static_cast<uint16_t>(StartActionProperty().GetLong() & kActionPageBits);
+}
+
+void CNemUIActionPage::OnPropertiesWritten() {
+  CProperty& property = StartActionProperty();
+  property.SetLong(WithStartActions(property.GetLong(), kActionPageBits, startAction));
+}

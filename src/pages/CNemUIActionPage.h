@@ -1,0 +1,17 @@
+#pragma once
+
+#include "pages/CActionPage.h"
+#include "sheet/CNemUISettingsPage.h"
+
+class CNemUIActionPage : public CNemUISettingsPage<CActionPage> {
+ public:
+  using CNemUISettingsPage::CNemUISettingsPage;
+
+ protected:
+  BindingTable Bindings() const override;
+  void OnPropertiesRead() override;
+  void OnPropertiesWritten() override;
+
+ private:
+  CProperty& StartActionProperty() const { return Sheet()->Properties().StartAction[SettingsIndex()]; }
+};

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "pages/CMailPage.h"
+#include "sheet/CNemUISettingsPage.h"
+
+class CNemUIMailPage : public CNemUISettingsPage<CMailPage> {
+ public:
+  using CNemUISettingsPage::CNemUISettingsPage;
+
+ protected:
+  BindingTable Bindings() const override;
+  void OnPropertiesRead() override;
+  void OnPropertiesWritten() override;
+
+ private:
+  CProperty& StartActionProperty() const { return Sheet()->Properties().StartAction[SettingsIndex()]; }
+};
