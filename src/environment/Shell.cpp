@@ -13,10 +13,10 @@ Function* ShellFunction(const char* name) {
 
 }  // namespace
 
-bool OpenWithShell(HWND owner, const wchar_t* target, int show) {
+bool OpenWithShell(HWND owner, const wchar_t* target, int show, const wchar_t* verb) {
   static const auto execute = ShellFunction<decltype(::ShellExecuteW)>("ShellExecuteW");
   if (!execute) return false;
-  return reinterpret_cast<INT_PTR>(execute(owner, L"open", target, nullptr, nullptr, show)) >= kShellErrorLimit;
+  return reinterpret_cast<INT_PTR>(execute(owner, verb, target, nullptr, nullptr, show)) >= kShellErrorLimit;
 }
 
 bool ExecuteShell(SHELLEXECUTEINFOW& info) {

@@ -22,6 +22,23 @@ CUString CComboBox::RowText(int row) const { return TextOfRow(*this, CB_GETLBTEX
 
 CUString CListBox::RowText(int row) const { return TextOfRow(*this, LB_GETTEXTLEN, LB_GETTEXT, row); }
 
+std::vector<int> CListBox::SelectedRows() const {
+  std::vector<int> rows(static_cast<size_t>(std::max<LRESULT>(Send(LB_GETSELCOUNT), 0)));
+  rows.resize(static_cast<size_t>(
+      std::max<LRESULT>(Send(LB_GETSELITEMS, rows.size(), reinterpret_cast<LPARAM>(rows.data())), 0)));
+  return rows;
+}
+
+int CListBox::RowAt(POINT point) const {
+  // The answer is the nearest row, which need not be under the point.
+  const int row = LOWORD(Send(LB_ITEMFROMPOINT, 0, MAKELPARAM(point.x, point.y)));
+  const RECT client = ClientRect();
+  RECT rect{};
+  const bool found =
+      row < Count() && Send(LB_GETITEMRECT, static_cast<WPARAM>(row), reinterpret_cast<LPARAM>(&rect)) >= 0;
+  return found && ::PtInRect(&rect, point) && ::PtInRect(&client, point) ? row : -1;
+}
+
 void CScrollBar::SetRange(int minimum, int maximum, int page) const {
   SCROLLINFO info{};
   info.cbSize = sizeof info;

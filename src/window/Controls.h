@@ -1,6 +1,8 @@
 // The plain control views: a handle as a value with the control's own operations. They own nothing.
 #pragma once
 
+#include <vector>
+
 #include "window/CWnd.h"
 
 class CStatic : public CWnd {
@@ -65,6 +67,10 @@ class CListBox : public CWnd {
   int Selection() const { return static_cast<int>(Send(LB_GETCURSEL)); }
   void Select(int row) const { Send(LB_SETCURSEL, static_cast<WPARAM>(row)); }
   void Delete(int row) const { Send(LB_DELETESTRING, static_cast<WPARAM>(row)); }
+  // Of a list in which several rows can be selected.
+  std::vector<int> SelectedRows() const;
+  // The row at a point in client coordinates; -1 outside of all rows.
+  int RowAt(POINT point) const;
   CUString RowText(int row) const;
 };
 
