@@ -3,6 +3,7 @@
 #pragma once
 
 #include <span>
+#include <type_traits>
 
 #include "sheet/CNemUIPage.h"
 #include "sheet/PropertyBinding.h"
@@ -51,6 +52,20 @@ class CNemUISettingsPage : public Logic {
   // What the table cannot say; both run with a sheet.
   virtual void OnPropertiesRead() {}
   virtual void OnPropertiesWritten() {}
+
+  // Another page sets a value of this one: the member, and its control; or the property while the page has not read
+  // the member yet, which then is Logic::kNotRead.
+  template <auto Member, auto Property>
+  void TakeValue(int value) {
+    if (!sheet_) return;
+    auto& member = this->*Member;
+    if (!this->IsLoaded() || member == Logic::kNotRead) {
+      (sheet_->Properties().*Property)[settingsIndex_].SetLong(value);
+      return;
+    }
+    member = static_cast<std::remove_reference_t<decltype(member)>>(value);
+    if (this->IsWindow()) this->UpdateData(false);
+  }
 
   SheetServices* Sheet() const { return sheet_; }
   int SettingsIndex() const { return settingsIndex_; }
