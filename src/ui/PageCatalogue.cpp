@@ -3,6 +3,7 @@
 #include "cockpit/CNemUICockpitPage.h"
 #include "MessageIds.h"
 #include "pages/CNemUIActionPage.h"
+#include "pages/CNemUIAttachmentsPage.h"
 #include "pages/CNemUIColorsPage.h"
 #include "pages/CNemUIDocInfoPage.h"
 #include "pages/CNemUIFormatPage.h"
@@ -11,6 +12,7 @@
 #include "pages/CNemUIInfoPage.h"
 #include "pages/CNemUILangPage.h"
 #include "pages/CNemUIMailPage.h"
+#include "pages/CNemUILinksPage.h"
 #include "pages/CNemUINoDocSettingsPage.h"
 #include "pages/CNemUIPaperPage.h"
 #include "pages/CNemUIPdfAppearancePage.h"
@@ -20,6 +22,7 @@
 #include "pages/CNemUIStatisticsPage.h"
 #include "pages/CNemUIUpdatePage.h"
 #include "pages/CNemUIProgramPage.h"
+#include "pages/CNemUIZugferdPage.h"
 #include "resources/ResourceIds.h"
 
 namespace {
@@ -51,6 +54,11 @@ constexpr PageCatalogueRow kPages[] = {
      Make<CNemUIFormFieldsColorPage>,
      Make<CNemUIFormFieldsColorPage>},
     {{IDD_FONTS_PAGE, 0, MSG_PAGE_FONTS, 110, 269, 271}, Make<CNemUIPdfFontsPage>, Make<CNemUIPdfFontsPage>},
+    {{IDD_LINKS_PAGE, 0, MSG_PAGE_LINKS, 113, 261, 262}, Make<CNemUILinksPage>, Make<CNemUILinksPage>},
+    {{IDD_ATTACHMENTS_PAGE, 0, MSG_PAGE_ATTACHMENTS, 114, 343, 344},
+     Make<CNemUIAttachmentsPage>,
+     Make<CNemUIAttachmentsPage>},
+    {{IDD_ZUGFERD_PAGE, 0, MSG_PAGE_ZUGFERD_INVOICE, 112, 245, 246}, Make<CNemUIZugferdPage>, Make<CNemUIZugferdPage>},
     {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
     {{IDD_COCKPIT_PAGE, 0, MSG_PAGE_COCKPIT, 120, 321, 322}, Make<CNemUICockpitPage>, Make<CNemUICockpitPage>},
     {{IDD_DOCUMENT_INFO_PAGE, 0, MSG_PAGE_DOCUMENT_INFO, 105, 241, 242},

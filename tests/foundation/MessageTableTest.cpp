@@ -215,6 +215,8 @@ TEST(MessageTable, TranslationsDifferFromTheEnglishText) {
       {L"NEM pdf ShellExt:", {kGerman}},
       {L"NEM pdf Extract:", {kGerman}},
       {L"NEM pdf Toolbox:", {kGerman}},
+      {L"ZUGFeRDBuyerName", {kGerman, kFrench, kArabic}},
+      {L"ZUGFeRDTaxPercent", {kGerman, kFrench, kArabic}},
   };
   const auto isSame = [&same](const std::wstring& text, WORD language) {
     return std::ranges::any_of(same,
@@ -517,6 +519,11 @@ constexpr KnownText kKnownTexts[] = {
     {0x40010867,
      L"'%1!s!' is not a valid name. Please choose a nonempty string, which contains none of following characters "
      L"',;.:{}()'"},
+    {0x400109EC, L"NEVER confirm embedding of file attachments"},
+    {0x400109ED, L"ALWAYS confirm embedding of file attachments"},
+    {0x400109EE, L"only confirm missing file attachments"},
+    {0xC0012B02, L"ZUGFeRDBuyerName"},
+    {0xC0012B25, L"ZUGFeRDTaxPercent"},
     {0x400109E2, L"No Border"},
     {0x400109E3, L"Underlined"},
     {0x400109E4, L"Rectangle"},

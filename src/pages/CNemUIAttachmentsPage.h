@@ -1,0 +1,17 @@
+#pragma once
+
+#include "pages/CAttachmentsPage.h"
+#include "sheet/CNemUISettingsPage.h"
+
+class CNemUIAttachmentsPage : public CNemUISettingsPage<CAttachmentsPage> {
+ public:
+  using CNemUISettingsPage::CNemUISettingsPage;
+
+  void SetEmbedFilenamesEnabled(int value) override;
+
+ protected:
+  BindingTable Bindings() const override;
+  void OnPropertiesRead() override;
+  void OnPropertiesWritten() override;
+  void DoDataExchange(CDataExchange& exchange) override;
+};
