@@ -43,6 +43,8 @@ constexpr TouchedValue kValues[] = {
     {102, L"StartAction", 18, 18, IDC_ACTION_VIEWER, 19, true},
     {104, L"StartAction", 17, 17, IDC_MAIL_SEND, 19, true},
     {103, L"RegistryDevmode", 7, 3, IDC_SAVING_INSTANCES, 1, true},
+    {113, L"UseHyperlinkRecognition", 7, 1, IDC_LINKS_RECOGNIZE, 0},
+    {114, L"EmbedFilenamesEnabled", 7, 0, IDC_ATTACHMENTS_USE, 0},  // there is no file
 };
 
 class ShownPages : public testing::TestWithParam<TouchedValue> {
