@@ -62,13 +62,13 @@ void CActionPage::OnBrowseProgram() {
 }
 
 void CActionPage::UpdateControls() {
-  if (globalTab) EnableAllControls(true);
+  if (globalTab) EnableAll(true);
   ApplyViewerOverride();
   OnProgramCheck();
   Lock(printOutput & kPrintOutputWithoutActions,
        {IDC_ACTION_VIEWER, IDC_ACTION_PROGRAM_CHECK, IDC_ACTION_BROWSE, IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS_LABEL,
         IDC_ACTION_PARAMETERS});
-  if (!globalTab) EnableAllControls(false);
+  if (!globalTab) EnableAll(false);
 }
 
 void CActionPage::ApplyViewerOverride() { Lock(viewerCheckOverride.IsSet(), {IDC_ACTION_VIEWER}); }

@@ -29,12 +29,12 @@ void CMailPage::DoDataExchange(CDataExchange& exchange) {
 }
 
 void CMailPage::UpdateControls() {
-  if (globalTab) EnableAllControls(true);
+  if (globalTab) EnableAll(true);
   OnMailCheck();
   Lock(printOutput & kPrintOutputWithoutMail,
        {IDC_MAIL_SEND, IDC_MAIL_IMMEDIATELY, IDC_MAIL_RECIPIENT_LABEL, IDC_MAIL_SUBJECT_LABEL, IDC_MAIL_NOTE_LABEL,
         IDC_MAIL_RECIPIENT, IDC_MAIL_SUBJECT, IDC_MAIL_NOTE});
-  if (!globalTab) EnableAllControls(false);
+  if (!globalTab) EnableAll(false);
   ApplyOverrides();
 }
 

@@ -241,7 +241,7 @@ void CProgramPage::OnInstancesClicked() {
 }
 
 void CProgramPage::UpdateControls() {
-  if (globalTab) EnableAllControls(true);
+  if (globalTab) EnableAll(true);
   OnTargetChanged();
   UpdateSettingsScope();
   OnSuffixClicked();
@@ -251,7 +251,7 @@ void CProgramPage::UpdateControls() {
        {IDC_SAVING_TYPE, IDC_SAVING_LOCATION, IDC_SAVING_FOLDER_LABEL, IDC_SAVING_FOLDER, IDC_SAVING_FILE_LABEL,
         IDC_SAVING_FILE, IDC_SAVING_BROWSE, IDC_SAVING_FILE_EXISTS_LABEL, IDC_SAVING_FILE_EXISTS,
         IDC_SAVING_SUFFIX_CHECK, IDC_SAVING_SUFFIX});
-  if (!globalTab) EnableAllControls(false);
+  if (!globalTab) EnableAll(false);
   UpdateSettingsVisibility();
   ApplyOverrides();
 }
