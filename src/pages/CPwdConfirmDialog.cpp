@@ -56,8 +56,7 @@ BOOL CPwdConfirmDialog::OnInitDialog() {
 
 void CPwdConfirmDialog::DoDataExchange(CDataExchange& exchange) {
   exchange.Check(IDC_CONFIRM_VISIBLE, passwordsVisible_);
-  for (const PasswordKind kind : kPasswordKinds)
-    exchange.Password(kPasswords[kind].editId, typed_[kind], kLongestPassword);
+  for (const PasswordKind kind : kPasswordKinds) exchange.Password(kPasswords[kind].editId, typed_[kind]);
   if (!exchange.IsSaving()) return;
   for (const PasswordKind kind : kPasswordKinds) {
     if (typed_[kind] == expected[kind]) continue;

@@ -65,8 +65,8 @@ class CDataExchange {
 
   // An edit, a static or a combo's edit field, and a text.
   void Text(int id, CUString& value);
-  // An edit and a password of at most `maximum` characters: none of its copies is left behind.
-  void Password(int id, CSecretText& value, int maximum);
+  // An edit and a password, of which saving takes at most `maximum` characters: none of its copies is left behind.
+  void Password(int id, CSecretText& value, int maximum = CUString::kMaxLength);
 
   // An edit in which at most `limit` characters can be typed. Of a longer text, which a host may have given, saving
   // takes what fits; then the exchange has failed and goes on.

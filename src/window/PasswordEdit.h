@@ -5,7 +5,7 @@
 #include "window/Controls.h"
 
 // Shows the text itself, or an asterisk for each character. While it is hidden the platform hands the text to no screen
-// reader and no clipboard. The template gives such an edit ES_PASSWORD, so that it is hidden from its first moment.
+// reader. The template gives such an edit ES_PASSWORD, so that it is hidden from its first moment.
 void ShowPassword(const CEdit& edit, bool visible);
 
 // Sets the text in place of an earlier one, of which nothing is left.

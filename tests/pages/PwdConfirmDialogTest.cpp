@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "driver/ControlRef.h"
+#include "driver/DialogAudit.h"
 #include "driver/Popups.h"
 #include "driver/Text.h"
 #include "resources/ResourceIds.h"
@@ -11,6 +12,8 @@
 #include "support/HelpSpy.h"
 
 namespace {
+
+constexpr uint16_t kGerman = 0x0407, kFrench = 0x040C, kArabic = 0x0401;
 
 constexpr wchar_t kCaption[] = L"NEM pdf AddIn UI";
 constexpr int kEdits[] = {1003, 1005, 1007};
@@ -133,6 +136,17 @@ TEST_F(PwdConfirmDialog, OkRefusesAnyOtherAndStays) {
   EXPECT_EQ(4u, popups_.Boxes().size());
 }
 
+TEST_F(PwdConfirmDialog, OneCharacterTooManyIsWrong) {
+  const std::wstring longest(31, L'x');
+  EXPECT_EQ(IDCANCEL, Run({longest.c_str()}, [&](HWND dialog) {
+              Control(dialog, 1003).SetText(longest + L"x");
+              EXPECT_EQ(kBadMark, Marks(dialog, 0));
+              ExpectRefusal();
+              Press(dialog, IDOK);
+              Press(dialog, IDCANCEL);
+            }));
+}
+
 TEST_F(PwdConfirmDialog, PasswordsAreShownOnDemand) {
   Run({L"one", L"two", L"three"}, [&](HWND dialog) {
     for (const wchar_t character : {L'\0', L'*'}) {
@@ -166,6 +180,19 @@ TEST_F(PwdConfirmDialog, AHelpFileThatCannotBeOpenedIsTold) {
     Press(dialog, IDHELP);
     Press(dialog, IDCANCEL);
   });
+}
+
+// The size is that of the template, and each text has room.
+TEST_F(PwdConfirmDialog, IsSoundInEachLanguage) {
+  for (const uint16_t language : {kEnglish, kGerman, kFrench, kArabic}) {
+    const LanguageScope scope(language);
+    Run({L"one", L"two", L"three"}, [&](HWND dialog) {
+      const AuditOptions options{
+          .mirrored = language == kArabic, .dpi = static_cast<int>(GetDpiForWindow(dialog)), .size = {290, 139}};
+      for (const std::string& finding : AuditPage(dialog, options)) ADD_FAILURE() << language << ' ' << finding;
+      Press(dialog, IDCANCEL);
+    });
+  }
 }
 
 }  // namespace

@@ -134,18 +134,18 @@ class SessionTrace : public testing::Test {
     for (const ExpectedBox& box : boxes) driver.ExpectBox(box);
     const SheetResult result = driver.Run([&] { return host.DoModal(); },
                                           [](Sheet& sheet) -> SheetTask {
-                                            bool shown = sheet.SelectPage(kSecurityPage);
+                                            bool shown = false;
+                                            co_await ClickPage(sheet, kGraphicPage, shown);
                                             CO_ASSERT_TRUE(shown);
+                                            sheet.PressHelp();
+                                            co_await sheet.Settled();
+                                            CO_ASSERT_TRUE(sheet.SelectPage(kSecurityPage));
                                             co_await sheet.Settled();
                                             sheet.Control(kOwnerSwitch).Click();
                                             sheet.ExpectDialog([](HWND confirmation) {
                                               SetDlgItemTextW(confirmation, kOwnerPassword, kPassword);
                                               SendMessageW(confirmation, WM_COMMAND, IDOK, 0);
                                             });
-                                            co_await ClickPage(sheet, kGraphicPage, shown);
-                                            CO_ASSERT_TRUE(shown);
-                                            sheet.PressHelp();
-                                            co_await sheet.Settled();
                                             sheet.PressOk();
                                           });
     EXPECT_EQ(1, result.value);

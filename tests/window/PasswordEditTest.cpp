@@ -56,7 +56,7 @@ TEST_F(PasswordEdit, IsPaintedAnewWhenItIsShown) {
   EXPECT_TRUE(GetUpdateRect(Edit().Handle(), nullptr, FALSE));
 }
 
-// Whether the platform hands a reader the text; `answers` says whether it hands out anything.
+// Whether the platform hands a screen reader the text, and whether it calls it protected.
 bool ReaderSees(HWND edit, const std::wstring& text, bool* isProtected) {
   IAccessible* object = nullptr;
   const auto find = SystemFunction<decltype(::AccessibleObjectFromWindow)>(L"oleacc.dll", "AccessibleObjectFromWindow");
@@ -86,20 +86,6 @@ TEST_F(PasswordEdit, GivesItsTextToNoReaderWhileItIsHidden) {
   EXPECT_FALSE(isProtected);
   ShowPassword(Edit(), false);
   EXPECT_FALSE(ReaderSees(Edit().Handle(), L"swordfish", &isProtected));
-}
-
-TEST_F(PasswordEdit, GivesItsTextToNoClipboardWhileItIsHidden) {
-  ASSERT_TRUE(OpenClipboard(parent_));
-  EmptyClipboard();
-  CloseClipboard();
-  ShowPassword(Edit(), false);
-  SetPassword(Edit(), Secret(L"swordfish"));
-  Edit().SelectAll();
-  Edit().Send(WM_COPY);
-  EXPECT_FALSE(IsClipboardFormatAvailable(CF_UNICODETEXT));
-  Edit().Send(WM_CUT);
-  EXPECT_FALSE(IsClipboardFormatAvailable(CF_UNICODETEXT));
-  EXPECT_EQ(L"swordfish", Edit().Text());
 }
 
 TEST_F(PasswordEdit, TakesAPasswordOfAnyLength) {
