@@ -5,8 +5,6 @@
 
 constexpr wchar_t kComponentName[] = L"NEM pdf AddIn UI";
 constexpr wchar_t kVersionText[] = L"2.10.4 M7";
-// The same as the user reads it.
-constexpr wchar_t kProductVersion[] = L"2.10.4";
 // One byte major version, one byte minor version whose hexadecimal digits are read as decimal ones, 16 bits patch
 // level.
 constexpr uint32_t kVersionNumber = 0x2100004;
