@@ -10,6 +10,7 @@ struct WindowThreadState {
   void* creating = nullptr;      // the object that waits for its window, which the creation hook attaches
   void* creationHook = nullptr;  // the hook's handle (HHOOK) while it is set
   void* running = nullptr;       // the object whose modal loop runs
+  void* modeless = nullptr;      // the newest open modeless dialog, which knows the one before it
   uint32_t messageBoxCount = 0;  // boxes shown or diverted so far
   uintptr_t data[4] = {};        // free
 };

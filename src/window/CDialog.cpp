@@ -197,6 +197,8 @@ INT_PTR CDialog::Process(HWND window, UINT message, WPARAM wParam, LPARAM lParam
   }
   WindowMessage current{window, message, wParam, lParam};
   if (self->IsFilling() && IsChangeNotification(current)) return TRUE;
+  if (message == WM_COMMAND && HIWORD(wParam) == BN_CLICKED && self->PostponesCommands())
+    return ::PostMessageW(window, message, wParam, lParam);
   // The handler may end the dialog and its object: nothing of it is touched afterwards.
   if (!Reflect(current) && !GuardMessage("CDialog", *self, current)) return FALSE;
   if (AnswersDirectly(message)) return current.result;

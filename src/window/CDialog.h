@@ -38,6 +38,8 @@ class CDialog : public CWnd, public CMessageTarget {
   // OK and Cancel of a modal dialog: OK saves and ends it, unless the exchange fails.
   virtual void OnOK();
   virtual void OnCancel();
+  // A command is to wait until the message that is being handled has been dealt with: it is posted again.
+  virtual bool PostponesCommands() const { return false; }
   // F1, or the dialog's own help control. False leaves it to the parent.
   virtual bool OnHelpInfo(const HELPINFO&) { return false; }
 

@@ -16,3 +16,7 @@ IntPoint PlaceCentered(int width, int height, const IntRect& reference, const In
   return {Center(width, reference.left, reference.right, area.left, area.right),
           Center(height, reference.top, reference.bottom, area.top, area.bottom)};
 }
+
+int PlaceBeside(int width, const IntRect& reference, const IntRect& area) {
+  return reference.right + width > area.right ? reference.left - width : reference.right;
+}

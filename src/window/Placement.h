@@ -18,3 +18,7 @@ struct IntPoint {
 // Where a window of the given size stands when it is centred on `reference` and kept inside `area`. A window that is
 // larger than the area begins at the area's left and top edge and ends outside it.
 IntPoint PlaceCentered(int width, int height, const IntRect& reference, const IntRect& area);
+
+// Where the left edge of a window of this width stands beside `reference`: at its right edge, or, when the window would
+// pass the right edge of `area` there, with its own right edge at the left one.
+int PlaceBeside(int width, const IntRect& reference, const IntRect& area);

@@ -54,4 +54,10 @@ TEST(Placement, RectanglesTellTheirSize) {
   EXPECT_EQ(20, rect.Height());
 }
 
+TEST(PlaceBeside, StandsAtTheRightWhereThereIsRoomElseAtTheLeft) {
+  EXPECT_EQ(400, PlaceBeside(600, {200, 100, 400, 300}, kArea)) << "up to the area's edge";
+  EXPECT_EQ(-401, PlaceBeside(601, {200, 100, 400, 300}, kArea)) << "also where the left has no room";
+  EXPECT_EQ(500, PlaceBeside(300, {800, 0, 1000, 10}, kArea));
+}
+
 }  // namespace
