@@ -28,11 +28,12 @@ class CModelessDialog : public CDialog {
   // that opens windows by itself.
   void UpdateLock();
 
+  // There is something to finish.
+  virtual bool IsModified() const = 0;
+
  protected:
   ~CModelessDialog() override;
 
-  // There is something to finish.
-  virtual bool IsModified() const = 0;
   // Enter where no button is the default one; Esc, the close box and the system menu.
   void OnOK() override {}
   void OnCancel() override {}
