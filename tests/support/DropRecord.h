@@ -32,3 +32,8 @@ inline void DropOn(HWND page, int controlId, const std::vector<std::wstring>& pa
   const POINT middle{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
   SendMessageW(page, WM_DROPFILES, reinterpret_cast<WPARAM>(MakeDropRecord(middle, paths)), 0);
 }
+
+// Lets files fall on a point of the window's client area.
+inline void DropFiles(HWND window, POINT point, const std::vector<std::wstring>& paths) {
+  SendMessageW(window, WM_DROPFILES, reinterpret_cast<WPARAM>(MakeDropRecord(point, paths)), 0);
+}
