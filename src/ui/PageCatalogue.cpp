@@ -23,6 +23,7 @@
 #include "pages/CNemUIUpdatePage.h"
 #include "pages/CNemUIProgramPage.h"
 #include "pages/CNemUIZugferdPage.h"
+#include "pages/CNemUIWatermarkPage.h"
 #include "resources/ResourceIds.h"
 
 namespace {
@@ -45,6 +46,7 @@ constexpr PageCatalogueRow kPages[] = {
     {{IDD_APPEARANCE_PAGE, 0, MSG_PAGE_DISPLAY, 109, 235, 236},
      Make<CNemUIPdfAppearancePage>,
      Make<CNemUIPdfAppearancePage>},
+    {{IDD_WATERMARK_PAGE, 0, MSG_PAGE_WATERMARK, 101, 233, 234}, Make<CNemUIWatermarkPage>, Make<CNemUIWatermarkPage>},
     {{IDD_COLORSPACE_PAGE, 0, MSG_PAGE_COLORSPACE, 111, 239, 240}, Make<CNemUIColorsPage>, Make<CNemUIColorsPage>},
     {{IDD_SECURITY_PAGE, 0, MSG_PAGE_PDF_SECURITY, 117, 267, 268},
      Make<CNemUIPdfSecurityPage>,

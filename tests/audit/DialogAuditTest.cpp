@@ -48,6 +48,7 @@ constexpr struct {
   const wchar_t* keys;
 } kEnglishDoubleKeys[] = {{109, L"PS"}, {115, L"C"}};
 } kEnglishDoubleKeys[] = {{109, L"PS"}, {110, L"D"}};
+} kEnglishDoubleKeys[] = {{109, L"PS"}, {101, L"DU"}};
 
 AuditOptions OptionsFor(const Language& language, int dpi, const PageInfo* page) {
   AuditOptions options;

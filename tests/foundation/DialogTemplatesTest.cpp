@@ -180,6 +180,7 @@ TEST(DialogTemplates, EnglishAccessKeysAreUniqueButForTheKnownDoubles) {
       {IDD_APPEARANCE_PAGE, {L'P', L'S'}},
       {IDD_FORM_FIELDS_PAGE, {L'C'}},
       {IDD_FONTS_PAGE, {L'D'}},
+      {IDD_WATERMARK_PAGE, {L'D', L'U'}},
   };
   for (const WORD id : TranslatedDialogs()) {
     const auto doubles = known.find(id);
@@ -223,6 +224,9 @@ TEST(DialogTemplates, TranslationsDifferFromTheEnglishText) {
   const auto isSame = [&same](const std::wstring& text, WORD language) {
     return std::ranges::any_of(same,
                                [&](const auto& row) { return row.first == text && row.second.contains(language); });
+  const std::set<std::pair<WORD, std::wstring>> same = {
+      {kGerman, L"e.pdf:"}, {kArabic, L"e.pdf:"}, {kGerman, L"Layout"}, {kGerman, L"&CMYK"},
+      {kArabic, L"&CMYK"},  {kGerman, L"&OK"},    {kFrench, L"&OK"},
   };
   for (const WORD id : TranslatedDialogs()) {
     const Dialog english = ReadDialog(id, kEnglish);

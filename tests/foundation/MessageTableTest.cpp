@@ -273,6 +273,7 @@ constexpr KnownText kKnownTexts[] = {
     {0x400107D7, L"Info"},
     {0x4001082D, L"The help file '%1!s!' cannot be found."},
     {0x4001082E, L"Stationery Paper"},
+    {0x40010876, L"An Error occured during the usage of the stationery. Errorcode: %1!s!"},
     {0x4001083A, L"Basic Settings"},
     {0x4001083B, L"e.pdf Document Properties"},
     {0x4001083C, L"File size"},

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "pages/CWatermarkPage.h"
+#include "sheet/CNemUISettingsPage.h"
+
+class CNemUIWatermarkPage : public CNemUISettingsPage<CWatermarkPage> {
+ public:
+  using CNemUISettingsPage::CNemUISettingsPage;
+
+ protected:
+  BindingTable Bindings() const override;
+  void OnPropertiesRead() override;
+};

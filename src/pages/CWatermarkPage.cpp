@@ -1,0 +1,310 @@
+#include "pages/CWatermarkPage.h"
+
+#include <utility>
+#include <vector>
+
+#include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/SecureWipe.h"
+#include "environment/DroppedFiles.h"
+#include "environment/FileDialog.h"
+#include "environment/Shell.h"
+#include "MessageIds.h"
+#include "pages/FormatAccess.h"
+#include "pages/PdfVersions.h"
+#include "pages/StationeryList.h"
+#include "Pictures.h"
+#include "window/CActivationContext.h"
+
+namespace {
+
+constexpr int kMaxFile = MAX_PATH - 1;  // characters of the watermark's path
+
+// English in every language, on purpose.
+constexpr wchar_t kErrorTitle[] = L"Error";
+constexpr wchar_t kOnlyPdfText[] = L"Only pdf can be used as a stationery file!";
+
+constexpr int kStationeryControls[] = {IDC_STATIONERY_GROUP,  IDC_STATIONERY_USE,        IDC_STATIONERY_LIST,
+                                       IDC_STATIONERY_ADD,    IDC_STATIONERY_PROPERTIES, IDC_STATIONERY_DISPLAY,
+                                       IDC_STATIONERY_DELETE, IDC_STATIONERY_FOREGROUND, IDC_STATIONERY_HELP_LINK};
+
+bool IsPdf(const CUString& file) { return file.Mid(file.ReverseFind(L'.') + 1).EqualsNoCase(L"pdf"); }
+
+}  // namespace
+
+CWatermarkPage::~CWatermarkPage() {
+  WipeText(stationeryInfos);
+  WipeText(stationeryInfosOverride.value);
+}
+
+MessageTable CWatermarkPage::Messages() const {
+  using Dialog = CStationeryPropertiesDialog;
+  static constexpr MessageRow kMessages[] = {
+      OnClick<&CWatermarkPage::OnWatermarkCheck>(IDC_WATERMARK_USE),
+      OnClick<&CWatermarkPage::OnBrowseWatermark>(IDC_WATERMARK_BROWSE),
+      OnClick<&CWatermarkPage::OnStationeryCheck>(IDC_STATIONERY_USE),
+      OnClick<&CWatermarkPage::OnAddStationery>(IDC_STATIONERY_ADD),
+      OnClick<&CWatermarkPage::OnStationeryProperties>(IDC_STATIONERY_PROPERTIES),
+      OnClick<&CWatermarkPage::OnDisplayStationery>(IDC_STATIONERY_DISPLAY),
+      OnClick<&CWatermarkPage::OnDeleteStationery>(IDC_STATIONERY_DELETE),
+      OnNotify<&CWatermarkPage::OnStationeryDblClk>(IDC_STATIONERY_LIST, static_cast<UINT>(NM_DBLCLK)),
+      OnNotify<&CWatermarkPage::OnStationeryProperties>(IDC_STATIONERY_LIST, static_cast<UINT>(NM_RETURN)),
+      OnNotify<&CWatermarkPage::OnStationeryKey>(IDC_STATIONERY_LIST, static_cast<UINT>(LVN_KEYDOWN)),
+      OnMessage<&CWatermarkPage::StationeryApplied>(Dialog::kAppliedMessage),
+      OnMessage<&CWatermarkPage::StationeryCancelled>(Dialog::kCancelledMessage),
+      OnMessage<&CWatermarkPage::StationeryOk>(Dialog::kOkMessage),
+      OnMessage<&CWatermarkPage::StationeryModified>(Dialog::kModifiedMessage),
+      OnMessage<&CWatermarkPage::OnDropFiles>(WM_DROPFILES),
+      OnMessage<&CWatermarkPage::OnDestroy>(WM_DESTROY),
+  };
+  return kMessages;
+}
+
+void CWatermarkPage::ExchangeCockpitValues(const CockpitExchange& exchange, WatermarkCockpitValues& values) {
+  exchange.Value(watermarkEnabled, values.watermarkEnabled, watermarkEnabledOverride.IsSet());
+  exchange.Value(stationeryEnabled, values.stationeryEnabled, stationeryEnabledOverride.IsSet());
+}
+
+BOOL CWatermarkPage::OnInitDialog() {
+  list_.Attach(*this, IDC_STATIONERY_LIST);
+  list_.InsertColumns(MessageText(MSG_WATERMARK_COLUMN_DESCRIPTION).Text(),
+                      MessageText(MSG_WATERMARK_COLUMN_FILE).Text());
+  CEdit(Item(IDC_WATERMARK_FILE)).LimitText(kMaxFile);
+  ChangeExtendedStyle(0, WS_EX_ACCEPTFILES);
+  if (!CTrackedPage::OnInitDialog()) return FALSE;
+
+  picture_.Attach(*this, IDC_WATERMARK_PICTURE);
+  picture_.SetImage(Pictures::kWatermark.bitmap, kNoTransparentColor, Pictures::kWatermark.mask);
+  stationeryLink_.Attach(*this, IDC_STATIONERY_HELP_LINK);
+  stationeryLink_.SetNotifyParent(true);
+  stationeryLink_.SetUnderline(true);
+  if (tiffVariant)
+    for (const int id : kStationeryControls) Item(id).Show(false);
+  return TRUE;
+}
+
+// --- Exchange -------------------------------------------------------------------------------------------------------
+
+void CWatermarkPage::DoDataExchange(CDataExchange& exchange) {
+  if (exchange.IsSaving() && !HasWatermarkFile()) {
+    exchange.Fail(IDC_WATERMARK_FILE);
+    return;
+  }
+  exchange.Check(IDC_WATERMARK_USE, watermarkEnabled);
+  exchange.Text(IDC_WATERMARK_FILE, watermarkFilename);
+  uint16_t watermarkAsForeground = watermarkAsBackground == 0;
+  exchange.Check(IDC_WATERMARK_FOREGROUND, watermarkAsForeground);
+  exchange.Check(IDC_STATIONERY_USE, stationeryEnabled);
+  exchange.Check(IDC_STATIONERY_FOREGROUND, stationeryAsForeground);
+  if (exchange.IsLoading()) {
+    LoadStationeries();
+    OnStationeryCheck();
+    OnWatermarkCheck();
+    return;
+  }
+  watermarkAsBackground = watermarkAsForeground == 0;
+  SaveStationeries();
+  // All is taken over, and still refused.
+  if (watermarkFilename.Length() > kMaxFile) exchange.Fail(IDC_WATERMARK_FILE);
+}
+
+// An edit that the user cannot get at just now may be empty.
+bool CWatermarkPage::HasWatermarkFile() {
+  const CWnd edit = Item(IDC_WATERMARK_FILE);
+  if (!edit.IsEnabled() || !::IsWindowVisible(edit.Handle()) || !edit.Text().IsEmpty()) return true;
+  Tell(GetMsgBoxTitle().Text(), MessageText(MSG_WATERMARK_INVALID_FILE), MB_ICONEXCLAMATION);
+  return false;
+}
+
+void CWatermarkPage::LoadStationeries() {
+  CloseProperties();
+  list_.Clear();
+  // What can be read of the text is there; nobody is told of the rest.
+  StationeryFormats formats;
+  ReadStationeryList(stationeryInfos, formats);
+  for (auto& format : formats) list_.AddEntry(std::make_unique<StationeryRow>(std::move(format)));
+  list_.SetSelectionMark(-1);
+  list_.SelectRow(stationerySelected);
+}
+
+void CWatermarkPage::SaveStationeries() {
+  std::vector<const CStationeryFormat*> formats;
+  for (int row = 0; row < list_.Count(); ++row) formats.push_back(Stationery(row).get());
+  stationerySelected = SelectedStationery() ? static_cast<uint16_t>(list_.SelectionMark()) : 0;
+  if (formats.empty()) stationeryEnabled = 0;
+  WipeText(stationeryInfos);
+  stationeryInfos = StationeryListText(formats);
+  CloseProperties();
+}
+
+// --- What is enabled ------------------------------------------------------------------------------------------------
+
+void CWatermarkPage::OnWatermarkCheck() {
+  const bool on = CButton(Item(IDC_WATERMARK_USE)).IsChecked();
+  for (const int id : {IDC_WATERMARK_FILE, IDC_WATERMARK_BROWSE, IDC_WATERMARK_FOREGROUND}) Item(id).Enable(on);
+  ApplyOverrides();
+}
+
+// A version without stationery closes the group; the choice itself stays as it is.
+void CWatermarkPage::OnStationeryCheck() {
+  const bool allowed = AllowsStationery(PdfVersionFor(*this));
+  const CButton use(Item(IDC_STATIONERY_USE));
+  use.Enable(allowed);
+  EnableStationeryControls(allowed && use.IsChecked());
+}
+
+void CWatermarkPage::EnableStationeryControls(bool enable) {
+  for (const int id : {IDC_STATIONERY_ADD, IDC_STATIONERY_LIST, IDC_STATIONERY_FOREGROUND}) Item(id).Enable(enable);
+  const bool hasRows = list_.Count() > 0;
+  for (const int id : {IDC_STATIONERY_PROPERTIES, IDC_STATIONERY_DISPLAY, IDC_STATIONERY_DELETE})
+    Item(id).Enable(enable && hasRows);
+  ApplyOverrides();
+}
+
+void CWatermarkPage::ApplyOverrides() {
+  Lock(watermarkEnabledOverride.IsSet(), {IDC_WATERMARK_USE});
+  Lock(watermarkAsBackgroundOverride.IsSet(), {IDC_WATERMARK_FOREGROUND});
+  Lock(watermarkFilenameOverride.IsSet(), {IDC_WATERMARK_FILE, IDC_WATERMARK_BROWSE});
+  Lock(stationeryEnabledOverride.IsSet(), {IDC_STATIONERY_USE});
+  Lock(stationeryAsForegroundOverride.IsSet(), {IDC_STATIONERY_FOREGROUND});
+  Lock(IsListFixed(), {IDC_STATIONERY_LIST, IDC_STATIONERY_ADD, IDC_STATIONERY_PROPERTIES, IDC_STATIONERY_DISPLAY,
+                       IDC_STATIONERY_DELETE, IDC_STATIONERY_FOREGROUND});
+}
+
+// --- Files ----------------------------------------------------------------------------------------------------------
+
+// Empty when the user has chosen none, or the page has come to its end meanwhile.
+CUString CWatermarkPage::AskForFile(uint32_t filterId, const CUString& startName) {
+  const DialogPause pause(propertiesDialog_.get());
+  const CActivationScope look;
+  const auto file =
+      AskForFileToOpen(window_, {.filter = CUString(MessageText(filterId).Text()), .startName = startName});
+  return file && IsWindow() ? file->path : CUString();
+}
+
+void CWatermarkPage::Tell(const wchar_t* title, const CUString& text, UINT icon) {
+  const DialogPause pause(propertiesDialog_.get());
+  MsgBox(window_, title, text.Text(), MB_OK | icon);
+}
+
+void CWatermarkPage::OnBrowseWatermark() {
+  const CUString file = AskForFile(MSG_ERROR_ALL_FILES_FILTER, Item(IDC_WATERMARK_FILE).Text());
+  if (!file.IsEmpty()) Item(IDC_WATERMARK_FILE).SetText(file.Text());
+}
+
+void CWatermarkPage::OnAddStationery() {
+  const CUString file = AskForFile(MSG_WATERMARK_PDF_FILTER, CUString());
+  if (!file.IsEmpty()) AddStationery(file);
+}
+
+void CWatermarkPage::AddStationery(const CUString& file) {
+  const auto format = std::make_shared<CStationeryFormat>();
+  format->SetFile(file);
+  const int row = list_.AddEntry(std::make_unique<StationeryRow>(format));
+  if (row < 0) return;
+  list_.SelectRow(row);
+  ShowProperties(format);
+  if (IsPropertiesOpen()) {
+    propertiesDialog_->SetNew();
+    propertiesDialog_->Activate();
+    propertiesDialog_->UpdateLock();
+  }
+  EnableStationeryControls(true);
+}
+
+bool CWatermarkPage::IsOver(int control, POINT point) const {
+  const RECT area = Item(control).RectIn(*this);
+  return Item(control).IsShown() && ::PtInRect(&area, point);
+}
+
+// Whether the check boxes are on does not matter. What is fixed stays, and so does an entry that is being edited.
+void CWatermarkPage::OnDropFiles(WPARAM drop, LPARAM) {
+  const DroppedFiles files = TakeDroppedFiles(drop);
+  if (files.paths.size() != 1) return;
+  const CUString& file = files.paths.front();
+  if (IsOver(IDC_WATERMARK_GROUP, files.point)) {
+    if (!watermarkFilenameOverride.IsSet()) Item(IDC_WATERMARK_FILE).SetText(file.Text());
+  } else if (IsOver(IDC_STATIONERY_GROUP, files.point)) {
+    if (!IsListFixed() && !(IsPropertiesOpen() && propertiesDialog_->IsModified())) DropStationery(file);
+  }
+}
+
+void CWatermarkPage::DropStationery(const CUString& file) {
+  if (IsPdf(file))
+    AddStationery(file);
+  else
+    Tell(kErrorTitle, CUString(kOnlyPdfText), 0);
+}
+
+// --- Stationeries ---------------------------------------------------------------------------------------------------
+
+std::shared_ptr<CStationeryFormat> CWatermarkPage::Stationery(int row) const {
+  const auto* entry = static_cast<const StationeryRow*>(row < 0 ? nullptr : list_.Entry(row));
+  return entry ? entry->Format() : nullptr;
+}
+
+void CWatermarkPage::OnStationeryProperties() {
+  if (const auto format = SelectedStationery()) ShowProperties(format);
+}
+
+void CWatermarkPage::OnStationeryDblClk(WindowMessage& message) {
+  const auto& click = reinterpret_cast<const NMITEMACTIVATE&>(message.Notify());
+  const int row = click.iItem >= 0 ? click.iItem : list_.RowAt(click.ptAction);
+  if (row < 0) return;
+  list_.SelectRow(row);
+  OnStationeryProperties();
+}
+
+void CWatermarkPage::OnStationeryKey(WindowMessage& message) {
+  const WORD key = reinterpret_cast<const NMLVKEYDOWN&>(message.Notify()).wVKey;
+  if (key == VK_DELETE && Item(IDC_STATIONERY_DELETE).IsEnabled()) OnDeleteStationery();
+}
+
+void CWatermarkPage::OnDisplayStationery() {
+  if (const auto format = SelectedStationery()) OpenWithShell(window_, format->GetFile().Text(), SW_SHOWNORMAL);
+}
+
+void CWatermarkPage::OnDeleteStationery() {
+  const StationeryListEntry* const entry = list_.Entry(list_.SelectionMark());
+  if (!entry) return;
+  if (IsPropertiesOpen() && propertiesDialog_->GetFormat() == SelectedStationery()) CloseProperties();
+  list_.RemoveEntry(entry);
+  EnableStationeryControls(true);
+}
+
+// --- Properties -----------------------------------------------------------------------------------------------------
+
+void CWatermarkPage::ShowProperties(const std::shared_ptr<CStationeryFormat>& format) {
+  if (IsPropertiesOpen()) {
+    propertiesDialog_->SetFormat(format);
+    return;
+  }
+  propertiesDialog_ = std::make_unique<CStationeryPropertiesDialog>(format);
+  if (!propertiesDialog_->Open(*this)) propertiesDialog_.reset();
+}
+
+void CWatermarkPage::CloseProperties() {
+  const auto dialog = std::move(propertiesDialog_);
+  if (!dialog || !dialog->IsWindow()) return;
+  dialog->Close();
+  if (::IsWindowVisible(window_)) Focus();
+}
+
+void CWatermarkPage::StationeryApplied() { list_.RefreshRows(); }
+
+void CWatermarkPage::StationeryOk() {
+  list_.RefreshRows();
+  CloseProperties();
+}
+
+// A dialog that is gone may have been cancelled twice: the second time must not take the next entry.
+void CWatermarkPage::StationeryCancelled(WPARAM mark, LPARAM) {
+  if (!IsPropertiesOpen()) return;
+  if (mark == CStationeryPropertiesDialog::kNewEntry) OnDeleteStationery();
+  CloseProperties();
+}
+
+void CWatermarkPage::StationeryModified() {
+  if (IsPropertiesOpen()) propertiesDialog_->UpdateLock();
+}
+
+void CWatermarkPage::OnDestroy() { propertiesDialog_.reset(); }

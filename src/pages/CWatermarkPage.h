@@ -1,0 +1,86 @@
+// What is laid over the document: a watermark, which is an image, and a stationery, which is a PDF out of a list.
+#pragma once
+
+#include <memory>
+
+#include "cockpit/CTrackedPage.h"
+#include "controls/CImageStatic.h"
+#include "controls/CMyHyperLink.h"
+#include "environment/Override.h"
+#include "pages/CStationeryPropertiesDialog.h"
+#include "pages/StationeryRow.h"
+#include "resources/ResourceIds.h"
+
+class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues> {
+ public:
+  using CTrackedPage::CTrackedPage;
+  ~CWatermarkPage() override;
+
+  uint16_t watermarkEnabled = 0;
+  uint16_t watermarkAsBackground = 0;
+  CUString watermarkFilename;
+  uint16_t stationeryEnabled = 0;
+  uint16_t stationeryAsForeground = 0;
+  uint16_t stationerySelected = 0;  // row of the list
+  CUString stationeryInfos;         // the list as text (pages/StationeryList.h); holds passwords, and is wiped
+  uint16_t colorspace = 0;          // written back as it was read
+
+  // What an administrator has fixed.
+  BooleanOverride watermarkEnabledOverride;
+  BooleanOverride watermarkAsBackgroundOverride;
+  TextOverride watermarkFilenameOverride;
+  BooleanOverride stationeryEnabledOverride;
+  BooleanOverride stationeryAsForegroundOverride;
+  NumberOverride stationerySelectedOverride;
+  TextOverride stationeryInfosOverride;  // with passwords, too
+
+ protected:
+  BOOL OnInitDialog() override;
+  void DoDataExchange(CDataExchange& exchange) override;
+  MessageTable Messages() const override;
+  int HelpLinkId() const override { return IDC_WATERMARK_HELP_LINK; }
+  void ExchangeCockpitValues(const CockpitExchange& exchange, WatermarkCockpitValues& values) override;
+
+ private:
+  void LoadStationeries();
+  void SaveStationeries();
+
+  void OnWatermarkCheck();
+  void OnBrowseWatermark();
+  void OnStationeryCheck();
+  void OnAddStationery();
+  void OnStationeryProperties();
+  void OnDisplayStationery();
+  void OnDeleteStationery();
+  void OnStationeryDblClk(WindowMessage& message);
+  void OnStationeryKey(WindowMessage& message);
+  void OnDropFiles(WPARAM drop, LPARAM);
+  void OnDestroy();
+
+  void StationeryApplied();
+  void StationeryCancelled(WPARAM mark, LPARAM);
+  void StationeryOk();
+  void StationeryModified();
+
+  CUString AskForFile(uint32_t filterId, const CUString& startName);
+  void Tell(const wchar_t* title, const CUString& text, UINT icon);
+  bool HasWatermarkFile();
+  void AddStationery(const CUString& file);
+  void DropStationery(const CUString& file);
+  bool IsOver(int control, POINT point) const;
+  std::shared_ptr<CStationeryFormat> Stationery(int row) const;
+  std::shared_ptr<CStationeryFormat> SelectedStationery() const { return Stationery(list_.SelectionMark()); }
+
+  bool IsPropertiesOpen() const { return propertiesDialog_ && propertiesDialog_->IsWindow(); }
+  void ShowProperties(const std::shared_ptr<CStationeryFormat>& format);
+  void CloseProperties();
+
+  void EnableStationeryControls(bool enable);
+  void ApplyOverrides();
+  bool IsListFixed() const { return stationerySelectedOverride.IsSet() && stationeryInfosOverride.IsSet(); }
+
+  CListCtrlStationery list_;
+  CImageStatic picture_;
+  CMyHyperLink stationeryLink_;
+  std::unique_ptr<CStationeryPropertiesDialog> propertiesDialog_;
+};
