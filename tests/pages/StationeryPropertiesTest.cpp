@@ -509,6 +509,28 @@ TEST_F(StationerySheet, LeavingThePageClosesAnUnchangedDialog) {
   });
 }
 
+TEST_F(StationerySheet, CancelOfTheSheetTakesAnUnchangedDialogAlong) {
+  Run([&](Sheet& sheet) -> SheetTask {
+    co_await OpenProperties(sheet);
+    sheet.PressCancel();
+    co_await sheet.Settled();
+    EXPECT_FALSE(IsWindow(dialog_));
+  });
+  EXPECT_EQ(kList, Stored());
+}
+
+// The page stands behind the one for colours in the host's exchange.
+TEST_F(StationerySheet, ColourSpaceKeepsWhatThisPageHasRead) {
+  Run([&](Sheet& sheet) -> SheetTask {
+    EXPECT_TRUE(sheet.SelectPage(111));
+    co_await sheet.Settled();
+    sheet.Control(IDC_COLORS_CMYK).Click();
+    sheet.PressOk();
+    co_await sheet.Settled();
+  });
+  EXPECT_EQ(0, sheet_->Properties().Colorspace[0].GetLong());
+}
+
 TEST_F(StationerySheet, OkOfTheSheetStoresWhatWasApplied) {
   Run([&](Sheet& sheet) -> SheetTask {
     co_await OpenProperties(sheet);
