@@ -219,8 +219,8 @@ bool CWatermarkPage::IsOver(int control, POINT point) const {
 // Whether the check boxes are on does not matter. What is fixed stays, and so does an entry that is being edited.
 void CWatermarkPage::OnDropFiles(WPARAM drop, LPARAM) {
   const DroppedFiles files = TakeDroppedFiles(drop);
-  if (files.paths.size() != 1) return;
-  const CUString& file = files.paths.front();
+  if (files.paths.Count() != 1) return;
+  const CUString& file = files.paths[0];
   if (IsOver(IDC_WATERMARK_GROUP, files.point)) {
     if (!watermarkFilenameOverride.IsSet()) Item(IDC_WATERMARK_FILE).SetText(file.Text());
   } else if (IsOver(IDC_STATIONERY_GROUP, files.point)) {

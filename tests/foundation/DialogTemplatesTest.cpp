@@ -219,15 +219,13 @@ TEST(DialogTemplates, TranslationsDifferFromTheEnglishText) {
   const std::pair<std::wstring, std::set<WORD>> same[] = {
       {L"e.pdf:", {kGerman, kArabic}}, {L"Layout", {kGerman}},           {L"&CMYK", {kGerman, kArabic}},
       {L"mm", {kGerman, kFrench}},     {L"%", {kGerman, kFrench}},       {L"&Portrait", {kFrench}},
-      {L"OK", {kGerman, kFrench}},     {L"Support", {kGerman, kFrench}},
+      {L"OK", {kGerman, kFrench}},     {L"Support", {kGerman, kFrench}}, {L"&OK", {kGerman, kFrench}},
   };
   const auto isSame = [&same](const std::wstring& text, WORD language) {
     return std::ranges::any_of(same,
                                [&](const auto& row) { return row.first == text && row.second.contains(language); });
-  const std::set<std::pair<WORD, std::wstring>> same = {
-      {kGerman, L"e.pdf:"}, {kArabic, L"e.pdf:"}, {kGerman, L"Layout"}, {kGerman, L"&CMYK"},
-      {kArabic, L"&CMYK"},  {kGerman, L"&OK"},    {kFrench, L"&OK"},
   };
+  const std::set<std::wstring> arrows = {L">>", L">", L"<", L"<<"};
   for (const WORD id : TranslatedDialogs()) {
     const Dialog english = ReadDialog(id, kEnglish);
     for (const WORD language : kTranslations) {

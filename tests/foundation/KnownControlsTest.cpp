@@ -577,37 +577,39 @@ TEST(PasswordConfirmationTemplate, TheMarksShareTheirPlaceAndAreHidden) {
               std::tuple(bad->x, bad->y, bad->width, bad->height));
     EXPECT_FALSE((good->style | bad->style) & WS_VISIBLE);
   }
-  // What shows below the two radios is either for all hosts or for the add-in: they share their place.
-  TEST(SavingPageTemplate, TheInstancesAndTheAddInShareTheirPlace) {
-    const Dialog dialog = ReadDialog(IDD_SAVING_PAGE, kEnglish);
-    const Control *instances = FindControl(dialog, 1077), *addIn = FindControl(dialog, 1080);
-    ASSERT_TRUE(instances && addIn);
-    EXPECT_EQ(std::tuple(instances->x, instances->y, instances->width, instances->height),
-              std::tuple(addIn->x, addIn->y, addIn->width, addIn->height));
-  }
+}
 
-  // The second list has no caption: its label is for screen readers alone.
-  TEST(SavingPageTemplate, TheLabelOfTheSecondListIsHidden) {
-    const Dialog dialog = ReadDialog(IDD_SAVING_PAGE, kEnglish);
-    const Control* label = FindControl(dialog, IDC_SAVING_LOCATION_LABEL);
-    ASSERT_TRUE(label);
-    EXPECT_FALSE(label->style & WS_VISIBLE);
-  }
+// What shows below the two radios is either for all hosts or for the add-in: they share their place.
+TEST(SavingPageTemplate, TheInstancesAndTheAddInShareTheirPlace) {
+  const Dialog dialog = ReadDialog(IDD_SAVING_PAGE, kEnglish);
+  const Control *instances = FindControl(dialog, 1077), *addIn = FindControl(dialog, 1080);
+  ASSERT_TRUE(instances && addIn);
+  EXPECT_EQ(std::tuple(instances->x, instances->y, instances->width, instances->height),
+            std::tuple(addIn->x, addIn->y, addIn->width, addIn->height));
+}
 
-  TEST(SavingPageTemplate, TheRadiosAreGroupsOfTheirOwn) {
-    const std::vector<Control> controls = ReadDialog(IDD_SAVING_PAGE, kEnglish).controls;
-    const auto hasGroup = [&controls](DWORD id) {
-      const auto control = std::ranges::find(controls, id, &Control::id);
-      return control != controls.end() && (control->style & WS_GROUP);
-    };
-    for (const DWORD id : {1061, 1077, 1078, 1164}) EXPECT_TRUE(hasGroup(id)) << id;
-    for (const DWORD id : {1076, 1079}) EXPECT_FALSE(hasGroup(id)) << id;
-  }
+// The second list has no caption: its label is for screen readers alone.
+TEST(SavingPageTemplate, TheLabelOfTheSecondListIsHidden) {
+  const Dialog dialog = ReadDialog(IDD_SAVING_PAGE, kEnglish);
+  const Control* label = FindControl(dialog, IDC_SAVING_LOCATION_LABEL);
+  ASSERT_TRUE(label);
+  EXPECT_FALSE(label->style & WS_VISIBLE);
+}
 
-  // Enter begins a new line of the message in place of pressing the sheet's OK.
-  TEST(MailPageTemplate, TheMessageHasLines) {
-    const Dialog dialog = ReadDialog(IDD_MAIL_PAGE, kEnglish);
-    const Control* note = FindControl(dialog, 1039);
-    ASSERT_TRUE(note);
-    EXPECT_EQ(DWORD{ES_MULTILINE | ES_WANTRETURN}, note->style & (ES_MULTILINE | ES_WANTRETURN));
-  }
+TEST(SavingPageTemplate, TheRadiosAreGroupsOfTheirOwn) {
+  const std::vector<Control> controls = ReadDialog(IDD_SAVING_PAGE, kEnglish).controls;
+  const auto hasGroup = [&controls](DWORD id) {
+    const auto control = std::ranges::find(controls, id, &Control::id);
+    return control != controls.end() && (control->style & WS_GROUP);
+  };
+  for (const DWORD id : {1061, 1077, 1078, 1164}) EXPECT_TRUE(hasGroup(id)) << id;
+  for (const DWORD id : {1076, 1079}) EXPECT_FALSE(hasGroup(id)) << id;
+}
+
+// Enter begins a new line of the message in place of pressing the sheet's OK.
+TEST(MailPageTemplate, TheMessageHasLines) {
+  const Dialog dialog = ReadDialog(IDD_MAIL_PAGE, kEnglish);
+  const Control* note = FindControl(dialog, 1039);
+  ASSERT_TRUE(note);
+  EXPECT_EQ(DWORD{ES_MULTILINE | ES_WANTRETURN}, note->style & (ES_MULTILINE | ES_WANTRETURN));
+}
