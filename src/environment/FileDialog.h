@@ -19,7 +19,7 @@ struct FileDialogRequest {
   CUString filter;
   DWORD flags = kOpenExistingFile;
   size_t pathRoom = MAX_PATH;  // characters with the closing zero: a longer path is not given
-  CUString startName;          // may have a folder; what does not fit into the room is cut
+  CUString startName = {};     // may have a folder; what does not fit into the room is cut
   CUString startFolder = {};   // empty: the system's choice
   CUString defaultExtension = {};
 };
