@@ -68,6 +68,7 @@ LRESULT CZugferdPage::ShowHelpForControl(WPARAM controlId, LPARAM argument) {
 
 BOOL CZugferdPage::OnInitDialog() {
   ChangeExtendedStyle(0, WS_EX_ACCEPTFILES);
+  CEdit(Item(IDC_ZUGFERD_XML_FILE)).ReadLeftToRight();
   return CTrackedPage::OnInitDialog();
 }
 

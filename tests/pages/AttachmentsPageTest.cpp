@@ -332,7 +332,7 @@ TEST_F(AttachmentsPage, TheMarkOfAMissingFileTakesNoRoom) {
   EXPECT_EQ(2, List().RowCount());
 }
 
-TEST_F(AttachmentsPage, ADialogThatOutlivesThePageAddsNothing) {
+TEST_F(AttachmentsPage, TheFileDialogMayEndThePage) {
   auto parent = std::make_unique<PageParent>();
   CNemUIAttachmentsPage page(&test.Sheet(), test.Page().Description(), 0);
   ASSERT_TRUE(page.Create(parent->Window()));
@@ -395,7 +395,7 @@ TEST_F(AttachmentsPage, ALargeDropAddsWhatFitsAndRefusesEachOtherFile) {
   EXPECT_EQ(2u, popups_.Boxes().size());
 }
 
-TEST_F(AttachmentsPage, ABoxThatEndsThePageIsTheLast) {
+TEST_F(AttachmentsPage, ABoxMayEndThePage) {
   auto parent = std::make_unique<PageParent>();
   test.Set(L"EmbedFilenames", Quoted(std::wstring(755, L'x')));
   CNemUIAttachmentsPage page(&test.Sheet(), test.Page().Description(), 0);
@@ -403,7 +403,7 @@ TEST_F(AttachmentsPage, ABoxThatEndsThePageIsTheLast) {
   PostMessageW(parent->Window(), WM_CLOSE, 0, 0);
   DropOn(page.Handle(), IDC_ATTACHMENTS_LIST, {path1_, path2_});
   EXPECT_FALSE(page.IsWindow());
-  EXPECT_LE(popups_.Boxes().size(), 1u);
+  EXPECT_EQ(0u, popups_.Boxes().size()) << "the second file has none any more";
 }
 
 // --- Removing, double clicks and keys ------------------------------------------------------------------------------

@@ -149,6 +149,13 @@ TEST_F(ZugferdPage, TheFileIsForReadingOnly) {
   EXPECT_TRUE(GetWindowLongW(XmlFile().Window(), GWL_STYLE) & ES_READONLY);
 }
 
+TEST_F(ZugferdPage, APathReadsFromLeftToRightInAMirroredPageToo) {
+  const LanguageScope arabic(0x0401);
+  Open(1, 0, L"C:\\a\\b.xml");
+  EXPECT_TRUE(CWnd(test.Page().Handle()).IsMirrored());
+  EXPECT_FALSE(CWnd(XmlFile().Window()).IsMirrored());
+}
+
 TEST_F(ZugferdPageOfDocument, TheSwitchStaysClosedAndTheRestFollowsTheValues) {
   Open(1, 0);
   const std::vector<int> fileWithoutSwitch(kFile.begin() + 1, kFile.end());
