@@ -11,19 +11,19 @@
 #include "pages/CNemUIFormFieldsPage.h"
 #include "pages/CNemUIInfoPage.h"
 #include "pages/CNemUILangPage.h"
-#include "pages/CNemUIMailPage.h"
 #include "pages/CNemUILinksPage.h"
+#include "pages/CNemUIMailPage.h"
 #include "pages/CNemUINoDocSettingsPage.h"
 #include "pages/CNemUIPaperPage.h"
 #include "pages/CNemUIPdfAppearancePage.h"
 #include "pages/CNemUIPdfFontsPage.h"
 #include "pages/CNemUIPdfGraphicPage.h"
 #include "pages/CNemUIPdfSecurityPage.h"
+#include "pages/CNemUIProgramPage.h"
 #include "pages/CNemUIStatisticsPage.h"
 #include "pages/CNemUIUpdatePage.h"
-#include "pages/CNemUIProgramPage.h"
-#include "pages/CNemUIZugferdPage.h"
 #include "pages/CNemUIWatermarkPage.h"
+#include "pages/CNemUIZugferdPage.h"
 #include "resources/ResourceIds.h"
 
 namespace {
@@ -48,6 +48,12 @@ constexpr PageCatalogueRow kPages[] = {
      Make<CNemUIPdfAppearancePage>},
     {{IDD_WATERMARK_PAGE, 0, MSG_PAGE_WATERMARK, 101, 233, 234}, Make<CNemUIWatermarkPage>, Make<CNemUIWatermarkPage>},
     {{IDD_COLORSPACE_PAGE, 0, MSG_PAGE_COLORSPACE, 111, 239, 240}, Make<CNemUIColorsPage>, Make<CNemUIColorsPage>},
+    {{IDD_LINKS_PAGE, 0, MSG_PAGE_LINKS, 113, 261, 262}, Make<CNemUILinksPage>, Make<CNemUILinksPage>},
+    {{IDD_ATTACHMENTS_PAGE, 0, MSG_PAGE_ATTACHMENTS, 114, 343, 344},
+     Make<CNemUIAttachmentsPage>,
+     Make<CNemUIAttachmentsPage>},
+    {{IDD_ZUGFERD_PAGE, 0, MSG_PAGE_ZUGFERD_INVOICE, 112, 245, 246}, Make<CNemUIZugferdPage>, Make<CNemUIZugferdPage>},
+    {{IDD_FONTS_PAGE, 0, MSG_PAGE_FONTS, 110, 269, 271}, Make<CNemUIPdfFontsPage>, Make<CNemUIPdfFontsPage>},
     {{IDD_SECURITY_PAGE, 0, MSG_PAGE_PDF_SECURITY, 117, 267, 268},
      Make<CNemUIPdfSecurityPage>,
      Make<CNemUIPdfSecurityPage>},
@@ -55,28 +61,18 @@ constexpr PageCatalogueRow kPages[] = {
     {{IDD_FORM_FIELDS_COLOR_PAGE, 0, MSG_PAGE_COLOR_SETTINGS, 116, 239, 240},
      Make<CNemUIFormFieldsColorPage>,
      Make<CNemUIFormFieldsColorPage>},
-    {{IDD_FONTS_PAGE, 0, MSG_PAGE_FONTS, 110, 269, 271}, Make<CNemUIPdfFontsPage>, Make<CNemUIPdfFontsPage>},
-    {{IDD_LINKS_PAGE, 0, MSG_PAGE_LINKS, 113, 261, 262}, Make<CNemUILinksPage>, Make<CNemUILinksPage>},
-    {{IDD_ATTACHMENTS_PAGE, 0, MSG_PAGE_ATTACHMENTS, 114, 343, 344},
-     Make<CNemUIAttachmentsPage>,
-     Make<CNemUIAttachmentsPage>},
-    {{IDD_ZUGFERD_PAGE, 0, MSG_PAGE_ZUGFERD_INVOICE, 112, 245, 246}, Make<CNemUIZugferdPage>, Make<CNemUIZugferdPage>},
     {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
     {{IDD_COCKPIT_PAGE, 0, MSG_PAGE_COCKPIT, 120, 321, 322}, Make<CNemUICockpitPage>, Make<CNemUICockpitPage>},
     {{IDD_DOCUMENT_INFO_PAGE, 0, MSG_PAGE_DOCUMENT_INFO, 105, 241, 242},
      Make<CNemUIDocInfoPage>,
      Make<CNemUIDocInfoPage>},
-    {{IDD_ACTION_PAGE, 0, MSG_PAGE_ACTIONS, 102, 237, 238}, nullptr, kPlaceholder},
-    {{IDD_MAIL_PAGE, 0, MSG_PAGE_MAIL, 104, 243, 244}, nullptr, kPlaceholder},
-    {{IDD_SAVING_PAGE, 0, MSG_PAGE_SAVING, 103, 255, 256}, nullptr, kPlaceholder},
+    {{IDD_ACTION_PAGE, 0, MSG_PAGE_ACTIONS, 102, 237, 238}, Make<CNemUIActionPage>, kPlaceholder},
+    {{IDD_MAIL_PAGE, 0, MSG_PAGE_MAIL, 104, 243, 244}, Make<CNemUIMailPage>, kPlaceholder},
+    {{IDD_SAVING_PAGE, 0, MSG_PAGE_SAVING, 103, 255, 256}, Make<CNemUIProgramPage>, kPlaceholder},
     {{IDD_INFO_PAGE, 0, MSG_PAGE_INFO, 106, 257, 258}, Make<CNemUIInfoPage>, kPlaceholder},
     {{IDD_LANGUAGE_PAGE, 0, MSG_PAGE_LANGUAGE, 107, 319, 318}, Make<CNemUILangPage>, nullptr},
     {{IDD_UPDATE_PAGE, 0, MSG_PAGE_UPDATE, 121, 328, 330}, Make<CNemUIUpdatePage>, nullptr},
     {{IDD_STATISTICS_PAGE, 0, MSG_PAGE_STATISTICS, 123, 257, 258}, Make<CNemUIStatisticsPage>, nullptr},
-    {{IDD_ACTION_PAGE, 0, MSG_PAGE_ACTIONS, 102, 237, 238}, Make<CNemUIActionPage>, kPlaceholder},
-    {{IDD_MAIL_PAGE, 0, MSG_PAGE_MAIL, 104, 243, 244}, Make<CNemUIMailPage>, kPlaceholder},
-    {{IDD_SAVING_PAGE, 0, MSG_PAGE_SAVING, 103, 255, 256}, Make<CNemUIProgramPage>, kPlaceholder},
-    {{IDD_INFO_PAGE, 0, MSG_PAGE_INFO, 106, 257, 258}, nullptr, kPlaceholder},
 };
 
 }  // namespace

@@ -46,9 +46,7 @@ constexpr const Language& kEnglish = kLanguages[0];
 constexpr struct {
   int pageId;
   const wchar_t* keys;
-} kEnglishDoubleKeys[] = {{109, L"PS"}, {115, L"C"}};
-} kEnglishDoubleKeys[] = {{109, L"PS"}, {110, L"D"}};
-} kEnglishDoubleKeys[] = {{109, L"PS"}, {101, L"DU"}};
+} kEnglishDoubleKeys[] = {{101, L"DU"}, {109, L"PS"}, {110, L"D"}, {115, L"C"}};
 
 AuditOptions OptionsFor(const Language& language, int dpi, const PageInfo* page) {
   AuditOptions options;

@@ -5,6 +5,7 @@
 #include "pages/CNemUIWatermarkPage.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
+#include "ShellSpy.h"
 #include "support/FreedTextWatch.h"
 #include "support/FunctionPatch.h"
 #include "support/HelpSpy.h"
@@ -338,22 +339,18 @@ TEST_F(WatermarkPage, DeleteKeyDeletesAsTheButtonDoes) {
   EXPECT_EQ(L"bill", Rows());
 }
 
-std::wstring opened;
-HINSTANCE WINAPI NoteOpened(HWND, const wchar_t* verb, const wchar_t* file, const wchar_t*, const wchar_t*, int show) {
-  opened += std::wstring(verb) + L" " + file + L" " + std::to_wstring(show) + L"\n";
-  return nullptr;
-}
-
 TEST_F(WatermarkPage, DisplayOpensTheFileOfTheSelection) {
-  const FunctionPatch shell(L"shell32.dll", "ShellExecuteW", reinterpret_cast<void*>(&NoteOpened));
-  opened.clear();
+  shellCalls.clear();
   test_.Set(L"StationerySelected", 1);
   ASSERT_TRUE(test_.Open());
   Control(1069).Click();
-  EXPECT_EQ(L"open D:\\a.pdf 1\n", opened);
+  ASSERT_EQ(1u, shellCalls.size());
+  EXPECT_EQ(L"open", shellCalls[0].verb);
+  EXPECT_EQ(L"D:\\a.pdf", shellCalls[0].target);
+  EXPECT_EQ(SW_SHOWNORMAL, shellCalls[0].show);
   List().SetSelectionMark(-1);
   Control(1069).Click();
-  EXPECT_EQ(L"open D:\\a.pdf 1\n", opened);
+  EXPECT_EQ(1u, shellCalls.size());
 }
 
 TEST_F(WatermarkPage, TheVariantForTiffHasNoStationery) {

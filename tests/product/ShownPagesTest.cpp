@@ -12,37 +12,35 @@ namespace {
 struct TouchedValue {
   int pageId;
   const wchar_t* property;
-  int32_t host;         // what the host gives
-  int32_t shown;        // what the page stores when it was shown
-  int control;          // what the user clicks on
-  int32_t clicked;      // what is stored then
-  WPARAM keys[2] = {};  // what he then presses
   int32_t host;                          // what the host gives
   int32_t shown;                         // what the page stores when it was shown
   int control;                           // what the user clicks on
   int32_t clicked;                       // what is stored then
+  WPARAM keys[2] = {};                   // what he then presses
   const wchar_t* information = nullptr;  // the box that the click brings up
-  int32_t host;                 // what the host gives
-  int32_t shown;                // what the page stores when it was shown
-  int control;                  // what the user clicks on
-  int32_t clicked;              // what is stored then
-  bool hasPlaceholder = false;  // in place of the page on the document's tab
+  bool hasPlaceholder = false;           // in place of the page on the document's tab
 };
 
 constexpr TouchedValue kValues[] = {
     {100, L"PaperMarginCenter", 7, 1, IDC_PAPER_CENTERED, 0},
     {109, L"HideToolbar", 7, 1, IDC_APPEARANCE_HIDE_TOOLBAR, 0},
-    {110, L"FontsEmbedded", 7, 0, IDC_FONTS_ALL, 1,
-     L"Please observe the license conditions\r\nof the character fonts' licensor when using this option."},
+    {.pageId = 110,
+     .property = L"FontsEmbedded",
+     .host = 7,
+     .shown = 0,
+     .control = IDC_FONTS_ALL,
+     .clicked = 1,
+     .information =
+         L"Please observe the license conditions\r\nof the character fonts' licensor when using this option."},
     {111, L"Colorspace", 7, 1, IDC_COLORS_RGB, 0},
     {117, L"EncryptOwnerPasswordEnabled", 7, 1, IDC_SECURITY_OWNER, 0},
     {115, L"ShowFormfields", 7, 1, IDC_FORM_FIELDS_CONVERT, 0},
     // Above black stands the cell for no colour.
     {116, L"FormfieldUseTextfieldBorder", 7, 1, IDC_FORM_COLORS_TEXT_BORDER, 0, {VK_UP, VK_RETURN}},
     // These two share a bit set and keep what is none of theirs.
-    {102, L"StartAction", 18, 18, IDC_ACTION_VIEWER, 19, true},
-    {104, L"StartAction", 17, 17, IDC_MAIL_SEND, 19, true},
-    {103, L"RegistryDevmode", 7, 3, IDC_SAVING_INSTANCES, 1, true},
+    {102, L"StartAction", 18, 18, IDC_ACTION_VIEWER, 19, {}, nullptr, true},
+    {104, L"StartAction", 17, 17, IDC_MAIL_SEND, 19, {}, nullptr, true},
+    {103, L"RegistryDevmode", 7, 3, IDC_SAVING_INSTANCES, 1, {}, nullptr, true},
     {113, L"UseHyperlinkRecognition", 7, 1, IDC_LINKS_RECOGNIZE, 0},
     {114, L"EmbedFilenamesEnabled", 7, 0, IDC_ATTACHMENTS_USE, 0},  // there is no file
     // Without a stationery in the list there is none to use.
@@ -54,9 +52,8 @@ class ShownPages : public testing::TestWithParam<TouchedValue> {
   ShownPages() {
     host_.Set(NEMPDFUI_DOCUMENT, L"Used", 1);
     for (const int set : {0, 1}) {
-      host_.Set(set, GetParam().property, GetParam().host);
       host_.Set(set, L"EncryptOwnerPassword", L"x");  // an empty one may not stand beside its switch
-      host_.Set(set, L"FormFieldsEnabled", 1);  // opens their pages
+      host_.Set(set, L"FormFieldsEnabled", 1);        // opens their pages
       host_.Set(set, GetParam().property, GetParam().host);
     }
   }
@@ -71,14 +68,13 @@ class ShownPages : public testing::TestWithParam<TouchedValue> {
                  EXPECT_TRUE(sheet.SelectPage(GetParam().pageId));
                  co_await sheet.Settled();
                }
+               if (click && GetParam().information)
+                 sheet.ExpectBox({.title = L"Host", .text = GetParam().information, .icon = MB_ICONINFORMATION});
                if (click) {
                  sheet.Control(GetParam().control).Click();
                  for (const WPARAM key : GetParam().keys)
                    if (key) SendMessageW(GetFocus(), WM_KEYDOWN, key, 1);
                }
-               if (click && GetParam().information)
-                 sheet.ExpectBox({.title = L"Host", .text = GetParam().information, .icon = MB_ICONINFORMATION});
-               if (click) sheet.Control(GetParam().control).Click();
                sheet.Press(button);
              });
     EXPECT_EQ(GetParam().host, host_.Long(1 - set, GetParam().property));
