@@ -1,8 +1,7 @@
 // Painting without flicker: what is drawn goes to a buffer first, and from there to the window in one step.
 //
-//   case WM_PAINT:
-//   case WM_PRINTCLIENT:
-//     PaintBuffered(message, [this](HDC dc) { Draw(dc); });
+//   default:
+//     return AnswerPainting(message, [this](HDC dc) { Draw(dc); });
 #pragma once
 
 #include "window/COMemDC.h"
@@ -21,7 +20,24 @@ void PaintBuffered(WindowMessage& message, Draw draw) {
   draw(static_cast<HDC>(buffer));
 }
 
-// Answers WM_DRAWITEM. `draw` covers the item's rectangle; what it draws outside of it is cut off.
+// Answers what a control is asked for its picture by; false for other messages. There is nothing to erase: `draw`
+// covers the whole client area.
+template <class Draw>
+bool AnswerPainting(WindowMessage& message, Draw draw) {
+  switch (message.message) {
+    case WM_ERASEBKGND:
+      message.result = TRUE;
+      return true;
+    case WM_PAINT:
+    case WM_PRINTCLIENT:
+      PaintBuffered(message, draw);
+      return true;
+    default:
+      return false;
+  }
+}
+
+// Draws an item. `draw` covers the item's rectangle; what it draws outside of it is cut off.
 template <class Draw>
 void DrawItemBuffered(const DRAWITEMSTRUCT& item, Draw draw) {
   const int state = ::SaveDC(item.hDC);
@@ -31,4 +47,14 @@ void DrawItemBuffered(const DRAWITEMSTRUCT& item, Draw draw) {
     draw(static_cast<HDC>(buffer));
   }
   ::RestoreDC(item.hDC, state);
+}
+
+// Answers WM_DRAWITEM with `draw(dc, item)`; false for other messages.
+template <class Draw>
+bool AnswerDrawItem(WindowMessage& message, Draw draw) {
+  if (message.message != WM_DRAWITEM) return false;
+  const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
+  DrawItemBuffered(item, [&](HDC dc) { draw(dc, item); });
+  message.result = TRUE;
+  return true;
 }

@@ -49,7 +49,7 @@ void CColourPicker::OnAttached() {
 
 void CColourPicker::OnDestroyed() {
   ClosePopup();
-  accessibility_.Disconnect();
+  CAccessibleControl::OnDestroyed();
 }
 
 PickerMeasures CColourPicker::Measures() const {
@@ -151,7 +151,7 @@ void CColourPicker::OnMouseMove() {
 }
 
 bool CColourPicker::OnWindowMessage(WindowMessage& message) {
-  if (accessibility_.OnMessage(*this, message)) return true;
+  if (AnswerReader(message)) return true;
   switch (message.message) {
     case ColourSelChange:
       OnHighlighted(static_cast<COLORREF>(message.wParam));
@@ -200,11 +200,7 @@ bool CColourPicker::OnReflected(WindowMessage& message) {
     Open();
     return true;
   }
-  if (message.message != WM_DRAWITEM) return false;
-  const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
-  DrawItemBuffered(item, [&](HDC dc) { Draw(dc, item); });
-  message.result = TRUE;
-  return true;
+  return AnswerDrawItem(message, [this](HDC dc, const DRAWITEMSTRUCT& item) { Draw(dc, item); });
 }
 
 // --- Drawing --------------------------------------------------------------------------------------------------------

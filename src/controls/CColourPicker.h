@@ -9,10 +9,10 @@
 #include "controls/CColourPopup.h"
 #include "controls/ColourMessages.h"
 #include "controls/ColourPickerLayout.h"
+#include "window/CAccessibleControl.h"
 #include "window/CDataExchange.h"
-#include "window/CSubclassedControl.h"
 
-class CColourPicker : public CSubclassed<CButton>, private CAccessibleSource {
+class CColourPicker : public CAccessibleControl<CButton> {
  public:
   CColourPicker();
   ~CColourPicker() override;
@@ -60,12 +60,10 @@ class CColourPicker : public CSubclassed<CButton>, private CAccessibleSource {
   void DrawButton(HDC dc, RECT rect, UINT state) const;
   void DrawSwatch(HDC dc, const IntRect& rect, bool disabled) const;
 
-  HWND AccessibleWindow() const override { return Handle(); }
   CUString PartName(int) const override;
   int PartRole(int) const override;
   int PartState(int) const override;
   CUString PartValue(int) const override;
-  RECT PartRect(int) const override { return ClientRect(); }
   CUString PartAction(int) const override;
   bool HasPartAction(int) const override { return true; }
   void DoPartAction(int) override { Open(); }
@@ -80,7 +78,6 @@ class CColourPicker : public CSubclassed<CButton>, private CAccessibleSource {
   CUString customText_;
   std::shared_ptr<CustomColours> customColours_ = std::make_shared<CustomColours>();
   std::shared_ptr<CColourPopup> popup_;
-  CAccessibility accessibility_;
 };
 
 // One line of a page's exchange: the picker's colour and a member.

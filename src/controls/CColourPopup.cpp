@@ -299,17 +299,11 @@ bool CColourPopup::OnWindowMessage(WindowMessage& message) {
     case WM_PALETTECHANGED:
       if (reinterpret_cast<HWND>(message.wParam) != Handle()) Invalidate();
       return true;
-    case WM_ERASEBKGND:
-      message.result = TRUE;
-      return true;
     case WM_PAINT:
       RealizePalette();
       [[fallthrough]];
-    case WM_PRINTCLIENT:
-      PaintBuffered(message, [this](HDC dc) { Draw(dc); });
-      return true;
     default:
-      return false;
+      return AnswerPainting(message, [this](HDC dc) { Draw(dc); });
   }
 }
 

@@ -27,15 +27,11 @@ void CDrawnButton::Press() const {
 bool CDrawnButton::ShowsFocus() const { return HasFocus() && !(Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS); }
 
 bool CDrawnButton::OnReflected(WindowMessage& message) {
-  if (message.message != WM_DRAWITEM) return false;
-  const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
-  DrawItemBuffered(item, [&](HDC dc) { Draw(dc, item.rcItem); });
-  message.result = TRUE;
-  return true;
+  return AnswerDrawItem(message, [this](HDC dc, const DRAWITEMSTRUCT& item) { Draw(dc, item.rcItem); });
 }
 
 bool CDrawnButton::OnWindowMessage(WindowMessage& message) {
-  if (accessibility_.OnMessage(*this, message)) return true;
+  if (AnswerReader(message)) return true;
   switch (message.message) {
     case WM_GETDLGCODE:
       // No push button to the dialog: it would make it the default one, and take its style for that.
@@ -51,15 +47,8 @@ bool CDrawnButton::OnWindowMessage(WindowMessage& message) {
     case WM_UPDATEUISTATE:
       Invalidate();
       return false;
-    case WM_ERASEBKGND:
-      message.result = TRUE;
-      return true;
-    case WM_PAINT:
-    case WM_PRINTCLIENT:
-      PaintBuffered(message, [this](HDC dc) { Draw(dc, ClientRect()); });
-      return true;
     default:
-      return false;
+      return AnswerPainting(message, [this](HDC dc) { Draw(dc, ClientRect()); });
   }
 }
 

@@ -2,10 +2,9 @@
 // template it is a "Button" with BS_OWNERDRAW.
 #pragma once
 
-#include "window/CAccessibility.h"
-#include "window/CSubclassedControl.h"
+#include "window/CAccessibleControl.h"
 
-class CDrawnButton : public CSubclassed<CButton>, private CAccessibleSource {
+class CDrawnButton : public CAccessibleControl<CButton> {
  public:
   // Tells the parent of a click. It may end the button, and its object.
   void Press() const;
@@ -16,19 +15,14 @@ class CDrawnButton : public CSubclassed<CButton>, private CAccessibleSource {
   // The user works by keyboard and is to see that the button has the focus.
   bool ShowsFocus() const;
 
-  void OnDestroyed() override { accessibility_.Disconnect(); }
   bool OnWindowMessage(WindowMessage& message) override;
   bool OnReflected(WindowMessage& message) override;
 
  private:
-  HWND AccessibleWindow() const override { return Handle(); }
   CUString PartName(int) const override;
   int PartRole(int) const override;
   int PartState(int) const override;
-  RECT PartRect(int) const override { return ClientRect(); }
   CUString PartAction(int) const override;
   bool HasPartAction(int) const override { return true; }
   void DoPartAction(int) override { Press(); }
-
-  CAccessibility accessibility_;
 };

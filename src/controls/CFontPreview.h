@@ -1,12 +1,11 @@
 // Shows a sample text in a font: an owner-drawn button that nobody can press. Set the members, then repaint.
 #pragma once
 
+#include "controls/CDrawnBox.h"
 #include "controls/ColourPalette.h"
-#include "window/CAccessibility.h"
-#include "window/CSubclassedControl.h"
 #include "window/Gdi.h"
 
-class CFontPreview : public CSubclassed<CButton>, private CAccessibleSource {
+class CFontPreview : public CDrawnBox {
  public:
   CFontPreview();
 
@@ -18,19 +17,9 @@ class CFontPreview : public CSubclassed<CButton>, private CAccessibleSource {
 
  protected:
   void OnAttached() override;
-  void OnDestroyed() override { accessibility_.Disconnect(); }
-  bool OnWindowMessage(WindowMessage& message) override;
-  bool OnReflected(WindowMessage& message) override;
 
  private:
   GdiFont MakeFont() const;
-  void Draw(HDC dc, RECT rect) const;
-
-  HWND AccessibleWindow() const override { return Handle(); }
+  void Draw(HDC dc, const RECT& client) const override;
   CUString PartName(int) const override { return sampleText; }
-  int PartRole(int) const override;
-  int PartState(int) const override;
-  RECT PartRect(int) const override { return ClientRect(); }
-
-  CAccessibility accessibility_;
 };

@@ -97,22 +97,15 @@ void CFormFieldsPreview::Draw(HDC dc) const {
 }
 
 bool CFormFieldsPreview::OnWindowMessage(WindowMessage& message) {
-  if (accessibility_.OnMessage(*this, message)) return true;
+  if (AnswerReader(message)) return true;
   switch (message.message) {
     case WM_ENABLE:
     case WM_SETTEXT:
       message.result = DefaultHandling(message);  // a static text draws at once
       Invalidate();
       return true;
-    case WM_ERASEBKGND:
-      message.result = TRUE;
-      return true;
-    case WM_PAINT:
-    case WM_PRINTCLIENT:
-      PaintBuffered(message, [this](HDC dc) { Draw(dc); });
-      return true;
     default:
-      return false;
+      return AnswerPainting(message, [this](HDC dc) { Draw(dc); });
   }
 }
 

@@ -1,13 +1,12 @@
 // Shows a form field of the document in its colours. It stands in place of an empty static text.
 #pragma once
 
-#include "window/CAccessibility.h"
-#include "window/CSubclassedControl.h"
+#include "window/CAccessibleControl.h"
 #include "window/Gdi.h"
 
 enum class FormFieldKind { Text = 0, CheckBox = 1, Dropdown = 2 };
 
-class CFormFieldsPreview : public CSubclassed<CWnd>, private CAccessibleSource {
+class CFormFieldsPreview : public CAccessibleControl<CWnd> {
  public:
   static constexpr COLORREF kNone = 0xFFFFFFFF;
 
@@ -20,7 +19,6 @@ class CFormFieldsPreview : public CSubclassed<CWnd>, private CAccessibleSource {
 
  protected:
   void OnAttached() override;
-  void OnDestroyed() override { accessibility_.Disconnect(); }
   bool OnWindowMessage(WindowMessage& message) override;
 
  private:
@@ -31,16 +29,13 @@ class CFormFieldsPreview : public CSubclassed<CWnd>, private CAccessibleSource {
   void DrawDropButton(HDC dc, const RECT& client) const;
   void DrawBorder(HDC dc, const RECT& client) const;
 
-  HWND AccessibleWindow() const override { return Handle(); }
   CUString PartName(int) const override;
   int PartRole(int) const override;
   int PartState(int) const override;
   CUString PartValue(int) const override;
-  RECT PartRect(int) const override { return ClientRect(); }
 
   const FormFieldKind kind_;
   COLORREF borderColour_ = kNone;
   COLORREF backgroundColour_ = kNone;
   GdiFont font_;
-  CAccessibility accessibility_;
 };

@@ -86,13 +86,6 @@ void CImageStatic::Draw(HDC dc) const {
 
 bool CImageStatic::OnWindowMessage(WindowMessage& message) {
   switch (message.message) {
-    case WM_ERASEBKGND:
-      message.result = TRUE;
-      return true;
-    case WM_PAINT:
-    case WM_PRINTCLIENT:
-      PaintBuffered(message, [this](HDC dc) { Draw(dc); });
-      return true;
     case WM_ENABLE:
     case WM_SETTEXT:
       message.result = DefaultHandling(message);  // draws the text at once
@@ -103,6 +96,6 @@ bool CImageStatic::OnWindowMessage(WindowMessage& message) {
       Invalidate();
       return false;
     default:
-      return false;
+      return AnswerPainting(message, [this](HDC dc) { Draw(dc); });
   }
 }

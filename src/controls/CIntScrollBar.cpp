@@ -28,7 +28,7 @@ int CIntScrollBar::PositionAfter(int code, int given) const {
   }
 }
 
-bool CIntScrollBar::OnWindowMessage(WindowMessage& message) { return accessibility_.OnMessage(*this, message); }
+bool CIntScrollBar::OnWindowMessage(WindowMessage& message) { return AnswerReader(message); }
 
 CUString CIntScrollBar::PartName(int) const { return LabelBefore(*this); }
 

@@ -134,7 +134,7 @@ bool CMyHyperLink::OnReflected(WindowMessage& message) {
 // --- Messages -------------------------------------------------------------------------------------------------------
 
 bool CMyHyperLink::OnWindowMessage(WindowMessage& message) {
-  if (accessibility_.OnMessage(*this, message)) return true;
+  if (AnswerReader(message)) return true;
   switch (message.message) {
     case WM_MOUSEMOVE:
       OnMouseMove(message.lParam);
@@ -176,15 +176,8 @@ bool CMyHyperLink::OnWindowMessage(WindowMessage& message) {
       message.result = DefaultHandling(message);  // draws over what is there
       Invalidate();
       return true;
-    case WM_ERASEBKGND:
-      message.result = TRUE;
-      return true;
-    case WM_PAINT:
-    case WM_PRINTCLIENT:
-      PaintBuffered(message, [this](HDC dc) { Draw(dc); });
-      return true;
     default:
-      return false;
+      return AnswerPainting(message, [this](HDC dc) { Draw(dc); });
   }
 }
 

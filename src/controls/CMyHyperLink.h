@@ -3,15 +3,14 @@
 #pragma once
 
 #include "controls/LinkColors.h"
-#include "window/CAccessibility.h"
-#include "window/CSubclassedControl.h"
+#include "window/CAccessibleControl.h"
 #include "window/Gdi.h"
 
 // Sent to the parent; the first argument is the link's control id. Pages answer it by opening the help. It goes to the
 // parent only: to a property sheet the same number means another thing.
 constexpr UINT kLinkClickedMessage = 0x465;
 
-class CMyHyperLink : public CSubclassed<CStatic>, private CAccessibleSource {
+class CMyHyperLink : public CAccessibleControl<CStatic> {
  public:
   explicit CMyHyperLink(bool markVisited = false) : markVisited_(markVisited) {}
   ~CMyHyperLink() override;
@@ -30,7 +29,6 @@ class CMyHyperLink : public CSubclassed<CStatic>, private CAccessibleSource {
 
  protected:
   void OnAttached() override;
-  void OnDestroyed() override { accessibility_.Disconnect(); }
   bool OnWindowMessage(WindowMessage& message) override;
   bool OnReflected(WindowMessage& message) override;
 
@@ -44,12 +42,10 @@ class CMyHyperLink : public CSubclassed<CStatic>, private CAccessibleSource {
   void OnMouseGone();
   void SetHover(bool hover);
 
-  HWND AccessibleWindow() const override { return Handle(); }
   CUString PartName(int) const override;
   int PartRole(int) const override;
   int PartState(int) const override;
   CUString PartValue(int) const override;
-  RECT PartRect(int) const override { return ClientRect(); }
   CUString PartAction(int) const override;
   bool HasPartAction(int) const override { return true; }
   void DoPartAction(int) override { Follow(); }
@@ -63,5 +59,4 @@ class CMyHyperLink : public CSubclassed<CStatic>, private CAccessibleSource {
   bool hover_ = false;
   bool visited_ = false;
   const bool markVisited_;
-  CAccessibility accessibility_;
 };

@@ -1,9 +1,5 @@
 #include "controls/CNoteBox.h"
 
-// behind Windows.h
-#include <oleacc.h>
-
-#include "controls/BufferedPainting.h"
 #include "controls/PointSize.h"
 #include "window/CActivationContext.h"
 
@@ -13,7 +9,7 @@ void CNoteBox::Destroy() {
   const HWND window = Handle();
   Detach();  // what the window is sent at its end finds no object
   if (window) ::DestroyWindow(window);
-  accessibility_.Disconnect();
+  OnDestroyed();
 }
 
 bool CNoteBox::Create(const CWnd& parent, int id, const RECT& rect) {
@@ -44,35 +40,3 @@ void CNoteBox::DrawNote(HDC dc, RECT rect, COLORREF color, HFONT font, UINT form
   ::SetTextColor(dc, color);
   ::DrawTextW(dc, NoteText().Text(), NoteText().Length(), &rect, DT_WORDBREAK | DT_NOPREFIX | format);
 }
-
-bool CNoteBox::OnReflected(WindowMessage& message) {
-  if (message.message != WM_DRAWITEM) return false;
-  const auto& item = *reinterpret_cast<const DRAWITEMSTRUCT*>(message.lParam);
-  DrawItemBuffered(item, [&](HDC dc) { Draw(dc, item.rcItem); });
-  message.result = TRUE;
-  return true;
-}
-
-bool CNoteBox::OnWindowMessage(WindowMessage& message) {
-  if (accessibility_.OnMessage(*this, message)) return true;
-  switch (message.message) {
-    case WM_ERASEBKGND:
-      message.result = TRUE;
-      return true;
-    case WM_PAINT:
-    case WM_PRINTCLIENT:
-      // Not left to WM_DRAWITEM: a parent may be a list, which hands nothing on.
-      PaintBuffered(message, [this](HDC dc) { Draw(dc, ClientRect()); });
-      return true;
-    case WM_NCHITTEST:
-      message.result = HTTRANSPARENT;  // the mouse means what lies below
-      return true;
-    case WM_GETDLGCODE:
-      message.result = DLGC_STATIC;
-      return true;
-    default:
-      return false;
-  }
-}
-
-int CNoteBox::PartState(int) const { return STATE_SYSTEM_READONLY; }

@@ -2,11 +2,10 @@
 // it.
 #pragma once
 
-#include "window/CAccessibility.h"
-#include "window/CSubclassedControl.h"
+#include "controls/CDrawnBox.h"
 #include "window/Gdi.h"
 
-class CNoteBox : public CSubclassed<CButton>, private CAccessibleSource {
+class CNoteBox : public CDrawnBox {
  public:
   // Ends the window as well.
   ~CNoteBox() override;
@@ -28,21 +27,12 @@ class CNoteBox : public CSubclassed<CButton>, private CAccessibleSource {
   };
   explicit CNoteBox(const NoteStyle& style) : style_(style) {}
 
-  virtual void Draw(HDC dc, const RECT& client) const = 0;
   // Draws the text in the box's font or another one, broken into lines. `format` is added to that.
   void DrawNote(HDC dc, RECT rect, COLORREF color, HFONT font = nullptr, UINT format = 0) const;
 
-  void OnDestroyed() override { accessibility_.Disconnect(); }
-  bool OnWindowMessage(WindowMessage& message) override;
-  bool OnReflected(WindowMessage& message) override;
-
  private:
-  HWND AccessibleWindow() const override { return Handle(); }
   CUString PartName(int) const override { return NoteText(); }
-  int PartState(int) const override;
-  RECT PartRect(int) const override { return ClientRect(); }
 
   const NoteStyle style_;
   GdiFont font_;
-  CAccessibility accessibility_;
 };

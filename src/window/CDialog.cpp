@@ -146,6 +146,17 @@ void CDialog::OnOK() {
 
 void CDialog::OnCancel() { EndDialog(IDCANCEL); }
 
+bool CDialog::OnEndCommand(const WindowMessage& message) {
+  if (message.Notification() != BN_CLICKED) return false;
+  if (message.CommandId() == IDOK)
+    OnOK();
+  else if (message.CommandId() == IDCANCEL)
+    OnCancel();
+  else
+    return false;
+  return true;
+}
+
 bool CDialog::OnWindowMessage(WindowMessage& message) {
   switch (message.message) {
     case WM_INITDIALOG:
@@ -156,14 +167,7 @@ bool CDialog::OnWindowMessage(WindowMessage& message) {
       message.result = OnHelpInfo(*reinterpret_cast<const HELPINFO*>(message.lParam));
       return message.result != 0;
     case WM_COMMAND:
-      if (!modal_ || message.Notification() != BN_CLICKED) return false;
-      if (message.CommandId() == IDOK)
-        OnOK();
-      else if (message.CommandId() == IDCANCEL)
-        OnCancel();
-      else
-        return false;
-      return true;
+      return modal_ && OnEndCommand(message);
     default:
       return false;
   }

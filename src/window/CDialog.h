@@ -47,6 +47,9 @@ class CDialog : public CWnd, public CMessageTarget {
   // A start that throws has failed.
   bool OnHandlerFailed(WindowMessage& message) override;
 
+  // Leads a click on OK or Cancel, or the key that stands for it, to the two above; false for other commands.
+  bool OnEndCommand(const WindowMessage& message);
+
   // Controls are being filled by code: their notifications are not the user's and are dropped.
   bool IsFilling() const { return filling_ > 0; }
 

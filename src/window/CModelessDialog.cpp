@@ -137,14 +137,7 @@ bool CModelessDialog::Translate(MSG& message) {
 bool CModelessDialog::OnWindowMessage(WindowMessage& message) {
   switch (message.message) {
     case WM_COMMAND:
-      if (message.Notification() != BN_CLICKED) return false;
-      if (message.CommandId() == IDOK)
-        OnOK();
-      else if (message.CommandId() == IDCANCEL)
-        OnCancel();
-      else
-        return false;
-      return true;
+      return OnEndCommand(message);
     case WM_WINDOWPOSCHANGING:
       // Before the window is hidden, which happens at its end too: the system then looks for a window to activate.
       if (reinterpret_cast<const WINDOWPOS*>(message.lParam)->flags & SWP_HIDEWINDOW) Unlock();

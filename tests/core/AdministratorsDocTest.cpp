@@ -4,8 +4,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <iterator>
 #include <string>
 #include <vector>
@@ -13,6 +11,7 @@
 #include "environment/AdminValidation.h"
 #include "host/ConfCheck.h"
 #include "host/Text.h"
+#include "support/SourceDocument.h"
 #include "support/TempFile.h"
 #include "ui/SettingsCatalogue.h"
 
@@ -177,21 +176,7 @@ std::string RenderKeys() {
   return text + "\n";
 }
 
-std::string DocumentPath() {
-  std::string path = NEMPDF_SOURCE_DIR "/docs/administrators.md";
-#ifdef _WIN32
-  // A Unix path of a cross-build: Wine shows that world as drive Z.
-  if (path.front() == '/') path.insert(0, "Z:");
-#endif
-  return path;
-}
-
-std::string ReadDocument() {
-  std::ifstream file(DocumentPath(), std::ios::binary);
-  std::string text{std::istreambuf_iterator<char>(file), {}};
-  text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());  // a checkout may have added them
-  return text;
-}
+const SourceDocument kDocument("docs/administrators.md");
 
 // The content of each fenced block of this kind, in order.
 std::vector<std::string> Blocks(const std::string& document, const std::string& kind) {
@@ -230,30 +215,26 @@ TEST(AdministratorsDocument, HasEveryKeyOnce) {
 }
 
 TEST(AdministratorsDocument, ListsTheKeysAsTheyAre) {
-  std::string document = ReadDocument();
+  std::string document = kDocument.Text();
   const size_t begin = document.find(kBegin), end = document.find(kEnd);
   ASSERT_NE(document.npos, begin);
   ASSERT_NE(document.npos, end);
   ASSERT_LT(begin, end);
   const std::string keys = RenderKeys();
-  if (std::getenv("NEMPDF_UPDATE_DOCS")) {
-    document.replace(begin, end - begin, keys);
-    std::ofstream(DocumentPath(), std::ios::binary) << document;
-    return;
-  }
-  EXPECT_TRUE(document.substr(begin, end - begin) == keys)
-      << DocumentPath() << " differs from the keys. Run this test with NEMPDF_UPDATE_DOCS=1 to write them anew.";
+  const bool same = document.substr(begin, end - begin) == keys;
+  document.replace(begin, end - begin, keys);
+  EXPECT_TRUE(same || kDocument.Update(document)) << kDocument.Stale("the keys");
 }
 
 TEST(AdministratorsDocument, ItsSampleIsGood) {
-  const std::vector<std::string> samples = Blocks(ReadDocument(), "conf");
+  const std::vector<std::string> samples = Blocks(kDocument.Text(), "conf");
   ASSERT_EQ(2u, samples.size());
   const std::string checked = Checked(samples[0]);
   EXPECT_EQ(0u, checked.find("NEMpdf.conf: good, overrides set: ")) << checked;
 }
 
 TEST(AdministratorsDocument, ItsBadExampleHasTheFindingsThatItShows) {
-  const std::string document = ReadDocument();
+  const std::string document = kDocument.Text();
   const std::vector<std::string> samples = Blocks(document, "conf"), outputs = Blocks(document, "text");
   ASSERT_EQ(2u, samples.size());
   ASSERT_EQ(1u, outputs.size());

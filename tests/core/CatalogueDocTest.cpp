@@ -3,11 +3,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
 #include <iterator>
 #include <string>
 
+#include "support/SourceDocument.h"
 #include "ui/SettingsCatalogue.h"
 
 namespace {
@@ -125,22 +124,6 @@ std::string Render() {
   return document;
 }
 
-std::string DocumentPath() {
-  std::string path = NEMPDF_SOURCE_DIR "/docs/properties.md";
-#ifdef _WIN32
-  // A Unix path of a cross-build: Wine shows that world as drive Z.
-  if (path.front() == '/') path.insert(0, "Z:");
-#endif
-  return path;
-}
-
-std::string ReadDocument() {
-  std::ifstream file(DocumentPath(), std::ios::binary);
-  std::string text{std::istreambuf_iterator<char>(file), {}};
-  text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());  // a checkout may have added them
-  return text;
-}
-
 TEST(CatalogueDocument, HasAChapterForEveryPage) {
   for (const SettingInfo& row : kSettings)
     EXPECT_EQ(1, std::count_if(std::begin(kChapters), std::end(kChapters),
@@ -149,10 +132,10 @@ TEST(CatalogueDocument, HasAChapterForEveryPage) {
 }
 
 TEST(CatalogueDocument, IsUpToDate) {
+  const SourceDocument properties("docs/properties.md");
   const std::string document = Render();
-  if (std::getenv("NEMPDF_UPDATE_DOCS")) std::ofstream(DocumentPath(), std::ios::binary) << document;
-  EXPECT_TRUE(ReadDocument() == document)
-      << DocumentPath() << " differs from the catalogue. Run this test with NEMPDF_UPDATE_DOCS=1 to write it anew.";
+  properties.Update(document);
+  EXPECT_TRUE(properties.Text() == document) << properties.Stale("the catalogue");
 }
 
 }  // namespace

@@ -3,10 +3,10 @@
 #include "driver/Popups.h"
 #include "MessageIds.h"
 #include "pages/CNemUIPdfFontsPage.h"
-#include "pages/FormatAccess.h"
 #include "PageTable.h"
 #include "Pictures.h"
 #include "support/Accessible.h"
+#include "support/FakeFormatPage.h"
 #include "support/PrintText.h"
 #include "support/TracedThread.h"
 
@@ -57,19 +57,6 @@ std::vector<uint8_t> Os2TableWith(unsigned permission) {
   table[9] = static_cast<uint8_t>(permission);
   return table;
 }
-
-// The format page of the tab, which gives a version.
-class FakeFormatPage final : public CNemUIPage, public FormatAccess {
- public:
-  FakeFormatPage() : CNemUIPage(PageDescription{}) {}
-  CUString GetHelpFilename() override { return {}; }
-  CUString GetMsgBoxTitle() override { return {}; }
-  bool ExchangeProperties(CDataExchange&) override { return true; }
-  int GetPdfVersion() override { return version; }
-  void SetPdfVersion(int value) override { version = value; }
-  int GetSaveFormat() override { return 1; }
-  int version = 14;
-};
 
 // The page's fonts; its window does not exist yet.
 void GiveFonts(PageUnderTest& test, const std::vector<TestFont>& fonts) {

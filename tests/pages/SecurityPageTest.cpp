@@ -1,10 +1,10 @@
 #include <gtest/gtest.h>
 
 #include "driver/Popups.h"
-#include "pages/FormatAccess.h"
 #include "pages/SecurityAccess.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
+#include "support/FakeFormatPage.h"
 
 namespace {
 
@@ -66,19 +66,6 @@ const PageTable kTable = {
         },
 };
 const PageTableEntry entry(kTable);
-
-// Gives the version.
-class FakeFormatPage final : public CNemUIPage, public FormatAccess {
- public:
-  FakeFormatPage() : CNemUIPage(PageDescription{}) {}
-  CUString GetHelpFilename() override { return {}; }
-  CUString GetMsgBoxTitle() override { return {}; }
-  bool ExchangeProperties(CDataExchange&) override { return true; }
-  int GetPdfVersion() override { return version; }
-  void SetPdfVersion(int value) override { version = value; }
-  int GetSaveFormat() override { return 0; }
-  int version = 14;
-};
 
 constexpr int kEdits[] = {1003, 1005, 1007};
 constexpr int kOwnerControls[] = {1280, 1003, 1008, 1012, 1006, 1010, 1019};

@@ -8,9 +8,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <cstdlib>
-#include <fstream>
-#include <iterator>
 #include <regex>
 #include <string>
 #include <thread>
@@ -21,6 +18,7 @@
 #include "driver/Text.h"
 #include "support/HostDialog.h"
 #include "support/RegistryValue.h"
+#include "support/SourceDocument.h"
 #include "support/TempFile.h"
 #include "support/TestPrinter.h"
 
@@ -243,19 +241,7 @@ class SessionTrace : public testing::Test {
   std::string bytes;  // of all that was written
 };
 
-std::string DocumentPath() {
-  std::string path = NEMPDF_SOURCE_DIR "/docs/troubleshooting.md";
-  // A Unix path of a cross-build: Wine shows that world as drive Z.
-  if (path.front() == '/') path.insert(0, "Z:");
-  return path;
-}
-
-std::string ReadDocument() {
-  std::ifstream file(DocumentPath(), std::ios::binary);
-  std::string text{std::istreambuf_iterator<char>(file), {}};
-  text.erase(std::remove(text.begin(), text.end(), '\r'), text.end());  // a checkout may have added them
-  return text;
-}
+const SourceDocument kDocument("docs/troubleshooting.md");
 
 // What differs from run to run, made alike.
 std::string Timeless(std::string text) {
@@ -272,21 +258,16 @@ std::string Timeless(std::string text) {
 void ExpectShown(const std::string& mark, const std::wstring& written) {
   std::string shown = ToUtf8(written);
   shown.erase(std::remove(shown.begin(), shown.end(), '\r'), shown.end());
-  std::string document = ReadDocument();
+  std::string document = kDocument.Text();
   const std::string fence = "<!-- " + mark + ": of tests/product/SessionTraceTest.cpp -->\n\n```text\n";
   const size_t found = document.find(fence);
-  ASSERT_NE(document.npos, found) << DocumentPath() << " has no block of " << mark;
+  ASSERT_NE(document.npos, found) << kDocument.Path() << " has no block of " << mark;
   const size_t begin = found + fence.size();
   const size_t end = document.find("```\n", begin);
   ASSERT_NE(document.npos, end);
   if (Timeless(shown) == Timeless(document.substr(begin, end - begin))) return;
-  if (std::getenv("NEMPDF_UPDATE_DOCS")) {
-    document.replace(begin, end - begin, shown);
-    std::ofstream(DocumentPath(), std::ios::binary) << document;
-    return;
-  }
-  ADD_FAILURE() << DocumentPath() << " shows another " << mark << " than\n"
-                << shown << "Run this test with NEMPDF_UPDATE_DOCS=1 to write it anew.";
+  document.replace(begin, end - begin, shown);
+  if (!kDocument.Update(document)) ADD_FAILURE() << kDocument.Stale("this session") << '\n' << shown;
 }
 
 }  // namespace

@@ -24,16 +24,16 @@ inline HGLOBAL MakeDropRecord(POINT point, const std::vector<std::wstring>& path
   return record;
 }
 
+// Lets files fall on a point of the window's client area.
+inline void DropFiles(HWND window, POINT point, const std::vector<std::wstring>& paths) {
+  SendMessageW(window, WM_DROPFILES, reinterpret_cast<WPARAM>(MakeDropRecord(point, paths)), 0);
+}
+
 // Lets files fall on the middle of a control of a page.
 inline void DropOn(HWND page, int controlId, const std::vector<std::wstring>& paths) {
   RECT rect{};
   GetWindowRect(GetDlgItem(page, controlId), &rect);
   MapWindowPoints(nullptr, page, reinterpret_cast<POINT*>(&rect), 2);
   const POINT middle{(rect.left + rect.right) / 2, (rect.top + rect.bottom) / 2};
-  SendMessageW(page, WM_DROPFILES, reinterpret_cast<WPARAM>(MakeDropRecord(middle, paths)), 0);
-}
-
-// Lets files fall on a point of the window's client area.
-inline void DropFiles(HWND window, POINT point, const std::vector<std::wstring>& paths) {
-  SendMessageW(window, WM_DROPFILES, reinterpret_cast<WPARAM>(MakeDropRecord(point, paths)), 0);
+  DropFiles(page, middle, paths);
 }
