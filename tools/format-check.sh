@@ -6,4 +6,4 @@ if ! command -v clang-format >/dev/null; then
   echo "clang-format is not installed; nothing was checked"
   exit
 fi
-find include src host tests bench fuzz -name '*.h' -o -name '*.cpp' | sort | xargs clang-format --dry-run --Werror
+find include src host tests bench fuzz -name '*.h' -o -name '*.hpp' -o -name '*.cpp' | sort | xargs clang-format --dry-run --Werror

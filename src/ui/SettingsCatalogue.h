@@ -1,8 +1,8 @@
 // The catalogue of all properties: the one place where a setting is named, typed and explained.
 //
-// The members of CDialogProperties, the table by which they are named and registered, docs/properties.md and the
-// tests are generated from the two lists below. Adding a setting is adding a row, at the end of the list: the order
-// of the rows is the order of registration.
+// The members of CDialogProperties, the table by which they are named and registered, docs/properties.md, the names in
+// include/NemPdfUISettings.hpp and the tests are made from the two lists below. Adding a setting is adding a row, at
+// the end of the list: the order of the rows is the order of registration.
 //
 // A row is (name, kind, page, meaning). The name is exactly what a host writes, capitals included, and is not to be
 // "corrected": EmbedfilenamesConfirmed and EmbedFilenamesEnabled both stand as they should. The kinds:

@@ -6,51 +6,10 @@
 #include <iterator>
 #include <string>
 
+#include "core/SettingChapters.h"
 #include "support/SourceDocument.h"
-#include "ui/SettingsCatalogue.h"
 
 namespace {
-
-// The chapters of the document, in the order of the sheet's navigation bar.
-struct Chapter {
-  SettingPage page;
-  const char* title;
-  const char* note;
-};
-
-constexpr char kBasicOnly[] =
-    "The page stands on the tab \"Basic Settings\" only and works on set 0. What a host sets in set 1 comes back "
-    "unchanged.";
-
-constexpr Chapter kChapters[] = {
-    {SettingPage::Sheet, "The sheet and its host",
-     "What the host tells the sheet about itself. No page changes these "
-     "values."},
-    {SettingPage::Paper, "Page",
-     "The values are those of the printer's device mode, in its units. Only the values that `Fields` names count; the "
-     "page sets the bits of what it writes."},
-    {SettingPage::Graphic, "Graphical Optimization", nullptr},
-    {SettingPage::Display, "Display", "How the document opens in a PDF reader."},
-    {SettingPage::Watermark, "Watermark", "Watermark and stationery are independent of each other."},
-    {SettingPage::Colours, "Colorspace", nullptr},
-    {SettingPage::Links, "Links", nullptr},
-    {SettingPage::Attachments, "Attachments", "PDF/A-1 and PDF/A-2 allow no attachments."},
-    {SettingPage::Invoice, "ZUGFeRD invoice", nullptr},
-    {SettingPage::Fonts, "Fonts", "PDF/A and PDF/UA embed all fonts, whatever these values say."},
-    {SettingPage::Security, "PDF-Security",
-     "Choosing PDF/A or PDF/UA switches passwords and restrictions off; PDF/A does not allow them at all. Passwords "
-     "are never written to a trace, and are wiped from memory when they change and when the dialog object is freed."},
-    {SettingPage::FormFields, "Fields", "How the form fields of a Word document become those of the PDF."},
-    {SettingPage::FormColours, "Color settings", nullptr},
-    {SettingPage::Format, "Output format", "Many pages obey `PdfVersion`."},
-    {SettingPage::Bookmarks, "Bookmark", nullptr},
-    {SettingPage::DocumentInfo, "Document Info",
-     "With the value 2 in `InternalUse` the host sets these texts, and "
-     "the user cannot."},
-    {SettingPage::Actions, "Actions", kBasicOnly},
-    {SettingPage::Mail, "E-Mail", kBasicOnly},
-    {SettingPage::Saving, "Saving", kBasicOnly},
-};
 
 constexpr char kIntroduction[] = R"(# Properties
 
@@ -113,7 +72,7 @@ std::string Render() {
   std::string document = kIntroduction;
   document += "\n## General properties\n\n" + Table(kGeneralProperties, SettingPage::General);
   document += "\n## Settings\n\nThe settings by the pages on which the user meets them.\n";
-  for (const Chapter& chapter : kChapters) {
+  for (const SettingChapter& chapter : kSettingChapters) {
     document += "\n### " + std::string(chapter.title) + "\n\n";
     if (chapter.note) document += std::string(chapter.note) + "\n\n";
     document += Table(kSettings, chapter.page);
@@ -126,8 +85,8 @@ std::string Render() {
 
 TEST(CatalogueDocument, HasAChapterForEveryPage) {
   for (const SettingInfo& row : kSettings)
-    EXPECT_EQ(1, std::count_if(std::begin(kChapters), std::end(kChapters),
-                               [&row](const Chapter& chapter) { return chapter.page == row.page; }))
+    EXPECT_EQ(1, std::count_if(std::begin(kSettingChapters), std::end(kSettingChapters),
+                               [&row](const SettingChapter& chapter) { return chapter.page == row.page; }))
         << Narrow(row.name);
 }
 
