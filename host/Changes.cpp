@@ -18,10 +18,10 @@ std::vector<std::wstring> DescribeChanges(const Settings& before, const Settings
   std::vector<std::wstring> lines;
   for (size_t i = 0; i < std::min(before.size(), after.size()); ++i) {
     if (before[i].value == after[i].value) continue;
-    const SettingInfo& info = *before[i].info;
+    const nempdf::PropertyInfo& info = *before[i].info;
     const std::wstring label = L"[" + std::wstring(SetName(before[i].set)) + L"] " + std::wstring(info.name) + L": ";
-    lines.push_back(label + (info.kind == SettingKind::Secret ? L"changed (not shown)"
-                                                              : Shown(before[i]) + L" -> " + Shown(after[i])));
+    lines.push_back(label + (info.kind == nempdf::Kind::Secret ? L"changed (not shown)"
+                                                               : Shown(before[i]) + L" -> " + Shown(after[i])));
   }
   return lines;
 }

@@ -6,7 +6,7 @@
 #include "Changes.h"
 #include "CommandLine.h"
 #include "ConfCheck.h"
-#include "CSettingsDialog.h"
+#include "DialogSettings.h"
 #include "SettingsFile.h"
 #include "SystemFiles.h"
 #include "Text.h"
@@ -57,23 +57,16 @@ void PrintChanges(const Settings& before, const Settings& after) {
 }
 
 int RunSheet(const CommandLine& line, const Settings& settings) {
-  CSettingsDialog dialog;
-  if (!dialog.IsValid()) return Complain(kFailed, L"the library has no memory for a dialog object");
-  for (const Setting& setting : settings)
-    if (!dialog.Set(setting))
-      return Complain(kFailed, L"the library refuses the setting " + std::wstring(setting.info->name));
-
-  const std::optional<Settings> before = dialog.GetAll();
-  const int result = dialog.DoModal();
-  if (result < 0) return Complain(kFailed, L"the sheet could not be shown");
-  if (result == 0) {
+  nempdf::Dialog dialog;
+  StoreSettings(dialog, settings);
+  const Settings before = LoadSettings(dialog);
+  if (!dialog.DoModal()) {
     Print(Stream::Output, L"cancelled\n");
     return kDone;
   }
-  const std::optional<Settings> after = dialog.GetAll();
-  if (!before || !after) return Complain(kFailed, L"the library does not give a setting back");
-  PrintChanges(*before, *after);
-  if (line.writeFile && !WriteWholeFile(*line.writeFile, WriteSettings(*after)))
+  const Settings after = LoadSettings(dialog);
+  PrintChanges(before, after);
+  if (line.writeFile && !WriteWholeFile(*line.writeFile, WriteSettings(after)))
     return Complain(kFailed, *line.writeFile + L": cannot be written: " + LastErrorText());
   return kDone;
 }
@@ -110,7 +103,12 @@ int Run(std::span<const wchar_t* const> arguments) {
   Settings settings;
   if (!ReadSettings(line, settings)) return kBadInput;
   ApplyOptions(line, settings);
-  return RunSheet(line, settings);
+  try {
+    return RunSheet(line, settings);
+  } catch (const nempdf::Error& error) {
+    const std::string_view text = error.what();
+    return Complain(kFailed, {text.begin(), text.end()});
+  }
 }
 
 }  // namespace

@@ -4,17 +4,6 @@
 
 namespace host {
 
-std::span<const SettingInfo> Catalogue(int32_t set) {
-  if (set == NEMPDFUI_GENERAL) return kGeneralProperties;
-  return kSettings;
-}
-
-const SettingInfo* FindSetting(int32_t set, std::wstring_view name) {
-  const std::span<const SettingInfo> rows = Catalogue(set);
-  const auto row = std::ranges::find(rows, name, &SettingInfo::name);
-  return row == rows.end() ? nullptr : &*row;
-}
-
 std::wstring_view SetName(int32_t set) {
   switch (set) {
     case NEMPDFUI_GENERAL:
@@ -27,7 +16,7 @@ std::wstring_view SetName(int32_t set) {
 }
 
 void Assign(Settings& settings, int32_t set, std::wstring_view name, Value value) {
-  const SettingInfo* info = FindSetting(set, name);
+  const nempdf::PropertyInfo* info = nempdf::FindProperty(set, name);
   const auto setting = std::ranges::find_if(
       settings, [&](const Setting& candidate) { return candidate.set == set && candidate.info == info; });
   if (setting != settings.end())

@@ -2,13 +2,11 @@
 #pragma once
 
 #include <cstdint>
-#include <span>
 #include <string>
 #include <string_view>
 #include <vector>
 
-#include "NemPdfUI.h"
-#include "ui/SettingsCatalogue.h"
+#include "NemPdfUI.hpp"
 
 namespace host {
 
@@ -25,21 +23,15 @@ constexpr int32_t kSets[] = {NEMPDFUI_GENERAL, NEMPDFUI_SETTINGS, NEMPDFUI_DOCUM
 
 struct Setting {
   int32_t set;
-  const SettingInfo* info;  // of the catalogue, never null
+  const nempdf::PropertyInfo* info;  // of the library's list, never null
   Value value;
 
-  bool IsNumber() const { return info->kind == SettingKind::Long; }
+  bool IsNumber() const { return info->kind == nempdf::Kind::Number; }
 
   bool operator==(const Setting&) const = default;
 };
 
 using Settings = std::vector<Setting>;
-
-// The rows of the catalogue that a set has, in the library's order.
-std::span<const SettingInfo> Catalogue(int32_t set);
-
-// Null when the set has no setting of exactly this name.
-const SettingInfo* FindSetting(int32_t set, std::wstring_view name);
 
 // "general", "0" or "1": the set's name in files and messages.
 std::wstring_view SetName(int32_t set);

@@ -71,18 +71,18 @@ class CParser {
     if (sign == line.npos) return Complain(L"neither a section nor a comment nor \"name = value\"");
 
     const std::wstring_view name = TrimBlanks(line.substr(0, sign));
-    const SettingInfo* info = FindSetting(set_, name);
+    const nempdf::PropertyInfo* info = nempdf::FindProperty(set_, name);
     if (!info) return Complain(L"section [" + std::wstring(SetName(set_)) + L"] has no setting " + Quoted(name));
     if (!Note(set_, info->name, info->name)) return;
 
     const std::wstring_view value = TrimBlanks(line.substr(sign + 1));
-    if (info->kind == SettingKind::Long)
+    if (info->kind == nempdf::Kind::Number)
       TakeNumber(*info, value);
     else
       TakeText(*info, value);
   }
 
-  void TakeText(const SettingInfo& info, std::wstring_view value) {
+  void TakeText(const nempdf::PropertyInfo& info, std::wstring_view value) {
     std::optional<std::wstring> text = UnescapeText(value);
     if (!text)
       return Complain(std::wstring(info.name) +
@@ -90,7 +90,7 @@ class CParser {
     settings_.push_back({set_, &info, {.text = *std::move(text)}});
   }
 
-  void TakeNumber(const SettingInfo& info, std::wstring_view value) {
+  void TakeNumber(const nempdf::PropertyInfo& info, std::wstring_view value) {
     const std::optional<int32_t> number = ParseNumber(value);
     if (!number) return Complain(std::wstring(info.name) + L": " + Quoted(value) + L" is no 32-bit number");
     settings_.push_back({set_, &info, {.number = *number}});

@@ -9,7 +9,7 @@ namespace {
 Settings AllInitial() {
   Settings settings;
   for (int32_t set : kSets)
-    for (const SettingInfo& info : Catalogue(set)) settings.push_back({set, &info, {}});
+    for (const nempdf::PropertyInfo& info : nempdf::Properties(set)) settings.push_back({set, &info, {}});
   return settings;
 }
 

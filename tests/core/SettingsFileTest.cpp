@@ -29,11 +29,11 @@ Settings Parsed(std::string_view bytes) {
 }
 
 Setting Number(int32_t set, std::wstring_view name, int32_t number) {
-  return {set, FindSetting(set, name), {.number = number}};
+  return {set, nempdf::FindProperty(set, name), {.number = number}};
 }
 
 Setting Text(int32_t set, std::wstring_view name, std::wstring text) {
-  return {set, FindSetting(set, name), {.text = std::move(text)}};
+  return {set, nempdf::FindProperty(set, name), {.text = std::move(text)}};
 }
 
 // All problems of a file, one "line: reason" a row.
@@ -105,15 +105,15 @@ TEST(SettingsFile, KeepsUnescapedTabsInsideAText) {
 TEST(SettingsFile, EveryPropertyOfEverySetIsRead) {
   for (int32_t set : kSets) {
     Settings expected;
-    for (const SettingInfo& info : Catalogue(set)) expected.push_back({set, &info, {}});
+    for (const nempdf::PropertyInfo& info : nempdf::Properties(set)) expected.push_back({set, &info, {}});
     EXPECT_EQ(Parsed(WriteSettings(expected)), expected);
   }
 }
 
 TEST(SettingsFile, SetsKnowTheirOwnNamesOnly) {
-  EXPECT_EQ(Catalogue(NEMPDFUI_GENERAL).size(), 6u);
-  EXPECT_EQ(Catalogue(NEMPDFUI_SETTINGS).size(), 123u);
-  EXPECT_EQ(Catalogue(NEMPDFUI_DOCUMENT).size(), 123u);
+  EXPECT_EQ(nempdf::Properties(NEMPDFUI_GENERAL).size(), 6u);
+  EXPECT_EQ(nempdf::Properties(NEMPDFUI_SETTINGS).size(), 123u);
+  EXPECT_EQ(nempdf::Properties(NEMPDFUI_DOCUMENT).size(), 123u);
   EXPECT_EQ(Problems("[general]\nTitle = x\n[0]\nPrinterName = x\n"),
             "2: section [general] has no setting \"Title\"\n"
             "4: section [0] has no setting \"PrinterName\"\n");
@@ -220,8 +220,8 @@ TEST(Settings, AssignReplacesOrAdds) {
 }
 
 TEST(Settings, NamesAreComparedExactly) {
-  EXPECT_NE(FindSetting(NEMPDFUI_SETTINGS, L"EmbedfilenamesOpen"), nullptr);
-  EXPECT_EQ(FindSetting(NEMPDFUI_SETTINGS, L"EmbedFilenamesOpen"), nullptr);
+  EXPECT_NE(nempdf::FindProperty(NEMPDFUI_SETTINGS, L"EmbedfilenamesOpen"), nullptr);
+  EXPECT_EQ(nempdf::FindProperty(NEMPDFUI_SETTINGS, L"EmbedFilenamesOpen"), nullptr);
 }
 
 }  // namespace

@@ -42,7 +42,7 @@ bool FillDialog(NemPdfUIHandle dialog) {
   for (const host::Setting& setting : settings) {
     const void* value = setting.value.text.c_str();
     if (setting.IsNumber()) value = &setting.value.number;
-    if (NemPdfUISetPropertyW(dialog, setting.set, setting.info->name.data(), value) != 1) return false;
+    if (NemPdfUISetPropertyW(dialog, setting.set, setting.info->name, value) != 1) return false;
   }
   return true;
 }

@@ -186,8 +186,9 @@ TEST(HostProgram, OkOnAnUntouchedSheetChangesNothing) {
   // Everything is written, with the values of the sample.
   const host::Settings settings = ReadBack(written.Content().value_or(""));
   EXPECT_EQ(settings.size(), 6u + 2 * 123);
-  const auto quality = std::ranges::find(settings, std::wstring_view(L"GraphicJpegQuality"),
-                                         [](const host::Setting& setting) { return setting.info->name; });
+  const auto quality =
+      std::ranges::find(settings, std::wstring_view(L"GraphicJpegQuality"),
+                        [](const host::Setting& setting) { return std::wstring_view(setting.info->name); });
   ASSERT_NE(quality, settings.end());
   EXPECT_EQ(quality->value.number, 85);
 }
