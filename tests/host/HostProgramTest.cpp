@@ -8,123 +8,19 @@
 
 #include <algorithm>
 #include <functional>
-#include <optional>
 #include <string>
 
 #include "host/SettingsFile.h"
-#include "host/Text.h"
+#include "HostProcess.h"
 
 namespace {
-
-constexpr DWORD kPatienceMilliseconds = 30000;
-
-std::wstring Widened(std::string_view text) { return host::DecodeText(text).text; }
 
 const std::wstring kProgram = Widened(NEMPDF_BINARY_DIR "/NemPdfUIHost.exe");
 const std::wstring kSample = Widened(NEMPDF_SOURCE_DIR "/host/sample.ini");
 
-// A file in the folder for temporary files, deleted when it goes.
-class CTempFile {
- public:
-  explicit CTempFile(const std::wstring& name) {
-    wchar_t folder[MAX_PATH];
-    GetTempPathW(MAX_PATH, folder);
-    name_ = folder + name;
-    DeleteFileW(name_.c_str());
-  }
-  CTempFile(const std::wstring& name, std::string_view content) : CTempFile(name) {
-    const HANDLE file = CreateFileW(name_.c_str(), GENERIC_WRITE, 0, nullptr, CREATE_ALWAYS, 0, nullptr);
-    DWORD written = 0;
-    WriteFile(file, content.data(), static_cast<DWORD>(content.size()), &written, nullptr);
-    CloseHandle(file);
-  }
-  ~CTempFile() { DeleteFileW(name_.c_str()); }
-  CTempFile(const CTempFile&) = delete;
-  CTempFile& operator=(const CTempFile&) = delete;
-
-  const std::wstring& Name() const { return name_; }
-
-  std::optional<std::string> Content() const {
-    const HANDLE file = CreateFileW(name_.c_str(), GENERIC_READ, FILE_SHARE_READ | FILE_SHARE_WRITE, nullptr,
-                                    OPEN_EXISTING, 0, nullptr);
-    if (file == INVALID_HANDLE_VALUE) return {};
-    std::string content(GetFileSize(file, nullptr), '\0');
-    DWORD read = 0;
-    ReadFile(file, content.data(), static_cast<DWORD>(content.size()), &read, nullptr);
-    CloseHandle(file);
-    return content;
-  }
-
- private:
-  std::wstring name_;
-};
-
-HWND FindSheet(DWORD process) {
-  HWND sheet = nullptr;
-  while ((sheet = FindWindowExW(nullptr, sheet, L"#32770", nullptr)) != nullptr) {
-    DWORD owner = 0;
-    GetWindowThreadProcessId(sheet, &owner);
-    if (owner == process && IsWindowVisible(sheet)) return sheet;
-  }
-  return nullptr;
-}
-
-struct HostRun {
-  bool opened = false;  // whether a sheet came up
-  DWORD exitCode = 0;
-  std::string output, errors;
-};
-
-// Runs the host until it ends; `withSheet` is called once with its sheet, when that stands.
 HostRun RunHost(const std::wstring& arguments, const std::function<void(HWND)>& withSheet = {}) {
-  SECURITY_ATTRIBUTES inherited = {sizeof inherited, nullptr, TRUE};
-  // New names for each run: a process that the system starts beside the host may hold its files open.
-  static int runCount = 0;
-  const std::wstring number = host::FormatNumber(GetCurrentProcessId()) + L"-" + host::FormatNumber(++runCount);
-  const CTempFile outputFile(L"nempdf-host-output-" + number + L".txt");
-  const CTempFile errorFile(L"nempdf-host-errors-" + number + L".txt");
-  const auto create = [&](const CTempFile& file) {
-    const HANDLE handle =
-        CreateFileW(file.Name().c_str(), GENERIC_WRITE, FILE_SHARE_READ, &inherited, CREATE_ALWAYS, 0, nullptr);
-    EXPECT_NE(handle, INVALID_HANDLE_VALUE) << GetLastError();
-    return handle;
-  };
-  STARTUPINFOW startup = {};
-  startup.cb = sizeof startup;
-  startup.dwFlags = STARTF_USESTDHANDLES;
-  startup.hStdInput = CreateFileW(L"NUL", GENERIC_READ, 0, &inherited, OPEN_EXISTING, 0, nullptr);
-  startup.hStdOutput = create(outputFile);
-  startup.hStdError = create(errorFile);
-
-  HostRun run;
-  std::wstring commandLine = L"\"" + kProgram + L"\" " + arguments;
-  PROCESS_INFORMATION process = {};
-  if (!CreateProcessW(nullptr, commandLine.data(), nullptr, nullptr, TRUE, 0, nullptr, nullptr, &startup, &process)) {
-    ADD_FAILURE() << "the host cannot be started: error " << GetLastError();
-    return run;
-  }
-  const DWORD begin = GetTickCount();
-  while (WaitForSingleObject(process.hProcess, 10) == WAIT_TIMEOUT) {
-    if (const HWND sheet = run.opened ? nullptr : FindSheet(process.dwProcessId)) {
-      run.opened = true;
-      if (withSheet) withSheet(sheet);
-    }
-    if (GetTickCount() - begin > kPatienceMilliseconds) {
-      ADD_FAILURE() << "the host does not end";
-      TerminateProcess(process.hProcess, 99);
-      WaitForSingleObject(process.hProcess, INFINITE);
-    }
-  }
-  GetExitCodeProcess(process.hProcess, &run.exitCode);
-  for (HANDLE handle : {process.hThread, process.hProcess, startup.hStdInput, startup.hStdOutput, startup.hStdError})
-    CloseHandle(handle);
-  run.output = outputFile.Content().value_or("(none)");
-  run.errors = errorFile.Content().value_or("(none)");
-  return run;
+  return RunProgram(kProgram, arguments, withSheet);
 }
-
-void PressOk(HWND sheet) { PostMessageW(sheet, PSM_PRESSBUTTON, PSBTN_OK, 0); }
-void PressCancel(HWND sheet) { PostMessageW(sheet, PSM_PRESSBUTTON, PSBTN_CANCEL, 0); }
 
 host::Settings ReadBack(const std::string& bytes) {
   host::Settings settings;
