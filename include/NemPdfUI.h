@@ -1,6 +1,7 @@
 /* NemPdfUI.h: the settings dialogs of the NEM pdf vonder printer, NemPdfUI64.dll.
  *
- * The one header that a host includes, for C and C++. It needs nothing but <stdint.h> and <wchar.h>.
+ * The one header that a host includes, for C and C++. It needs nothing but <stdint.h> and <wchar.h>. NemPdfUI.hpp wraps
+ * it for hosts in C++20; docs/hosts.md shows how hosts are written.
  *
  *
  * Calling order
