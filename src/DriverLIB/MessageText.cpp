@@ -1,6 +1,7 @@
 #include "DriverLIB/MessageText.h"
 
 #include <algorithm>
+#include <atomic>
 #include <iterator>
 #include <string_view>
 #include <utility>
@@ -9,7 +10,8 @@ namespace {
 
 // Written at process attach only, before other threads can enter.
 void* moduleInstance = nullptr;
-uint16_t uiLanguage = kEnglish;
+// The user may choose another one while other threads show their sheets. Nothing else hangs on its value.
+std::atomic<uint16_t> uiLanguage = kEnglish;
 
 // The message in `language`. The table's languages are primary ones without a country, and whether a search for
 // German as spoken in Germany finds plain German is the platform's choice, so both are asked for.
@@ -23,24 +25,30 @@ int FormatIn(uint16_t language, void* module, wchar_t* buffer, int bufferChars, 
 
 bool IsLeftOpen(const wchar_t* text, int length) { return length == 2 && text[0] == L'X' && text[1] == L'X'; }
 
+// The message in `language`, or else in English; empty when it has neither. `bufferChars` is at least 1.
+void FormatInOrEnglish(uint16_t language, void* module, wchar_t* buffer, int bufferChars, uint32_t id,
+                       const MessageInserts& inserts) {
+  int length = FormatIn(language, module, buffer, bufferChars, id, inserts);
+  if ((length <= 0 || IsLeftOpen(buffer, length)) && language != kEnglish)
+    length = FormatIn(kEnglish, module, buffer, bufferChars, id, inserts);
+  buffer[std::clamp(length, 0, bufferChars - 1)] = L'\0';
+}
+
 }  // namespace
 
 void* ModuleInstance() { return moduleInstance; }
 
 void SetModuleInstance(void* module) { moduleInstance = module; }
 
-uint16_t GetUILanguage() { return uiLanguage; }
+uint16_t GetUILanguage() { return uiLanguage.load(std::memory_order_relaxed); }
 
 void SetUILanguage(uint16_t language) {
-  if (language != 0) uiLanguage = language;
+  if (language != 0) uiLanguage.store(language, std::memory_order_relaxed);
 }
 
 bool FormatMsgLang(void* module, wchar_t* buffer, int bufferChars, uint32_t id, const MessageInserts& inserts) {
   if (!buffer || bufferChars <= 0) return false;
-  int length = FormatIn(uiLanguage, module, buffer, bufferChars, id, inserts);
-  if ((length <= 0 || IsLeftOpen(buffer, length)) && uiLanguage != kEnglish)
-    length = FormatIn(kEnglish, module, buffer, bufferChars, id, inserts);
-  buffer[std::clamp(length, 0, bufferChars - 1)] = L'\0';
+  FormatInOrEnglish(GetUILanguage(), module, buffer, bufferChars, id, inserts);
   return true;
 }
 
@@ -54,14 +62,16 @@ bool LoadMsgTextV(CUString& text, void* module, uint32_t id, const MessageInsert
   return loaded;
 }
 
-CUString MessageTextV(uint32_t id, const MessageInserts& inserts) {
+CUString MessageTextIn(uint16_t language, uint32_t id, const MessageInserts& inserts) {
   wchar_t buffer[1024];  // nearly every text fits
   constexpr int kSize = static_cast<int>(std::size(buffer));
-  FormatMsgLang(moduleInstance, buffer, kSize, id, inserts);
+  FormatInOrEnglish(language, moduleInstance, buffer, kSize, id, inserts);
   const std::wstring_view text = buffer;
   if (text.size() < kSize - 1) return CUString(text);
   CUString whole;
-  LoadMsgTextV(whole, moduleInstance, id, inserts);
+  whole.EnsureCapacity(kMessageCapacity);
+  FormatInOrEnglish(language, moduleInstance, whole.Buffer(), kMessageCapacity, id, inserts);
+  whole.ReleaseBuffer(-1);
   return CUString(whole.View());
 }
 

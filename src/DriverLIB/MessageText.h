@@ -60,12 +60,12 @@ bool LoadMsgText(CUString& text, void* module, uint32_t id, const Values&... val
   return LoadMsgTextV(text, module, id, MessageInserts(values...));
 }
 
-// A message of the library's own table, in a string that is no larger than its text.
-CUString MessageTextV(uint32_t id, const MessageInserts& inserts);
+// A message of the library's own table, in a string that is no larger than its text: in `language` or else English.
+CUString MessageTextIn(uint16_t language, uint32_t id, const MessageInserts& inserts = MessageInserts());
 
 template <typename... Values>
 CUString MessageText(uint32_t id, const Values&... values) {
-  return MessageTextV(id, MessageInserts(values...));
+  return MessageTextIn(GetUILanguage(), id, MessageInserts(values...));
 }
 
 // The platform's text for a system error in the user's language, at most 256 characters without a line break at their

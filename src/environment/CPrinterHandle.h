@@ -2,11 +2,12 @@
 
 #include "environment/Spooler.h"
 
-// An open printer, closed when the object goes. Null when there is no printer of that name.
+// An open printer, closed when the object goes. Null when there is no printer of that name, and for no name, which to
+// the spooler is that of the computer.
 class CPrinterHandle {
  public:
   explicit CPrinterHandle(const wchar_t* printerName) {
-    if (!spooler::OpenPrinterW(printerName, &handle_)) handle_ = nullptr;
+    if (!printerName || !*printerName || !spooler::OpenPrinterW(printerName, &handle_)) handle_ = nullptr;
   }
   ~CPrinterHandle() {
     if (handle_) spooler::ClosePrinter(handle_);

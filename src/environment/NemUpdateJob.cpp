@@ -1,5 +1,7 @@
 #include "environment/NemUpdateJob.h"
 
+#include "DriverLIB/Trace.h"
+
 namespace {
 
 constexpr int kTextSize = 1024;  // of all texts that the updater gives, in characters
@@ -17,7 +19,11 @@ constexpr ExportTable<NemUpdateJob::Export>::Names NemUpdateJob::kNames = {
 };
 
 NemUpdateJob::~NemUpdateJob() {
-  if (job_) Call(exports_[Export::kFree], &job_);
+  try {
+    if (job_) Call(exports_[Export::kFree], &job_);
+  } catch (...) {
+    TraceError("~NemUpdateJob: exception of the updater");
+  }
 }
 
 bool NemUpdateJob::Load(int, const wchar_t* directory, const wchar_t* filename) {

@@ -1,5 +1,6 @@
 #include "pages/CInfoPage.h"
 
+#include "DriverLIB/AFile.h"
 #include "DriverLIB/Directories.h"
 #include "DriverLIB/Identity.h"
 #include "DriverLIB/MessageBoxes.h"
@@ -49,7 +50,6 @@ BOOL CInfoPage::OnInitDialog() {
 
   for (size_t i = 0; i < std::size(kLinks); ++i) {
     links_[i].Attach(*this, kLinks[i].controlId);
-    links_[i].SetUrl(WebAddress(kLinks[i].addressId).Text());
     links_[i].SetUnderline(true);
   }
   return TRUE;
@@ -61,6 +61,8 @@ void CInfoPage::DoDataExchange(CDataExchange& exchange) {
     CUString notice = noticeText;
     notice.ReplaceStr(L"\\n", L"\r\n");
     if (!notice.IsEmpty()) Item(IDC_INFO_NOTICE).SetText(notice.Text());
+    // Anew each time: the language page may have changed what they are.
+    for (size_t i = 0; i < std::size(kLinks); ++i) links_[i].SetUrl(WebAddress(kLinks[i].addressId).Text());
   }
   // The video is offered in Germany: the ids of Austria and others do not have it, though their texts are the same.
   Item(IDC_INFO_VIDEO_LINK).Show(GetUILanguage() == MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN));
@@ -90,7 +92,7 @@ void CInfoPage::SwitchTrace(bool enable, const CUString& folder) {
     return;
   }
   // The message shows no name, though it has a place for one: the one behind it names the folder.
-  if (!CreateDirectoryTree(folder)) Tell(MSG_INFO_FOLDER_NOT_CREATED, MB_ICONWARNING);
+  if (!FileExists(folder.Text()) && !CreateDirectoryTree(folder)) Tell(MSG_INFO_FOLDER_NOT_CREATED, MB_ICONWARNING);
   Tell(MSG_INFO_TRACE_ON, MB_ICONINFORMATION, folder);
 }
 

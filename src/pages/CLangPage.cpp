@@ -81,32 +81,28 @@ void CLangPage::DoDataExchange(CDataExchange& exchange) {
 }
 
 void CLangPage::LoadLanguage() {
-  RefreshLanguageTexts();
-  const auto* row = std::ranges::find(kLanguages, ReadLanguageSetting(), &LanguageRow::stored);
+  RefreshLanguageTexts(GetUILanguage());
+  storedLanguage_ = ReadLanguageSetting();
+  const auto* row = std::ranges::find(kLanguages, storedLanguage_, &LanguageRow::stored);
   if (row == std::end(kLanguages)) row = kLanguages;
   ::CheckRadioButton(Handle(), IDC_LANGUAGE_SYSTEM, IDC_LANGUAGE_FRENCH, row->controlId);
 }
 
 void CLangPage::SaveLanguage() {
-  const uint16_t stored = ReadLanguageSetting();
+  storedLanguage_ = ReadLanguageSetting();
   uint16_t chosen = CheckedLanguage(*this, kSystemLanguage);
-  if (stored == kNoSetting && chosen == kSystemLanguage) chosen = kNoSetting;
-  if (chosen == stored) return;
+  if (storedLanguage_ == kNoSetting && chosen == kSystemLanguage) chosen = kNoSetting;
+  if (chosen == storedLanguage_) return;
   CRegistryEntry setting(kProductKey, L"LanguageID");
   if (!setting.SetRoot(HKEY_CURRENT_USER).WriteLong(chosen)) return;
   SetUILanguage(ShownLanguage(chosen));
   MsgBoxById(Handle(), GetMsgBoxTitle().Text(), MSG_LANGUAGE_REOPEN, MB_ICONINFORMATION);
-  RefreshLanguageTexts();
+  RefreshLanguageTexts(GetUILanguage());
 }
 
 // The rows show at once in the language that is chosen. Nothing is stored, and no other page notices.
-void CLangPage::OnLanguageClicked() {
-  const uint16_t language = GetUILanguage();
-  SetUILanguage(ShownLanguage(CheckedLanguage(*this, kEnglish)));
-  RefreshLanguageTexts();
-  SetUILanguage(language);
-}
+void CLangPage::OnLanguageClicked() { RefreshLanguageTexts(ShownLanguage(CheckedLanguage(*this, kEnglish))); }
 
-void CLangPage::RefreshLanguageTexts() {
-  for (const LanguageRow& row : kLanguages) Item(row.controlId).SetText(MessageText(row.messageId).Text());
+void CLangPage::RefreshLanguageTexts(uint16_t language) {
+  for (const LanguageRow& row : kLanguages) Item(row.controlId).SetText(MessageTextIn(language, row.messageId).Text());
 }

@@ -18,7 +18,8 @@ class CLangPage : public CNemUIPage {
   void OnLanguageClicked();
   void LoadLanguage();
   void SaveLanguage();
-  void RefreshLanguageTexts();
+  void RefreshLanguageTexts(uint16_t language);
 
+  uint16_t storedLanguage_ = 0;  // as last read; a reader of the setting answers 0 for the system's, too
   CImageStatic flags_[4];
 };

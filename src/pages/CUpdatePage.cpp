@@ -1,10 +1,13 @@
 #include "pages/CUpdatePage.h"
 
+#include <utility>
+
 #include "DriverLIB/AFile.h"
 #include "DriverLIB/CRegistryEntry.h"
 #include "DriverLIB/Identity.h"
 #include "DriverLIB/InstallLocation.h"
 #include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/Trace.h"
 #include "environment/NemUpdateJob.h"
 #include "pages/WebAddress.h"
 
@@ -44,11 +47,6 @@ CUString InstallLocation() {
   return folder;
 }
 
-bool IsUpdaterPresent() {
-  const CUString folder = InstallLocation();
-  return !folder.IsEmpty() && FileExists((folder + L"\\" + kUpdator).Text());  // a second separator does no harm
-}
-
 // What the updater closes before it installs: the sheet that the page stands in, and the window that the sheet belongs
 // to.
 CUString WindowsToClose(const CWnd& page) {
@@ -65,8 +63,8 @@ CUString WindowsToClose(const CWnd& page) {
 
 MessageTable CUpdatePage::Messages() const {
   static constexpr MessageRow kMessages[] = {
-      OnClick<&CUpdatePage::UpdateControls>(IDC_UPDATE_DOWNLOAD),
-      OnClickRange<&CUpdatePage::UpdateControls>(IDC_UPDATE_INSTALL, IDC_UPDATE_BETA),
+      OnClick<&CUpdatePage::UpdateUpdateControls>(IDC_UPDATE_DOWNLOAD),
+      OnClickRange<&CUpdatePage::UpdateUpdateControls>(IDC_UPDATE_INSTALL, IDC_UPDATE_BETA),
       OnClick<&CUpdatePage::OnSearchClicked>(IDC_UPDATE_SEARCH),
   };
   return kMessages;
@@ -86,7 +84,8 @@ void CUpdatePage::LoadSchedule() {
     CButton(Item(row.controlId)).SetCheck(((schedule & row.bit) != 0) != row.isInverse);
   CButton(Item(IDC_UPDATE_AUTOMATIC)).SetCheck(!IsChecked(IDC_UPDATE_MANUAL));
   for (const TextRow& row : kTexts) Item(row.controlId).SetText(MessageText(row.messageId).Text());
-  UpdateControls();
+  CheckUpdaterPresent();
+  UpdateUpdateControls();
 }
 
 void CUpdatePage::SaveSchedule() {
@@ -94,38 +93,59 @@ void CUpdatePage::SaveSchedule() {
   for (const ScheduleRow& row : kSchedule)
     if (IsChecked(row.controlId) != row.isInverse) schedule |= row.bit;
   CRegistryEntry(kProductKey, L"UpdateType").WriteLong(schedule);
-  ApplyOverrides();
+  CheckUpdaterPresent();
+  ApplyUpdateOverrides();
 }
 
 // What is disabled keeps its check, and is stored.
-void CUpdatePage::UpdateControls() {
+void CUpdatePage::UpdateUpdateControls() {
   const bool automatic = !IsChecked(IDC_UPDATE_MANUAL);
   Item(IDC_UPDATE_DOWNLOAD).Enable(automatic);
   Item(IDC_UPDATE_INSTALL).Enable(automatic && IsChecked(IDC_UPDATE_DOWNLOAD));
-  ApplyOverrides();
+  ApplyUpdateOverrides();
 }
 
-void CUpdatePage::ApplyOverrides() {
-  const bool isMissing = !IsUpdaterPresent();
-  Lock(isMissing || updateTypeOverride.IsSet(),
+void CUpdatePage::CheckUpdaterPresent() {
+  const CUString folder = InstallLocation();
+  // A second separator does no harm.
+  isUpdaterMissing_ = folder.IsEmpty() || !FileExists((folder + L"\\" + kUpdator).Text());
+}
+
+void CUpdatePage::ApplyUpdateOverrides() {
+  Lock(isUpdaterMissing_ || updateTypeOverride.IsSet(),
        {IDC_UPDATE_AUTOMATIC, IDC_UPDATE_DOWNLOAD, IDC_UPDATE_INSTALL, IDC_UPDATE_MANUAL, IDC_UPDATE_BETA});
-  Lock(isMissing || disableManualUpdate.value == 1, {IDC_UPDATE_SEARCH});
+  Lock(isUpdaterMissing_ || disableManualUpdate.value == 1, {IDC_UPDATE_SEARCH});
 }
 
 void CUpdatePage::OnSearchClicked() {
-  {
-    NemUpdateJob job;
-    if (!job.Load(kJobFlag, InstallLocation().Text(), kUpdator)) return Tell(MSG_UPDATE_NOT_INITIALIZED, MB_ICONERROR);
+  if (std::exchange(isSearching_, true)) return;
+  const bool isNewest = IsNewest();
+  isSearching_ = false;
+  if (isNewest) Tell(MSG_UPDATE_NONE, 0);
+}
+
+// True when the search has found nothing newer. One that fails, or that goes on in the updater's dialog, has told so.
+bool CUpdatePage::IsNewest() {
+  NemUpdateJob job;  // outlives the handler: what the updater threw is destroyed by its own code
+  try {
+    if (!job.Load(kJobFlag, InstallLocation().Text(), kUpdator)) {
+      Tell(MSG_UPDATE_NOT_INITIALIZED, MB_ICONERROR);
+      return false;
+    }
     SetJobProperties(job);
-    if (!job.SearchForUpdate(kJobFlag)) return Tell(MSG_UPDATE_FAILED, 0, job.GetLastErrorText());
+    if (!job.SearchForUpdate(kJobFlag)) {
+      Tell(MSG_UPDATE_FAILED, 0, job.GetLastErrorText());
+      return false;
+    }
     CUString newVersion;
     job.GetProperty(L"newversion", newVersion);
-    if (!newVersion.IsEmpty()) {
-      job.DownloadUpdate(kJobFlag);  // the updater's own dialog goes on, and tells what fails
-      return;
-    }
+    if (newVersion.IsEmpty()) return true;
+    job.DownloadUpdate(kJobFlag);  // the updater's own dialog goes on, and tells what fails
+  } catch (...) {
+    TraceError("CUpdatePage::OnSearchClicked: exception of the updater");
+    Tell(MSG_UPDATE_FAILED, 0);
   }
-  Tell(MSG_UPDATE_NONE, 0);
+  return false;
 }
 
 void CUpdatePage::SetJobProperties(NemUpdateJob& job) {
@@ -140,6 +160,7 @@ void CUpdatePage::SetJobProperties(NemUpdateJob& job) {
   job.SetProperty(L"msilogpath", InstallLocation().Text());
 }
 
+// An updater that installs closes the sheet: a page that is gone has nothing to tell.
 void CUpdatePage::Tell(uint32_t messageId, UINT icon, const CUString& insert) {
-  MsgBoxById(Handle(), GetMsgBoxTitle().Text(), messageId, icon, insert);
+  if (IsWindow()) MsgBoxById(Handle(), GetMsgBoxTitle().Text(), messageId, icon, insert);
 }

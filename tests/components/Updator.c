@@ -2,6 +2,7 @@
 #include "Component.h"
 
 #include <wchar.h>
+#include <windows.h>
 
 static int theJob;
 EXPORT int openJobs; /* created and not yet freed */
@@ -52,7 +53,9 @@ EXPORT int NemUpdatorJobGetPropertyW(void* job, const wchar_t* name, wchar_t* bu
     for (int i = 0; i < 2 * 1024; ++i) text[i] = L'x';
     return AnswerWide(buffer, size, text);
   }
-#if defined(IS_NEWER)
+#if defined(ANSWERS_NOTHING)
+  return 0;
+#elif defined(IS_NEWER)
   return AnswerWide(buffer, size, L"2.11.0");
 #else
   return AnswerWide(buffer, size, L"");
@@ -75,6 +78,10 @@ EXPORT int NemUpdatorJobGetLastErrorTextW(void* job, wchar_t* buffer, int size) 
 
 EXPORT int NemUpdatorJobSearchForUpdate(void* job, int flag) {
   NoteFlag("NemUpdatorJobSearchForUpdate", job, flag);
+#if defined(PUMPS_MESSAGES)
+  MSG message;
+  while (PeekMessageW(&message, 0, 0, 0, PM_REMOVE)) DispatchMessageW(&message);
+#endif
 #if defined(SEARCH_FAILS)
   return 0;
 #else

@@ -12,6 +12,7 @@
 #include "environment/NemEpdfDll.h"
 #include "environment/NemPdfmDll.h"
 #include "environment/NemPrintJob.h"
+#include "environment/NemUpdateJob.h"
 #include "environment/NemVdApiDll.h"
 #include "support/ComponentFolder.h"
 
@@ -372,6 +373,13 @@ TEST(LookUps, OfTheJobInterface) {
        "NemPdfVdJobGetPropertyW", "NemPdfVdJobGetError", "NemPdfVdJobGetErrorTextA", "NemPdfVdJobCreate",
        "NemPdfVdJobFree", "NemPdfVdJobStart", "NemPdfVdJobPrint", "NemPdfVdJobWaitFor",
        "NemPdfVdJobInitDevModeProperty", "NemPdfVdJobShowDevModeProperty", "NemPdfVdJobSaveDevModeProperty"});
+}
+
+TEST(LookUps, OfTheUpdater) {
+  ExpectLookUps<NemUpdateJob>(
+      1, L"newer", nullptr,
+      {"NemUpdatorJobCreate", "NemUpdatorJobFree", "NemUpdatorJobGetPropertyW", "NemUpdatorJobSetPropertyW",
+       "NemUpdatorJobGetLastErrorTextW", "NemUpdatorJobSearchForUpdate", "NemUpdatorJobDownloadUpdate"});
 }
 
 TEST(LookUps, OfEnhancedPdf) {

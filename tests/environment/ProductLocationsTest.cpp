@@ -143,7 +143,8 @@ TEST_F(AdminToolTest, IsOpenedFromTheInstallLocation) {
   EXPECT_EQ(nullptr, executed.lpDirectory);
   EXPECT_EQ(nullptr, executed.hwnd);
   EXPECT_EQ(SW_SHOW, executed.nShow);
-  EXPECT_TRUE(executed.fMask & SEE_MASK_NOCLOSEPROCESS);
+  EXPECT_EQ(static_cast<ULONG>(SEE_MASK_NOCLOSEPROCESS | SEE_MASK_FLAG_NO_UI), executed.fMask)
+      << "the caller tells the user of a failure, not the shell";
 }
 
 TEST_F(AdminToolTest, FailsByTheSystemsErrorWithoutAProcess) {

@@ -459,14 +459,24 @@ constexpr KnownText kKnownTexts[] = {
     {0x4001091A, L"Left to right"},
     {0x4001091B, L"Right to left"},
     {0x4001087C, L"XX"},
+    {0x400107EA, L"%1!s!/nem-pdf-vonder"},
     {0x4001080C, L"NEM pdf vonder:"},
+    {0x40010813, L"%1!s!/newsletter"},
     {0x40010818, L"Should the creation of trace files be activated?"},
     {0x40010819, L"Should the creation of trace files be deactivated?"},
     {0x4001081A, L"The printer queue could not be restarted. Please quit the program and restart the printer queue."},
+    {0x4001081B,
+     L"The creation of trace files has been activated. They will be written to the folder \"%1!s!\".%n%n"
+     L"Please proceed as follows:%n1. Please resstart the program from which you print.%n"
+     L"2. Repeat the steps that lead to the problem.%n"
+     L"3. Deactivate the creation of trace files by another click on the logo.%n"
+     L"4. Send all files of the folder to the NEM support.%n%nThank you very much for your support!"},
     {0x4001081C, L"The creation of trace files has been deactivated."},
     {0x4001081D, L"The folder \"%1!s!\" could not be created."},
     {0x4001081F,
      L"You can choose a directory, that should be used to write the Trace-Files.%nCancel: \"%1!s!\" will be used."},
+    {0x40010831, L"%1!s!/faq"},
+    {0x40010832, L"%1!s!/forum"},
     {0x40010857,
      L"The registry entry \"%1!s!\" could not be modified. %nPlease verify, if you're holding all appropriate security "
      L"rights or log on as administrator!"},

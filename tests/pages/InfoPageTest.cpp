@@ -9,6 +9,7 @@
 #include "driver/CommonDialogs.h"
 #include "driver/ImportPatch.h"
 #include "driver/Popups.h"
+#include "driver/SelfProcess.h"
 #include "driver/Text.h"
 #include "support/ComponentFolder.h"
 #include "support/InstalledProduct.h"
@@ -78,6 +79,7 @@ TEST_F(InfoPage, TheVideoIsForGermanAlone) {
     EXPECT_EQ(shown, page.Control(kVideo).IsVisible()) << language;
     SetUILanguage(shown ? kEnglish : 0x0407);  // the language page may change it
     page.Page().UpdateData(false);
+    if (!shown) EXPECT_EQ(L"https://www.nem-software.example/de/video", LinkAddress(page.Control(kVideo)));
     EXPECT_EQ(!shown, page.Control(kVideo).IsVisible()) << language;
   }
 }
@@ -146,6 +148,60 @@ TEST_F(InfoPage, WithoutAPrinterThePageGoesOn) {
     EXPECT_EQ(0, thread.Error().trace->errorCount);
     EXPECT_EQ(L"", page.Control(kNotice).Text());
   }
+}
+
+// The spooler is bound at its first use: one of the test's needs a process of its own.
+namespace {
+
+int opened, closed;
+const auto realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", &GetProcAddress);
+
+BOOL WINAPI OpenAny(wchar_t*, HANDLE* printer, PRINTER_DEFAULTSW*) {
+  ++opened;
+  *printer = reinterpret_cast<HANDLE>(static_cast<INT_PTR>(1234));
+  return TRUE;
+}
+BOOL WINAPI CloseAny(HANDLE) {
+  ++closed;
+  return TRUE;
+}
+BOOL WINAPI GetNoPrinter(HANDLE, DWORD, BYTE*, DWORD, DWORD*) {
+  SetLastError(ERROR_INVALID_HANDLE);
+  return FALSE;
+}
+FARPROC WINAPI GetSpoolerProc(HMODULE module, const char* name) {
+  if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF) {
+    const std::string_view wanted(name);
+    if (wanted == "OpenPrinterW") return reinterpret_cast<FARPROC>(&OpenAny);
+    if (wanted == "ClosePrinter") return reinterpret_cast<FARPROC>(&CloseAny);
+    if (wanted == "GetPrinterW") return reinterpret_cast<FARPROC>(&GetNoPrinter);
+  }
+  return realGetProcAddress(module, name);
+}
+
+}  // namespace
+
+TEST_F(InfoPage, DISABLED_WithASpoolerWhosePrintersAreNotValid) {
+  PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&GetSpoolerProc));
+  for (const auto& [name, openings] : {std::pair{L"", 0}, {L"Alpha", 1}}) {
+    PageUnderTest page(kPage);
+    page.Sheet().properties.PrinterName.SetString(name);
+    TracedThread thread;
+    ASSERT_TRUE(page.Open());
+    EXPECT_EQ(openings, opened) << "a printer without a name would be the computer";
+    EXPECT_EQ(opened, closed);
+    EXPECT_EQ(Lines{openings ? L"NemUIInfoPage::OnInitDialog: Invalid printer handle 1234"
+                             : L"NemUIInfoPage::OnInitDialog: Invalid printer handle 0"},
+              thread.Lines());
+    EXPECT_EQ(L"", page.Control(kNotice).Text());
+  }
+}
+
+TEST(InfoPageAlone, APrinterThatIsNotValidSaysNothing) {
+  const ProcessResult result =
+      RunSelf(L"--gtest_also_run_disabled_tests --gtest_filter=InfoPage.DISABLED_WithASpoolerWhosePrintersAreNotValid");
+  EXPECT_EQ(0u, result.exitCode) << result.output;
+  EXPECT_NE(std::string::npos, result.output.find("[  PASSED  ] 1 test.")) << result.output;
 }
 
 // --- The switch for trace files ------------------------------------------------------------------------------------
@@ -298,12 +354,14 @@ TEST_F(TraceSwitch, OffDeletesBothValues) {
 }
 
 TEST_F(TraceSwitch, OneRootAloneIsEnoughToBeOn) {
-  user.Set(L"trace");  // without a folder
   Open();
-  ExpectQuestion(kAskOff);
-  ExpectBox(kOff, MB_ICONINFORMATION);
-  ClickLogo();
-  EXPECT_EQ(std::nullopt, user.Text());
+  for (ProductValue* root : {&user, &machine}) {
+    root->Set(L"trace");  // without a folder
+    ExpectQuestion(kAskOff);
+    ExpectBox(kOff, MB_ICONINFORMATION);
+    ClickLogo();
+    EXPECT_EQ(std::nullopt, root->Text());
+  }
 }
 
 TEST_F(TraceSwitch, AUserWithoutRightsOnTheMachineCanSwitchOnAndNotOff) {

@@ -162,6 +162,23 @@ TEST_F(UpdatePage, AScheduleOfTheAdministratorLocksTheSchedule) {
   }
 }
 
+// The value of the administrator is neither shown nor stored.
+TEST_F(UpdatePage, AScheduleOfTheAdministratorLeavesTheUsersAsItIs) {
+  schedule.Set(L"24");
+  test.Admin().UpdateType_Override = 1;
+  Open();
+  EXPECT_EQ((Ids{kAutomatic, kDownload, kInstall, kBeta}), Checked());
+  ASSERT_TRUE(test.Save());
+  EXPECT_EQ(L"24", schedule.Text());
+}
+
+TEST_F(UpdatePage, TheAdministratorCanLockAll) {
+  test.Admin().UpdateType_Override = 1;
+  test.Admin().DisableManualUpdate = 1;
+  Open();
+  EXPECT_EQ(Ids{}, Enabled());
+}
+
 TEST_F(UpdatePage, TheAdministratorForbidsTheSearchByHandWith1Alone) {
   for (const auto& [value, open] : {std::pair{kUnsetBoolean, true}, {0, true}, {1, false}, {2, true}}) {
     PageUnderTest locked(kPage);
@@ -193,6 +210,7 @@ TEST_F(UpdatePage, WithoutTheUpdaterAllIsDisabledAndTheScheduleStillShown) {
 TEST_F(UpdatePage, AnUpdaterThatIsGoneIsNoticedWhenThePageIsLeft) {
   Open();
   product.Install(ComponentFolder(L"complete"));
+  Click(kBeta);  // which asks for no file
   EXPECT_NE(Ids{}, Enabled());
   EXPECT_TRUE(test.Page().OnKillActive());
   EXPECT_EQ(Ids{}, Enabled());
@@ -264,6 +282,73 @@ TEST_F(UpdatePage, TellsThatThereIsNoNewerVersion) {
   const std::string calls = updator.TakeCalls();
   EXPECT_EQ(std::string::npos, calls.find("NemUpdatorJobDownloadUpdate")) << calls;
   EXPECT_EQ(0, updator.OpenJobs());
+}
+
+TEST_F(UpdatePage, AVersionThatIsNotAnsweredIsNoNewerOne) {
+  product.Install(ComponentFolder(L"unanswering"));
+  Open();
+  ExpectBox(L"You are using the most current version of this software.", 0);
+  Click(kSearch);
+}
+
+TEST_F(UpdatePage, TheJobIsGoneBeforeTheUserIsTold) {
+  product.Install(ComponentFolder(L"current"));
+  Open();
+  static bool loaded;
+  loaded = true;
+  const HHOOK hook = SetWindowsHookExW(
+      WH_CBT,
+      [](int code, WPARAM wParam, LPARAM lParam) -> LRESULT {
+        if (code == HCBT_ACTIVATE) loaded = GetModuleHandleW(L"NemUpdator64.dll") != nullptr;
+        return CallNextHookEx(nullptr, code, wParam, lParam);
+      },
+      nullptr, GetCurrentThreadId());
+  ExpectBox(L"You are using the most current version of this software.", 0);
+  Click(kSearch);
+  UnhookWindowsHookEx(hook);
+  EXPECT_FALSE(loaded);
+}
+
+// The updater may show windows of its own, and lets the user's clicks through meanwhile.
+TEST_F(UpdatePage, ASecondClickStartsNoSecondSearch) {
+  product.Install(ComponentFolder(L"pumping"));
+  LoadedUpdator updator(L"pumping");
+  Open();
+  PostMessageW(test.Page().Handle(), WM_COMMAND, MAKEWPARAM(kSearch, BN_CLICKED),
+               reinterpret_cast<LPARAM>(test.Control(kSearch).Window()));
+  ExpectBox(L"You are using the most current version of this software.", 0);
+  Click(kSearch);
+  const std::string calls = updator.TakeCalls();
+  const size_t first = calls.find("NemUpdatorJobSearchForUpdate");
+  EXPECT_NE(std::string::npos, first);
+  EXPECT_EQ(std::string::npos, calls.find("NemUpdatorJobSearchForUpdate", first + 1)) << calls;
+  ExpectBox(L"You are using the most current version of this software.", 0);
+  Click(kSearch);  // later it does
+}
+
+TEST_F(UpdatePage, APageThatEndsMeanwhileTellsNothing) {
+  product.Install(ComponentFolder(L"pumping"));
+  Open();
+  static CNemUIPage* page;
+  page = &test.Page();
+  SetTimer(nullptr, 0, USER_TIMER_MINIMUM, [](HWND, UINT, UINT_PTR timer, DWORD) {
+    KillTimer(nullptr, timer);
+    page->Destroy();
+  });
+  Sleep(10 * USER_TIMER_MINIMUM);
+  Click(kSearch);
+  EXPECT_FALSE(test.Page().IsWindow());
+}
+
+// The code that destroys what was thrown lies in the updater, which stays until then.
+TEST_F(UpdatePage, AnUpdaterThatThrowsHasFailed) {
+  product.Install(ComponentFolder(L"throwing"));
+  Open();
+  for (int i = 0; i < 2; ++i) {
+    ExpectBox(L"The update check wasn't able to proceed. The reported error was \"\".", 0);
+    Click(kSearch);
+    EXPECT_EQ(nullptr, GetModuleHandleW(L"NemUpdator64.dll"));
+  }
 }
 
 TEST_F(UpdatePage, TellsWhyTheSearchFailed) {

@@ -32,6 +32,7 @@ class MaintenancePages : public testing::Test {
 
   ProductValue language{HKEY_CURRENT_USER, L"LanguageID"};
   ProductValue schedule{HKEY_CURRENT_USER, L"UpdateType"};
+  ProductValue machineTrace{HKEY_LOCAL_MACHINE, L"TraceFilename"}, userTrace{HKEY_CURRENT_USER, L"TraceFilename"};
   HostDialog host;
 };
 
@@ -73,6 +74,16 @@ TEST_F(MaintenancePages, TheLanguageIsStoredWhenThePageIsLeft) {
   };
   EXPECT_EQ(0, RunOn(kLanguagePage, body).value);
   EXPECT_EQ(L"1033", language.Text());
+}
+
+TEST_F(MaintenancePages, CancelAloneStoresNoLanguage) {
+  const auto body = [](Sheet& sheet) -> SheetTask {
+    sheet.Control(IDC_LANGUAGE_GERMAN).Click();
+    sheet.PressCancel();
+    co_return;
+  };
+  EXPECT_EQ(0, RunOn(kLanguagePage, body).value);
+  EXPECT_EQ(std::nullopt, language.Text());
 }
 
 TEST_F(MaintenancePages, TheLanguageIsToldOnceAtOk) {
