@@ -121,6 +121,18 @@ TEST(CEPathString, ValuesAreCopiedAndMoved) {
   EXPECT_EQ(assigned, L"other");
 }
 
+TEST(CEPathString, TakingATextLeavesTheLastErrorAlone) {
+  CEPathString path(L"C:\\a");
+  platform::SetLastError(5);
+  path.ReportFailure(nullptr, nullptr);
+  path = CUString(L"C:\\b");
+  CUString other(L"C:\\c");
+  swap(path, other);
+  EXPECT_EQ(path, L"C:\\c");
+  EXPECT_EQ(other, L"C:\\b");
+  EXPECT_EQ(5u, path.LastSystemError());
+}
+
 TEST(CEPathString, ReportFailureKeepsTheSystemsLastError) {
   TracedThread thread;
   CEPathString path;
