@@ -1,21 +1,31 @@
 #pragma once
 
-#include "environment/TavexDll.h"
+#include "environment/TavexDllOf.h"
+
+enum class NemEpdfExport {
+  kGetErrorText,
+  kGetVersion,
+  kSetProperty,
+  kGetProperty,
+  kGetLastError,
+  kGetLastErrorText,
+  kIsEPdf,
+  kIsEncryptedPdf,
+  kIsPasswordValid,
+  kGetEPdf,
+  kGetEmbeddedFile,
+  kGetEPdfInfo,
+  kGetEPdfSettings,
+  kCount
+};
 
 // The component for enhanced PDF.
-class NemEpdfDll : public TavexDll {
+class NemEpdfDll : public TavexDllOf<NemEpdfExport> {
  public:
   bool Load(int mode, const wchar_t* directory, const wchar_t* filename) override;
   void GetName(CEString& name) const override { name = "NEM pdf toolbox"; }
-
-  int SetProperty(const char* name, const char* value) override;
-  int GetProperty(const char* name, char* buffer, int size) override;
-  int GetLastError(uint32_t* code) override;
-  int GetLastErrorText(char* buffer, int size) override;
-  int GetErrorText(uint32_t code, char* buffer, int size) override;
   const PropertyTableRow* GetPropertyTable() const override { return nullptr; }
   void GetShortName(CEString& name) const override { name = "Epdf"; }
-  int GetVersion(uint32_t* version) const override;
 
   int IsEPdf(const char* filename);
   int IsEncryptedPdf(const char* filename);
@@ -27,23 +37,5 @@ class NemEpdfDll : public TavexDll {
   int GetEPdfSettings(const char* filename, const char* password, char* buffer, int size);
 
  private:
-  enum class Export {
-    kGetErrorText,
-    kGetVersion,
-    kSetProperty,
-    kGetProperty,
-    kGetLastError,
-    kGetLastErrorText,
-    kIsEPdf,
-    kIsEncryptedPdf,
-    kIsPasswordValid,
-    kGetEPdf,
-    kGetEmbeddedFile,
-    kGetEPdfInfo,
-    kGetEPdfSettings,
-    kCount
-  };
-  static const ExportTable<Export>::Names kNames;
-
-  ExportTable<Export> exports_;
+  static const ExportTable<NemEpdfExport>::Names kNames;
 };

@@ -8,26 +8,26 @@ enum class When { kAlways, kMode2, kOtherMode, kOtherModeNotMinor0, kNotMinor0 }
 
 struct NemPrintDll::LookUp {
   const wchar_t* name;
-  Export function;
+  NemPrintExport function;
   When when;
 };
 
 // In this order, behind the version, which the conditions ask for.
 constexpr NemPrintDll::LookUp NemPrintDll::kLookUps[] = {
-    {L"NemPrLoad2", Export::kLoad, When::kMode2},
-    {L"NemPrSave2", Export::kSave, When::kMode2},
-    {L"NemPrPrint2", Export::kPrint, When::kMode2},
-    {L"NemPrLoad", Export::kLoad, When::kOtherModeNotMinor0},
-    {L"NemPrSave", Export::kSave, When::kOtherModeNotMinor0},
-    {L"NemPrPrint", Export::kPrint, When::kOtherMode},
-    {L"NemPrShowPrintDialog", Export::kShowPrintDialog, When::kAlways},
-    {L"NemPrShowPrintSetupDialog", Export::kShowPrintSetupDialog, When::kNotMinor0},
-    {L"NemPrSetProperty", Export::kSetProperty, When::kAlways},
-    {L"NemPrGetProperty", Export::kGetProperty, When::kAlways},
-    {L"NemPrGetLastError", Export::kGetLastError, When::kAlways},
-    {L"NemPrGetLastErrorText", Export::kGetLastErrorText, When::kAlways},
-    {L"NemPrGetErrorText", Export::kGetErrorText, When::kAlways},
-    {L"NemMailSend", Export::kMailSend, When::kNotMinor0},
+    {L"NemPrLoad2", NemPrintExport::kLoad, When::kMode2},
+    {L"NemPrSave2", NemPrintExport::kSave, When::kMode2},
+    {L"NemPrPrint2", NemPrintExport::kPrint, When::kMode2},
+    {L"NemPrLoad", NemPrintExport::kLoad, When::kOtherModeNotMinor0},
+    {L"NemPrSave", NemPrintExport::kSave, When::kOtherModeNotMinor0},
+    {L"NemPrPrint", NemPrintExport::kPrint, When::kOtherMode},
+    {L"NemPrShowPrintDialog", NemPrintExport::kShowPrintDialog, When::kAlways},
+    {L"NemPrShowPrintSetupDialog", NemPrintExport::kShowPrintSetupDialog, When::kNotMinor0},
+    {L"NemPrSetProperty", NemPrintExport::kSetProperty, When::kAlways},
+    {L"NemPrGetProperty", NemPrintExport::kGetProperty, When::kAlways},
+    {L"NemPrGetLastError", NemPrintExport::kGetLastError, When::kAlways},
+    {L"NemPrGetLastErrorText", NemPrintExport::kGetLastErrorText, When::kAlways},
+    {L"NemPrGetErrorText", NemPrintExport::kGetErrorText, When::kAlways},
+    {L"NemMailSend", NemPrintExport::kMailSend, When::kNotMinor0},
 };
 
 bool NemPrintDll::Applies(const LookUp& lookUp, int mode) const {
@@ -50,7 +50,8 @@ bool NemPrintDll::Applies(const LookUp& lookUp, int mode) const {
 // The usual file has the name of the 32-bit component; on 64 bits the caller names the file.
 bool NemPrintDll::Load(int mode, const wchar_t* directory, const wchar_t* filename) {
   if (IsLoaded()) return true;
-  if (!LoadFile(directory, filename, L"NemPrt32.dll") || !GetProc(L"NemPrGetVersion", exports_[Export::kGetVersion]))
+  if (!LoadFile(directory, filename, L"NemPrt32.dll") ||
+      !GetProc(L"NemPrGetVersion", exports_[NemPrintExport::kGetVersion]))
     return false;
   NemPrintDll::GetVersion(&version);
   for (const LookUp& lookUp : kLookUps)
@@ -63,34 +64,16 @@ void NemPrintDll::ForgetExports() {
   version = 0;
 }
 
-int NemPrintDll::SetProperty(const char* name, const char* value) {
-  return Call(exports_[Export::kSetProperty], name, value);
+int NemPrintDll::LoadSettings(const char* filename) { return Call(exports_[NemPrintExport::kLoad], filename); }
+
+int NemPrintDll::SaveSettings(const char* filename) { return Call(exports_[NemPrintExport::kSave], filename); }
+
+int NemPrintDll::Print(const char* filename) { return Call(exports_[NemPrintExport::kPrint], filename); }
+
+int NemPrintDll::ShowPrintDialog(HWND owner) { return Call(exports_[NemPrintExport::kShowPrintDialog], owner); }
+
+int NemPrintDll::ShowPrintSetupDialog(HWND owner) {
+  return Call(exports_[NemPrintExport::kShowPrintSetupDialog], owner);
 }
 
-int NemPrintDll::GetProperty(const char* name, char* buffer, int size) {
-  return Call(exports_[Export::kGetProperty], name, buffer, size);
-}
-
-int NemPrintDll::GetLastError(uint32_t* code) { return Call(exports_[Export::kGetLastError], code); }
-
-int NemPrintDll::GetLastErrorText(char* buffer, int size) {
-  return Call(exports_[Export::kGetLastErrorText], buffer, size);
-}
-
-int NemPrintDll::GetErrorText(uint32_t code, char* buffer, int size) {
-  return Call(exports_[Export::kGetErrorText], code, buffer, size);
-}
-
-int NemPrintDll::GetVersion(uint32_t* value) const { return Call(exports_[Export::kGetVersion], value); }
-
-int NemPrintDll::LoadSettings(const char* filename) { return Call(exports_[Export::kLoad], filename); }
-
-int NemPrintDll::SaveSettings(const char* filename) { return Call(exports_[Export::kSave], filename); }
-
-int NemPrintDll::Print(const char* filename) { return Call(exports_[Export::kPrint], filename); }
-
-int NemPrintDll::ShowPrintDialog(HWND owner) { return Call(exports_[Export::kShowPrintDialog], owner); }
-
-int NemPrintDll::ShowPrintSetupDialog(HWND owner) { return Call(exports_[Export::kShowPrintSetupDialog], owner); }
-
-int NemPrintDll::MailSend(const char* filename) { return Call(exports_[Export::kMailSend], filename); }
+int NemPrintDll::MailSend(const char* filename) { return Call(exports_[NemPrintExport::kMailSend], filename); }

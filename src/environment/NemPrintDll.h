@@ -1,24 +1,33 @@
 #pragma once
 
-#include "environment/TavexDll.h"
+#include "environment/TavexDllOf.h"
+
+enum class NemPrintExport {
+  kGetVersion,
+  kLoad,
+  kSave,
+  kPrint,
+  kShowPrintDialog,
+  kShowPrintSetupDialog,
+  kSetProperty,
+  kGetProperty,
+  kGetLastError,
+  kGetLastErrorText,
+  kGetErrorText,
+  kMailSend,
+  kCount
+};
 
 // The print component. One of minor version 0 has neither loading and saving nor the set-up dialog nor mail: those
 // operations return 0 then.
-class NemPrintDll : public TavexDll {
+class NemPrintDll : public TavexDllOf<NemPrintExport> {
  public:
   static constexpr int kSecondInterface = 2;  // the mode that binds the second form of loading, saving and printing
 
   bool Load(int mode, const wchar_t* directory, const wchar_t* filename) override;
   void GetName(CEString& name) const override { name = "NEM print"; }
-
-  int SetProperty(const char* name, const char* value) override;
-  int GetProperty(const char* name, char* buffer, int size) override;
-  int GetLastError(uint32_t* code) override;
-  int GetLastErrorText(char* buffer, int size) override;
-  int GetErrorText(uint32_t code, char* buffer, int size) override;
   const PropertyTableRow* GetPropertyTable() const override { return kPrintPropertyTable; }
   void GetShortName(CEString& name) const override { name = "Print"; }
-  int GetVersion(uint32_t* value) const override;
 
   int LoadSettings(const char* filename);
   int SaveSettings(const char* filename);
@@ -33,25 +42,8 @@ class NemPrintDll : public TavexDll {
   void ForgetExports();
 
  private:
-  enum class Export {
-    kGetVersion,
-    kLoad,
-    kSave,
-    kPrint,
-    kShowPrintDialog,
-    kShowPrintSetupDialog,
-    kSetProperty,
-    kGetProperty,
-    kGetLastError,
-    kGetLastErrorText,
-    kGetErrorText,
-    kMailSend,
-    kCount
-  };
   struct LookUp;
   static const LookUp kLookUps[];
 
   bool Applies(const LookUp& lookUp, int mode) const;
-
-  ExportTable<Export> exports_;
 };
