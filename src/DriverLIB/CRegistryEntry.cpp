@@ -4,11 +4,9 @@
 
 #include <cstdarg>
 #include <cwchar>
-#include <iterator>
 #include <utility>
 
 #include "DriverLIB/MessageText.h"
-#include "DriverLIB/Platform.h"
 #include "DriverLIB/Trace.h"
 #include "DriverLIB/UserHive.h"
 
@@ -263,12 +261,10 @@ void CRegistryEntry::ClearStatus() {
 
 bool CRegistryEntry::SetStatus(uint32_t code, const wchar_t* format, ...) {
   status = code;
-  wchar_t text[2048];
   va_list arguments;
   va_start(arguments, format);
-  platform::FormatWide(text, std::size(text), format, arguments);
+  statusText.FormatV(format, arguments);
   va_end(arguments);
-  statusText.Assign(text);
   return false;
 }
 

@@ -12,64 +12,58 @@ ATraceFile* OpenTraceOf(CError* error) {
   return error && error->trace && error->trace->IsOpen() ? error->trace : nullptr;
 }
 
-void WriteNarrow(ATraceFile& trace, Writer writer, const char* format, va_list arguments) {
+void WriteNarrow(Writer writer, const char* format, va_list arguments) {
+  ATraceFile* trace = OpenTraceOf(CurrentError());
+  if (!trace) return;
   CUString wide;
   wide.AssignNarrow(format);
-  (trace.*writer)(wide.Text(), arguments);
+  (trace->*writer)(wide.Text(), arguments);
+}
+
+void WriteWide(CError* error, Writer writer, const wchar_t* format, va_list arguments) {
+  if (ATraceFile* trace = OpenTraceOf(error)) (trace->*writer)(format, arguments);
 }
 
 }  // namespace
 
 void TraceInfo(const char* format, ...) {
-  ATraceFile* trace = OpenTraceOf(CurrentError());
-  if (!trace) return;
   va_list arguments;
   va_start(arguments, format);
-  WriteNarrow(*trace, &ATraceFile::InfoV, format, arguments);
+  WriteNarrow(&ATraceFile::InfoV, format, arguments);
   va_end(arguments);
 }
 
 void TraceWarning(const char* format, ...) {
-  ATraceFile* trace = OpenTraceOf(CurrentError());
-  if (!trace) return;
   va_list arguments;
   va_start(arguments, format);
-  WriteNarrow(*trace, &ATraceFile::WarningV, format, arguments);
+  WriteNarrow(&ATraceFile::WarningV, format, arguments);
   va_end(arguments);
 }
 
 void TraceError(const char* format, ...) {
-  ATraceFile* trace = OpenTraceOf(CurrentError());
-  if (!trace) return;
   va_list arguments;
   va_start(arguments, format);
-  WriteNarrow(*trace, &ATraceFile::ErrorV, format, arguments);
+  WriteNarrow(&ATraceFile::ErrorV, format, arguments);
   va_end(arguments);
 }
 
 void TraceInfo(CError* error, const wchar_t* format, ...) {
-  ATraceFile* trace = OpenTraceOf(error);
-  if (!trace) return;
   va_list arguments;
   va_start(arguments, format);
-  trace->InfoV(format, arguments);
+  WriteWide(error, &ATraceFile::InfoV, format, arguments);
   va_end(arguments);
 }
 
 void TraceWarning(CError* error, const wchar_t* format, ...) {
-  ATraceFile* trace = OpenTraceOf(error);
-  if (!trace) return;
   va_list arguments;
   va_start(arguments, format);
-  trace->WarningV(format, arguments);
+  WriteWide(error, &ATraceFile::WarningV, format, arguments);
   va_end(arguments);
 }
 
 void TraceError(CError* error, const wchar_t* format, ...) {
-  ATraceFile* trace = OpenTraceOf(error);
-  if (!trace) return;
   va_list arguments;
   va_start(arguments, format);
-  trace->ErrorV(format, arguments);
+  WriteWide(error, &ATraceFile::ErrorV, format, arguments);
   va_end(arguments);
 }

@@ -1,12 +1,12 @@
 #include "environment/Spooler.h"
 
+#include "DriverLIB/SystemFunction.h"
+
 namespace {
 
-// Null when the system has no spooler. The library stays loaded.
 template <class Function>
 Function* Bind(const char* name) {
-  const HMODULE library = ::LoadLibraryExW(L"winspool.drv", nullptr, LOAD_LIBRARY_SEARCH_SYSTEM32);
-  return library ? reinterpret_cast<Function*>(reinterpret_cast<void*>(::GetProcAddress(library, name))) : nullptr;
+  return SystemFunction<Function>(L"winspool.drv", name);
 }
 
 BOOL FailUnbound() {
