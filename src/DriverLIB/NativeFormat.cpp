@@ -256,8 +256,7 @@ class Formatter {
   template <class Source>
   void PutText(const Directive& directive, const Source* text) {
     size_t length = 0;
-    while ((directive.precision < 0 || length < static_cast<size_t>(directive.precision)) && text[length])
-      ++length;
+    while ((directive.precision < 0 || length < static_cast<size_t>(directive.precision)) && text[length]) ++length;
     PutPadded(directive, std::basic_string_view<Source>(text, length));
   }
 

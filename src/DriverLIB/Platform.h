@@ -1,8 +1,8 @@
 // The narrow gate between the window-free code and the operating system.
 //
 // Everything that can be built without <windows.h> asks the platform for its services through these functions
-// alone. Two units implement them: PlatformWindows.cpp for the product and PlatformNative.cpp for the sanitized
-// build on Linux, where wchar_t is 16 bits wide as well (-fshort-wchar).
+// alone. PlatformWindows.cpp implements them for the product; PlatformNative.cpp, with NativeFormat and NativeMessages,
+// for the sanitized build on Linux, where wchar_t is 16 bits wide as well (-fshort-wchar).
 #pragma once
 
 #include <cstdarg>

@@ -10,7 +10,7 @@
 namespace {
 
 constexpr wchar_t kTraceFilename[] = L"TraceFilename";
-constexpr wchar_t kFile[] = L"\\NEMpdfVonder.log";
+constexpr wchar_t kDefaultFile[] = L"\\NEMpdfVonder.log";
 
 }  // namespace
 
@@ -22,7 +22,7 @@ CUString MakeAddInTraceName() {
 }
 
 bool SetTraceEnabled(bool enable, CUString* errorPath, const wchar_t* folder) {
-  const CUString name = CUString(folder ? folder : kDefaultTraceFolder) + kFile;
+  const CUString name = CUString(folder ? folder : kDefaultTraceFolder) + kDefaultFile;
   CRegistryEntry entry(kProductKey, kTraceFilename);
   for (HKEY root : {HKEY_LOCAL_MACHINE, HKEY_CURRENT_USER}) {
     entry.SetRoot(root);

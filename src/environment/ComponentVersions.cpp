@@ -16,7 +16,6 @@ struct ComponentQuery {
 
 constexpr int kMode = 1;
 
-// The component stays loaded until its exception has been dealt with: what it threw may need its code to go away.
 template <class Binding>
 CUString VersionOf(const wchar_t* directory, const ComponentQuery& query) {
   Binding component;  // outlives the handler: what the component threw is destroyed by its own code

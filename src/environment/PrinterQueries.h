@@ -1,5 +1,6 @@
-// What the spooler knows of printers. Every failure is traced and ends in a null block or an empty text, so that a
-// caller can ask without any error handling of its own. `printerHandle` is a handle of the spooler (CPrinterHandle.h).
+// What the spooler knows of printers. A failure ends in a null block, an empty text or false, mostly behind a trace
+// line, so that a caller can ask without any error handling of its own. `printerHandle` is a handle of the spooler
+// (CPrinterHandle.h).
 #pragma once
 
 #include <windows.h>

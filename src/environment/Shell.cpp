@@ -4,7 +4,9 @@
 
 namespace {
 
-constexpr INT_PTR kShellErrorLimit = 32;  // smaller results of ShellExecuteW are errors
+// Results of ShellExecuteW below it are errors. The number itself counts as one where a program is started, and as
+// success where a file or an address is opened.
+constexpr INT_PTR kShellErrorLimit = 32;
 
 template <class Function>
 Function* ShellFunction(const char* name) {
