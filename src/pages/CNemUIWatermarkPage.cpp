@@ -33,3 +33,8 @@ auto CNemUIWatermarkPage::Bindings() const -> BindingTable {
 void CNemUIWatermarkPage::OnPropertiesRead() {
   if (stationeryInfos.IsEmpty()) stationeryInfos = Sheet()->Properties().StationeryInfos[kBasicSettings].GetString();
 }
+
+bool CNemUIWatermarkPage::IsStationeryEnabled() {
+  if (IsLoaded()) return stationeryEnabled != 0;
+  return Sheet() && Sheet()->Properties().StationeryEnabled[SettingsIndex()].GetLong() != 0;
+}

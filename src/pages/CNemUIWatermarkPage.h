@@ -7,6 +7,8 @@ class CNemUIWatermarkPage : public CNemUISettingsPage<CWatermarkPage> {
  public:
   using CNemUISettingsPage::CNemUISettingsPage;
 
+  bool IsStationeryEnabled() override;
+
  protected:
   BindingTable Bindings() const override;
   void OnPropertiesRead() override;

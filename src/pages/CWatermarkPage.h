@@ -8,10 +8,11 @@
 #include "controls/CMyHyperLink.h"
 #include "environment/Override.h"
 #include "pages/CStationeryPropertiesDialog.h"
+#include "pages/StationeryAccess.h"
 #include "pages/StationeryRow.h"
 #include "resources/ResourceIds.h"
 
-class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues> {
+class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public StationeryAccess {
  public:
   using CTrackedPage::CTrackedPage;
   ~CWatermarkPage() override;

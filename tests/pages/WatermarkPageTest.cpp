@@ -418,4 +418,24 @@ TEST_F(WatermarkPage, NoPasswordStaysInMemory) {
   EXPECT_EQ(0, watch.Count());
 }
 
+// --- What other pages ask ------------------------------------------------------------------------------------------
+
+TEST(WatermarkAccess, StationeryIsKnownBeforeThePageIsShownAndStandsOnItBeforeOk) {
+  for (const int set : {0, 1}) {
+    PageUnderTest test(kPageId, set);
+    test.Set(L"StationeryInfos", kList);
+    auto& page = test.As<CNemUIWatermarkPage>();
+    EXPECT_FALSE(page.IsStationeryEnabled());
+    test.Set(L"StationeryEnabled", 1);
+    EXPECT_TRUE(page.IsStationeryEnabled());
+    EXPECT_FALSE(page.IsLoaded());
+    ASSERT_TRUE(test.Open());
+    test.Control(IDC_STATIONERY_USE).Click();
+    ASSERT_TRUE(page.OnKillActive());
+    EXPECT_FALSE(page.IsStationeryEnabled());
+    EXPECT_EQ(L"1", test.Value(L"StationeryEnabled"));
+  }
+  EXPECT_FALSE(CNemUIWatermarkPage(nullptr, {}, 0).IsStationeryEnabled());
+}
+
 }  // namespace
