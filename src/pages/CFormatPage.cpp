@@ -9,8 +9,10 @@
 #include "pages/EmbedFilenamesAccess.h"
 #include "pages/PdfVersions.h"
 #include "pages/SecurityAccess.h"
+#include "pages/StationeryAccess.h"
 #include "pages/ZugferdAccess.h"
 #include "Pictures.h"
+#include "window/ValueScope.h"
 
 namespace {
 
@@ -20,6 +22,8 @@ constexpr uint16_t kPrintOutputWithoutEPdf = 1;
 constexpr int kAddInControls[] = {IDC_FORMAT_ADD_IN_FEATURES, IDC_FORMAT_SEPARATOR};
 constexpr int kEPdfControls[] = {IDC_FORMAT_EPDF_LABEL, IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_EPDF, IDC_FORMAT_SAVE_ASK};
 constexpr int kEngineControls[] = {IDC_FORMAT_ENGINE_LABEL, IDC_FORMAT_ENGINE_DRIVER, IDC_FORMAT_ENGINE_RTF};
+constexpr int kRadios[] = {IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_EPDF, IDC_FORMAT_SAVE_ASK, IDC_FORMAT_ENGINE_DRIVER,
+                           IDC_FORMAT_ENGINE_RTF};
 
 // What a family of versions activates is told to those who come from elsewhere.
 struct DefaultsNotice {
@@ -76,6 +80,8 @@ BOOL CFormatPage::OnInitDialog() {
   if (!FillFromTable(CComboBox(Item(IDC_FORMAT_VERSION)), kPdfVersions)) return FALSE;
   Item(IDC_FORMAT_ADD_IN_FEATURES).SetText(MessageText(MSG_FORMAT_ADD_IN_FEATURES).Text());
   Item(IDC_FORMAT_ENGINE_RTF).SetText(MessageText(MSG_FORMAT_ENGINE_RTF).Text());
+  // A radio that gets the focus tells a click otherwise, which nobody made, while another one is still on.
+  for (const int radio : kRadios) Item(radio).Send(BM_SETDONTCLICK, TRUE);
   if (!CTrackedPage::OnInitDialog()) return FALSE;
 
   informationSign_.Attach(*this, IDC_FORMAT_SIGN_INFORMATION);
@@ -171,10 +177,15 @@ void CFormatPage::ShowDefaults(int previousVersion) {
     untold = false;
     Inform(notice->messageId);
   }
-  if (IsPdfA(version) && stationeryEnabled && stationeryUntold_) {
+  if (IsWindow() && IsPdfA(version) && stationeryUntold_ && UsesStationery()) {
     stationeryUntold_ = false;
     Inform(MSG_FORMAT_STATIONERY_REMINDER);
   }
+}
+
+bool CFormatPage::UsesStationery() {
+  auto* watermark = FindPageAs<StationeryAccess>(*this, kWatermarkPage);
+  return watermark ? watermark->IsStationeryEnabled() : stationeryEnabled != 0;
 }
 
 // Switches off on other pages what the version forbids.
@@ -193,14 +204,13 @@ void CFormatPage::Inform(uint32_t messageId) {
 
 void CFormatPage::OnSaveFormatClicked() { saveFormat = WithSaveChoice(saveFormat, ShownSaveChoice()); }
 
-// A radio button tells a click when it gets the focus, too: the box that goes away gives it back.
+// Whatever tells a click under the box, one box is enough.
 void CFormatPage::OnEngineClicked() {
   const bool isRtf = CButton(Item(IDC_FORMAT_ENGINE_RTF)).IsChecked();
   saveConversion = isRtf ? 1 : 0;
   if (!isRtf || tellingOfEngine_) return;
-  tellingOfEngine_ = true;
+  const ValueScope telling(tellingOfEngine_, true);
   Inform(MSG_FORMAT_RTF_INFORMATION);
-  tellingOfEngine_ = false;
 }
 
 void CFormatPage::SelectVersion() { CComboBox(Item(IDC_FORMAT_VERSION)).Select(RowOfValue(kPdfVersions, version)); }

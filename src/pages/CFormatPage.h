@@ -21,7 +21,7 @@ class CFormatPage : public CTrackedPage<FormatCockpitValues>, public FormatAcces
   uint16_t saveFormat = kNotRead;
   uint16_t saveConversionEnabled = 1;
   uint16_t saveConversion = 0;  // 0 printer driver, 1 RTF
-  uint16_t stationeryEnabled = 0;
+  uint16_t stationeryEnabled = 0;  // as the property was; the watermark page knows better
 
   // What an administrator has fixed.
   NumberOverride versionOverride;
@@ -51,6 +51,7 @@ class CFormatPage : public CTrackedPage<FormatCockpitValues>, public FormatAcces
   bool MayTakeVersion();
   bool GiveUpInvoice();
   void ShowDefaults(int previousVersion);
+  bool UsesStationery();
   void EnforceVersion();
   void Inform(uint32_t messageId);
 

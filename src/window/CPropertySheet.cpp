@@ -7,6 +7,7 @@
 #include "DriverLIB/WindowThreadState.h"
 #include "window/CActivationContext.h"
 #include "window/DialogTemplate.h"
+#include "window/ValueScope.h"
 
 namespace {
 
@@ -14,19 +15,6 @@ constexpr UINT_PTR kSubclassId = 0x4E454D;  // "NEM"
 
 // To the sheet: shows the tab that is as many steps further, round the corner, as the first argument says.
 constexpr UINT kStepTabMessage = WM_APP + 2;
-
-template <class T>
-class ValueScope {
- public:
-  ValueScope(T& variable, T value) : variable_(variable), previous_(std::exchange(variable, value)) {}
-  ~ValueScope() { variable_ = previous_; }
-  ValueScope(const ValueScope&) = delete;
-  ValueScope& operator=(const ValueScope&) = delete;
-
- private:
-  T& variable_;
-  T previous_;
-};
 
 // Pages that were prepared for a sheet and not yet taken by it.
 class PreparedPages {

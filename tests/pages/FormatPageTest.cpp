@@ -1,12 +1,15 @@
 #include <gtest/gtest.h>
 
+#include <new>
 #include <set>
+#include <utility>
 
 #include "driver/SheetDriver.h"
 #include "MessageIds.h"
 #include "pages/CNemUIFormatPage.h"
 #include "pages/EmbedFilenamesAccess.h"
 #include "pages/SecurityAccess.h"
+#include "pages/StationeryAccess.h"
 #include "pages/ZugferdAccess.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
@@ -104,15 +107,47 @@ class FakeAttachmentsPage final : public OtherPage, public EmbedFilenamesAccess 
   const std::string name_;
 };
 
-// Notes for which control help is asked.
+class FakeWatermarkPage final : public OtherPage, public StationeryAccess {
+ public:
+  using OtherPage::OtherPage;
+  bool IsStationeryEnabled() override { return on; }
+  bool on = true;
+};
+
+// Notes for which control help is asked, and has no memory for a box when it is told so.
 class PageUnderTest final : public CNemUIFormatPage {
  public:
   using CNemUIFormatPage::CNemUIFormatPage;
+  CUString GetMsgBoxTitle() override {
+    if (std::exchange(failsOnce, false)) throw std::bad_alloc();
+    return CNemUIFormatPage::GetMsgBoxTitle();
+  }
   LRESULT ShowHelpForControl(WPARAM controlId, LPARAM) override {
     helpAskedFor = static_cast<int>(controlId);
     return 1;
   }
   int helpAskedFor = 0;
+  bool failsOnce = false;
+};
+
+// While it lives: the buttons of the thread that are told to make no click of the focus.
+class QuietRadios {
+ public:
+  QuietRadios() { ids_.clear(); }
+  ~QuietRadios() { UnhookWindowsHookEx(hook_); }
+  QuietRadios(const QuietRadios&) = delete;
+  QuietRadios& operator=(const QuietRadios&) = delete;
+  const std::set<int>& Ids() const { return ids_; }
+
+ private:
+  static LRESULT CALLBACK OnMessageSent(int code, WPARAM wParam, LPARAM lParam) {
+    const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+    if (code == HC_ACTION && sent.message == BM_SETDONTCLICK && sent.wParam) ids_.insert(GetDlgCtrlID(sent.hwnd));
+    return CallNextHookEx(nullptr, code, wParam, lParam);
+  }
+
+  static inline std::set<int> ids_;
+  const HHOOK hook_ = SetWindowsHookExW(WH_CALLWNDPROC, OnMessageSent, nullptr, GetCurrentThreadId());
 };
 
 // The page alone, on a sheet without a window and without other pages.
@@ -256,6 +291,15 @@ TEST_F(FormatPage, AVersionWithoutARowGivesWayToAChoice) {
   EXPECT_EQ(13, StoredVersion());
 }
 
+// Sixteen bits of it are the mark of a version that has not been read.
+TEST_F(FormatPage, AVersionLikeTheMarkOfNoneIsAskedOfItsProperty) {
+  for (const int version : {-1, 0xFFFF}) {
+    OpenWith(version);
+    EXPECT_EQ(13, Shown());
+    EXPECT_EQ(version, page_->GetPdfVersion());
+  }
+}
+
 TEST_F(FormatPage, LeavingAndComingBackKeepsWhatWasChosen) {
   OpenWith(99);
   Choose(17);
@@ -380,6 +424,22 @@ TEST_F(FormatPage, StationeryOfTheOtherSetCountsForNothing) {
   ExpectNotice(kDefaultsA1);
   Choose(100);
   EXPECT_EQ(1u, BoxCount());
+}
+
+// What the user has switched on the watermark page since this page read its properties.
+TEST_F(FormatPage, StationeryOfTheWatermarkPageIsTheOneThatCounts) {
+  FakeWatermarkPage watermark(log_);
+  sheet_.pages[101] = &watermark;
+  for (const bool on : {false, true}) {
+    properties().StationeryEnabled[0].SetLong(on ? 0 : 1);
+    watermark.on = !on;
+    OpenWith(100);
+    watermark.on = on;
+    const size_t before = BoxCount();
+    if (on) ExpectNotice(kStationeryReminder);
+    Choose(101);
+    EXPECT_EQ(on ? 1u : 0u, BoxCount() - before);
+  }
 }
 
 // The owner of the sheet may go away under a box.
@@ -703,6 +763,32 @@ TEST_F(FormatPage, ARadioThatTellsItsClickUnderTheBoxInformsNoSecondTime) {
   EXPECT_EQ(1u, BoxCount());
 }
 
+TEST_F(FormatPage, ABoxThatFailsIsNoReasonToInformNoMore) {
+  Open().failsOnce = true;
+  Control(1273).Click();
+  EXPECT_EQ(0u, BoxCount());
+  ExpectNotice(kRtfInformation);
+  Control(1273).Click();
+  EXPECT_EQ(1u, BoxCount());
+}
+
+// A radio that is off and gets the focus otherwise tells a click, in front of an arrow key's own one. Not every system
+// has that, so the order to leave it is looked at, too.
+TEST_F(FormatPage, ARadioThatGetsTheFocusIsNotChosen) {
+  properties().SaveConversion[0].SetLong(1);
+  properties().SaveFormat[0].SetLong(0);
+  const QuietRadios quiet;
+  Open();
+  EXPECT_EQ((std::set<int>{1267, 1268, 1269, 1272, 1273}), quiet.Ids());
+  for (const int id : {1272, 1273, 1267, 1268, 1269}) {
+    Control(id).Focus();
+    EXPECT_TRUE(Control(id).HasFocus()) << id;
+    EXPECT_EQ(1, page_->saveConversion) << id;
+    EXPECT_EQ(0, page_->GetSaveFormat()) << id;
+  }
+  EXPECT_EQ(0u, BoxCount());
+}
+
 // --- What is enabled -----------------------------------------------------------------------------------------------
 
 TEST_F(FormatPage, BasicSettingsOfAPlainVersionAreOpen) {
@@ -1020,6 +1106,17 @@ TEST_F(FormatPage, TheKindOfFileOfAShownPageIsItsOwn) {
   EXPECT_EQ(1, page_->GetSaveFormat());
   Open(1);
   EXPECT_EQ(2, page_->GetSaveFormat());
+}
+
+TEST_F(FormatPage, TheKindOfFileOfAShownPageIsAPdfWithoutEPdf) {
+  properties().SaveFormatEPdfEnabled[0].SetLong(0);
+  Open(1);
+  EXPECT_EQ(2, page_->saveFormat);
+  EXPECT_EQ(1, page_->GetSaveFormat());
+  CNemUIFormatPage page(&sheet_, kDescription, 0);
+  page.SetCockpitValues({14, 0, 0});
+  EXPECT_EQ(0, page.saveFormat);
+  EXPECT_EQ(1, page.GetSaveFormat());
 }
 
 TEST_F(FormatPage, OtherPagesFindTheVersionByTheNumberOfThePage) {

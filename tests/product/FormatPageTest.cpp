@@ -68,6 +68,27 @@ TEST_F(FormatInSheet, PagesThatWereNeverShownGiveBackEverything) {
   ExpectFormat(1, 99, 0, 3);
 }
 
+// An arrow key gives the next radio the focus first, while the one before it is still on.
+TEST_F(FormatInSheet, ArrowKeysChooseAsTheMouseDoes) {
+  SetFormat(0, 14, 0, 1);
+  const auto body = [](Sheet& sheet) -> SheetTask {
+    sheet.SelectTab(0);
+    co_await sheet.Settled();
+    CO_ASSERT_TRUE(sheet.SelectPage(kFormatPage));
+    for (const int from : {IDC_FORMAT_ENGINE_RTF, IDC_FORMAT_SAVE_ASK}) {
+      EXPECT_TRUE(sheet.Control(from).IsChecked());
+      sheet.Control(from).Focus();
+      sheet.Key(VK_UP);
+      co_await sheet.Settled();
+      EXPECT_EQ(from - 1, sheet.FocusedId());
+      EXPECT_TRUE(sheet.Control(from - 1).IsChecked());
+    }
+    sheet.PressOk();
+  };
+  EXPECT_EQ(1, RunSheet([this] { return host.DoModal(); }, body).value);
+  ExpectFormat(0, 14, 2, 0);
+}
+
 TEST_F(FormatInSheet, CancelLeavesTheHostsValues) {
   SetFormat(0, 14, 0, 0);
   const auto body = [](Sheet& sheet) -> SheetTask {

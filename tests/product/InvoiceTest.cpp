@@ -1,4 +1,5 @@
-// What the pages of a sheet do to each other's values: format and invoice, and the switch for attachments.
+// What the pages of a sheet do to each other's values: format and invoice, format and stationery, and the switch
+// for attachments.
 #include <windows.h>
 // behind windows.h
 #include <gtest/gtest.h>
@@ -9,7 +10,8 @@
 
 namespace {
 
-constexpr int kCockpitPage = 120, kZugferdPage = 112, kLinksPage = 113, kAttachmentsPage = 114, kFormatPage = 118;
+constexpr int kCockpitPage = 120, kWatermarkPage = 101, kZugferdPage = 112, kLinksPage = 113, kAttachmentsPage = 114,
+              kFormatPage = 118;
 constexpr int kRestoreLink = 1444;
 constexpr int kPlain17 = 4, kPdfA1b = 7, kPdfA3b = 12;  // rows of the versions
 constexpr wchar_t kFiles[] = L"\"C:\\not there\\a.doc\"";
@@ -177,6 +179,28 @@ TEST_F(PagesTogether, RestoredDefaultsOutlastALinksPageThatWasShown) {
               sheet.PressOk();
             }));
   EXPECT_EQ(0, host.Long(0, L"EmbedFilenamesEnabled"));
+}
+
+// The format page has read its properties long before: the cockpit asks all pages when the sheet opens.
+TEST_F(PagesTogether, StationeryAsTheUserHasJustLeftItIsRemindedOfAtPdfA) {
+  host.Set(0, L"PdfVersion", 100);
+  host.Set(0, L"StationeryInfos", L"{{NAME:\"Letter\";FILE:\"C:\\\\Paper\\\\z.pdf\";P:\"\";TYPE:\"0\"}}");
+  for (const bool isOn : {true, false}) {
+    host.Set(0, L"StationeryEnabled", isOn ? 0 : 1);
+    EXPECT_EQ(0, Run([isOn](Sheet& sheet) -> SheetTask {
+                co_await Show(sheet, kWatermarkPage);
+                sheet.Control(IDC_STATIONERY_USE).Click();
+                EXPECT_EQ(isOn, sheet.Control(IDC_STATIONERY_USE).IsChecked());
+                co_await Show(sheet, kFormatPage);
+                if (isOn)
+                  sheet.ExpectBox({.title = L"Host",
+                                   .text = L"Please check, that the selected stationery paper is also in the PDF/A "
+                                           L"format.\r\nOtherweise the output-PDF won't be PDF/A format compatible.",
+                                   .icon = MB_ICONINFORMATION});
+                sheet.Control(IDC_FORMAT_VERSION).Select(kPdfA1b);
+                sheet.PressCancel();
+              }));
+  }
 }
 
 // Both tabs have the confirmation, and one of them offers it.
