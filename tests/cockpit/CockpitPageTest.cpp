@@ -1,7 +1,6 @@
 // What the cockpit shows, where it leads, and how it restores the factory state.
 #include "CockpitTest.h"
 
-#include "driver/Popups.h"
 #include "pages/CNemUIPdfGraphicPage.h"
 #include "support/CockpitFields.h"
 
@@ -105,6 +104,9 @@ TEST_F(CockpitTest, AllRowsCanBeMarked) {
   Open();
   EXPECT_EQ(18u, MarkedRows().size());
   EXPECT_EQ(L"(Page size, Page orientationa, Scaling, Margins)", RowText(2));
+  EXPECT_EQ(L"(PDF opening appearance, Reader opening appearance)", RowText(3));
+  EXPECT_EQ(L"(Watermark, Stationary)", RowText(5));
+  EXPECT_EQ(L"(PDF format, Conversion engine)", RowText(10));
   EXPECT_EQ(L"(Default PDF reader, Additonal program)", RowText(11));
   EXPECT_EQ(L"(E-Mail)", RowText(12));
   EXPECT_EQ(L"(Textboxes, Checkboxes, Dropdown elements)", RowText(16));
@@ -173,25 +175,6 @@ TEST_F(CockpitTest, ASquareWithoutALinkLeadsNowhere) {
 }
 
 // --- Restoring ------------------------------------------------------------------------------------------------------
-
-const ExpectedBox kQuestion = {.title = L"Host",
-                               .text = L"All settings will be set to default. Do you wish to continue?",
-                               .icon = MB_ICONWARNING,
-                               .button = IDNO};
-
-class CockpitRestore : public CockpitTest {
- protected:
-  void Restore(int button) {
-    ExpectedBox box = kQuestion;
-    box.button = button;
-    popups_.ExpectBox(box);
-    Control(1444).Click();
-    ASSERT_EQ(1u, popups_.Boxes().size());
-    EXPECT_EQ((std::vector<int>{IDYES, IDNO}), popups_.Boxes().back().buttons);
-  }
-
-  Popups popups_;
-};
 
 TEST_F(CockpitRestore, NoChangesNothing) {
   ChangeAll();

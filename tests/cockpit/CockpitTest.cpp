@@ -73,4 +73,14 @@ POINT CockpitTest::MiddleOf(int id) const {
   return {(area.left + area.right) / 2, (area.top + area.bottom) / 2};
 }
 
+void CockpitRestore::Restore(int button) {
+  popups_.ExpectBox({.title = L"Host",
+                     .text = L"All settings will be set to default. Do you wish to continue?",
+                     .icon = MB_ICONWARNING,
+                     .button = button});
+  Control(1444).Click();
+  ASSERT_EQ(1u, popups_.Boxes().size());
+  EXPECT_EQ((std::vector<int>{IDYES, IDNO}), popups_.Boxes().back().buttons);
+}
+
 }  // namespace cockpit_test

@@ -12,6 +12,7 @@
 
 #include "cockpit/CNemUICockpitPage.h"
 #include "driver/ControlRef.h"
+#include "driver/Popups.h"
 #include "MessageIds.h"
 #include "resources/ResourceIds.h"
 #include "support/FakeSheet.h"
@@ -129,6 +130,14 @@ class CockpitTest : public testing::Test {
   std::vector<std::unique_ptr<CNemUIPage>> pages_ = MakeStandIns(settings_);
   PageParent parent_;
   CNemUICockpitPage page_{&sheet_, kCockpit, 0};
+};
+
+class CockpitRestore : public CockpitTest {
+ protected:
+  // Asks for the factory state and answers the question.
+  void Restore(int button);
+
+  Popups popups_;
 };
 
 }  // namespace cockpit_test

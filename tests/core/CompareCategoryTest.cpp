@@ -239,6 +239,30 @@ TEST_F(CompareCategoryTest, PaperReportsEachItemOnALineOfItsOwn) {
   EXPECT_EQ(19, result.width) << "the longest line";
 }
 
+TEST_F(CompareCategoryTest, ItemsAreReportedInTheirOrder) {
+  const std::pair<int, std::vector<const wchar_t*>> rows[] = {
+      {2, {L"Page size", L"Page orientationa", L"Scaling", L"Margins"}},
+      {3, {L"PDF opening appearance", L"Reader opening appearance"}},
+      {5, {L"Watermark", L"Stationary"}},
+      {10, {L"PDF format", L"Conversion engine"}},
+      {11, {L"Default PDF reader", L"Additonal program"}},
+      {16, {L"Textboxes", L"Checkboxes", L"Dropdown elements"}},
+      {17, {L"Password for changing PDF Security", L"Password for opening PDF", L"Password options for editing e.pdf"}},
+  };
+  for (const Field& field : kFields) field.change(current);
+  current.action.startAction = 4;
+  for (const auto& [category, items] : rows) {
+    std::wstring label, detail;
+    for (const wchar_t* item : items) {
+      label += (label.empty() ? L"" : L", ") + std::wstring(item);
+      detail += (detail.empty() ? L"- " : L"\n- ") + std::wstring(item);
+    }
+    const Result result = Compare(category);
+    EXPECT_EQ(label, std::wstring(result.label.Text())) << category;
+    EXPECT_EQ(detail, std::wstring(result.detail.Text())) << category;
+  }
+}
+
 TEST_F(CompareCategoryTest, ThirdsAreExact) {
   current.security = {1, 1, 0};
   EXPECT_EQ(2 / 3.0, Compare(17).weight);

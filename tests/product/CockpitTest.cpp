@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include "driver/Bar.h"
+#include "driver/Picture.h"
 #include "driver/SheetDriver.h"
 #include "resources/ResourceIds.h"
 #include "support/HostDialog.h"
@@ -22,14 +23,28 @@ const ExpectedBox kQuestion = {.title = L"Host",
 
 std::wstring FirstText(const Sheet& sheet) { return sheet.Control(kFirstText).Text(); }
 
+// What stands in the middle of the square of a row, counted from 0.
+uint32_t SquareColor(const Sheet& sheet, int row) {
+  RECT window, square;
+  GetWindowRect(sheet.Window(), &window);
+  GetWindowRect(sheet.Control(kFirstSquare + row).Window(), &square);
+  return Capture(sheet.Window())
+      .At((square.left + square.right) / 2 - window.left, (square.top + square.bottom) / 2 - window.top);
+}
+
+constexpr uint32_t kBlue = 0xFF0000FF, kWindowWhite = 0xFFFFFFFF;
+
 TEST(Cockpit, IsWhatTheSheetOpensOn) {
   HostDialog host;
   RunSheet([&] { return host.DoModal(); },
            [](Sheet& sheet) -> SheetTask {
              EXPECT_EQ(kCockpitPage, sheet.PageId());
-             for (int row = 0; row < 18; ++row) EXPECT_EQ(L"", sheet.Control(kFirstText + row).Text()) << row;
+             co_await sheet.Settled();
+             for (int row = 0; row < 18; ++row) {
+               EXPECT_EQ(L"", sheet.Control(kFirstText + row).Text()) << row;
+               EXPECT_EQ(kWindowWhite, SquareColor(sheet, row)) << row;
+             }
              sheet.PressCancel();
-             co_return;
            });
 }
 
@@ -64,6 +79,8 @@ TEST(Cockpit, FollowsWhatTheUserChanges) {
              co_await ClickPage(sheet, kCockpitPage, shown);
              EXPECT_TRUE(shown);
              EXPECT_EQ(L"(PDF size)", FirstText(sheet));
+             for (int row = 0; row < 18; ++row)
+               EXPECT_EQ(row == 0 ? kBlue : kWindowWhite, SquareColor(sheet, row)) << row;
              sheet.PressOk();
            });
   EXPECT_EQ(60, host.Long(0, L"GraphicJpegQuality"));
@@ -173,6 +190,26 @@ TEST(Cockpit, RestoringLeavesWhatAnAdministratorHasFixed) {
            });
   EXPECT_EQ(60, host.Long(0, L"GraphicJpegQuality"));
   EXPECT_EQ(600, host.Long(0, L"GraphicResolution"));
+}
+
+// The fixed bit of the one page stands beside the free ones of the other.
+TEST(Cockpit, RestoringTheStartActionLeavesTheBitThatIsFixed) {
+  const TestDriver driver;
+  const TestPrinter printer(L"Invoices");
+  const DriverFile general(driver, L"NEMpdf.conf", "StartActionMailCheck_Override = 1\r\n");
+  HostDialog host;
+  host.Set(NEMPDFUI_GENERAL, L"PrinterName", L"Invoices").Set(0, L"StartAction", 2 | 4);
+  constexpr int kActions = 10, kMail = 11;  // rows
+  RunSheet([&] { return host.DoModal(); },
+           [=](Sheet& sheet) -> SheetTask {
+             sheet.ExpectBox(kQuestion);
+             sheet.Control(kRestoreLink).Click();
+             co_await sheet.Settled();
+             EXPECT_EQ(L"", sheet.Control(kFirstText + kActions).Text());
+             EXPECT_EQ(L"(E-Mail)", sheet.Control(kFirstText + kMail).Text());
+             sheet.PressOk();
+           });
+  EXPECT_EQ(1 | 2, host.Long(0, L"StartAction"));
 }
 
 }  // namespace

@@ -1,0 +1,279 @@
+// The cockpit with the real pages side by side, none of them ever shown: from a property to its row, and the factory
+// state back into the properties.
+#include "CockpitTest.h"
+
+#include <iterator>
+
+#include "support/CockpitFields.h"
+#include "support/PageUnderTest.h"
+
+namespace cockpit_test {
+namespace {
+
+// The properties of the fields, in their order.
+constexpr const wchar_t* kProperties[] = {
+    L"GraphicCompressMethod",
+    L"GraphicJpegQuality",
+    L"GraphicResolution",
+    L"GraphicColorReduction",
+    L"PaperSize",
+    L"Orientation",
+    L"PaperScaleWidth",
+    L"PaperScaleHeight",
+    L"Scale",
+    L"PaperMarginCenter",
+    L"PaperBorder",
+    L"OpenLayout",
+    L"OpenSize",
+    L"OpenPageIndex",
+    L"OpenMode",
+    L"NonFullScreenPageMode",
+    L"Direction",
+    L"HideToolbar",
+    L"HideMenubar",
+    L"CenterWindow",
+    L"FitWindow",
+    L"DisplayDocTitle",
+    L"HideWindowUI",
+    L"FontsEmbedded",
+    L"WatermarkEnabled",
+    L"StationeryEnabled",
+    L"UseHyperlinkRecognition",
+    L"EmbedFilenamesEnabled",
+    L"ZUGFeRD",
+    L"ZUGFeRDXml",
+    L"ZUGFeRDDeleteAfterEmbedding",
+    L"ZUGFeRDShowAfterCreation",
+    L"ZUGFeRDCreationMethod",
+    L"OutlineStylesEnabled",
+    L"SaveAction",
+    L"FileExistsAction",
+    L"PdfVersion",
+    L"SaveFormat",
+    L"SaveConversion",
+    L"StartAction",
+    L"Colorspace",
+    L"ShowFormfields",
+    L"FormfieldUseTextfieldBorder",
+    L"FormfieldTextfieldBorderColor",
+    L"FormfieldUseTextfieldBackColor",
+    L"FormfieldTextfieldBackColor",
+    L"FormfieldUseCheckboxBorder",
+    L"FormfieldCheckboxBorderColor",
+    L"FormfieldUseCheckboxBackColor",
+    L"FormfieldCheckboxBackColor",
+    L"FormfieldUseDropdownBorder",
+    L"FormfieldDropdownBorderColor",
+    L"FormfieldUseDropdownBackColor",
+    L"FormfieldDropdownBackColor",
+    L"EncryptOwnerPasswordEnabled",
+    L"EncryptUserPasswordEnabled",
+    L"UseEncryptEnhancedPdfPassword",
+    L"Title",
+    L"Author",
+    L"Subject",
+    L"Keywords",
+};
+static_assert(std::size(kProperties) == std::size(kFields));
+
+const Field& FieldOf(int number) { return kFields[number - 1]; }
+
+// The pages that the sheet does not have: they, and nothing else, may leave their row unmarked.
+const std::set<int> kNotBuilt = {119};
+// The document's tab has placeholders in their places.
+const std::set<int> kOfBasicSettingsAlone = {102, 103, 104};
+
+class CockpitAndPages : public CockpitRestore {
+ protected:
+  CockpitAndPages() {
+    for (const int set : {0, 1}) sheet_.properties.SaveFormatEPdfEnabled[set].SetLong(1);
+    SetProperties(0, factory_);
+    SetProperties(1, factory_);
+  }
+
+  // New pages in place of all there are, as in a new sheet: each reads its properties once.
+  void MakePages(int set = 0) {
+    for (const Row& row : kRows) {
+      sheet_.pages.erase(row.pageId);
+      realPages_[row.pageId] = MakeCataloguePage(&sheet_, row.pageId, set);
+      if (realPages_[row.pageId]) sheet_.pages[row.pageId] = realPages_[row.pageId].get();
+    }
+  }
+  bool IsTracked(int category, int set = 0) {
+    const int pageId = kRows[category - 1].pageId;
+    if (kNotBuilt.contains(pageId)) return realPages_[pageId] != nullptr;
+    return set == 0 || !kOfBasicSettingsAlone.contains(pageId);
+  }
+
+  CProperty& Property(int number, int set) {
+    CProperty* property = sheet_.properties.settingsSets[set].Get(kProperties[number - 1]);
+    EXPECT_NE(nullptr, property) << number;
+    return *property;
+  }
+  std::wstring Stored(int number, int set = 0) {
+    const CProperty& property = Property(number, set);
+    return property.GetTypeName() == kLongTypeName ? std::to_wstring(property.GetLong()) : property.GetString().Text();
+  }
+  void SetProperties(int set, const CCockpitSettings& values) {
+    for (const Field& field : kFields) Property(field.number, set).SetValueText(field.read(values).c_str());
+  }
+
+  // The value of the test that is not the field's default.
+  std::wstring Changed(const Field& field) {
+    CCockpitSettings changed(Settings::IsA4());
+    field.change(changed);
+    return field.number == kStartAction ? std::to_wstring(2 | 4 | 8) : field.read(changed);
+  }
+  void ChangeAllProperties() {
+    for (const Field& field : kFields) Property(field.number, 0).SetValueText(Changed(field).c_str());
+  }
+
+  static constexpr int kStartAction = 40;
+  const CCockpitSettings factory_{Settings::IsA4()};
+  std::map<int, std::unique_ptr<CNemUIPage>> realPages_;
+};
+
+TEST_F(CockpitAndPages, ThePagesAreThere) {
+  for (const int set : {0, 1}) {
+    MakePages(set);
+    for (const auto& [pageId, page] : realPages_) EXPECT_TRUE(page || kNotBuilt.contains(pageId)) << pageId;
+  }
+}
+
+TEST_F(CockpitAndPages, AtTheDefaultsNothingIsMarked) {
+  Open();
+  for (const int set : {0, 1}) {
+    MakePages(set);
+    Refresh();
+    EXPECT_EQ((std::set<int>{}), MarkedRows()) << set;
+  }
+}
+
+TEST_F(CockpitAndPages, EachPropertyMarksItsRowOrNone) {
+  Open();
+  for (const int set : {0, 1})
+    for (const Field& field : kFields) {
+      CCockpitSettings changed = factory_;
+      field.change(changed);
+      SetProperties(set, changed);
+      MakePages(set);
+      Refresh();
+      const bool marks = field.category != 0 && IsTracked(field.category, set);
+      EXPECT_EQ(marks ? std::set<int>{field.category} : std::set<int>{}, MarkedRows()) << field.name << ' ' << set;
+      for (int category = 1; category <= kCockpitCategoryCount; ++category)
+        EXPECT_EQ(marks && category == field.category ? L"(" + std::wstring(field.item) + L")" : L"", RowText(category))
+            << field.name << ' ' << set;
+      SetProperties(set, factory_);
+    }
+}
+
+// Of the bits of the start action two mark the one row, one the other, and one none.
+TEST_F(CockpitAndPages, EachBitOfTheStartActionMarksItsRowOrNone) {
+  const std::pair<int, std::set<int>> rows[] = {{0, {11}},   {1 | 2, {12}},     {1 | 4, {11}},
+                                                {1 | 8, {}}, {2 | 4, {11, 12}}, {1 | 16, {}}};
+  Open();
+  for (const auto& [startAction, marked] : rows) {
+    sheet_.properties.StartAction[0].SetLong(startAction);
+    MakePages();
+    Refresh();
+    EXPECT_EQ(marked, MarkedRows()) << startAction;
+  }
+}
+
+// --- Restoring ------------------------------------------------------------------------------------------------------
+
+// The host's value, or the factory's, as the paper page keeps its properties and colours without a default stay.
+TEST_F(CockpitAndPages, RestoringReachesThePropertiesOfAllPagesButPaper) {
+  ChangeAllProperties();
+  MakePages();
+  Open();
+  Restore(IDYES);
+  EXPECT_EQ((std::set<int>{}), MarkedRows());
+  for (const Field& field : kFields) EXPECT_EQ(Changed(field), Stored(field.number)) << field.name << " before OK";
+  ASSERT_TRUE(page_.UpdateDataSuper(true));
+  for (const Field& field : kFields) {
+    const bool restored = field.category != 2 && field.hasDefault && (field.category != 8 || IsTracked(8));
+    EXPECT_EQ(restored ? field.read(factory_) : Changed(field), Stored(field.number)) << field.name;
+    if (field.hasDefault) {
+      EXPECT_EQ(field.read(factory_), Stored(field.number, 1)) << field.name << " of the other tab";
+    }
+  }
+}
+
+// What fixes a field, and what then stands in the property at OK.
+struct Fixed {
+  int number;
+  int32_t AdminSettings::*key;
+  const wchar_t* kept = nullptr;  // the host's value when there is none
+  CUString AdminSettings::*textKey = nullptr;
+};
+
+const Fixed kFixed[] = {
+    {1, &AdminSettings::GraphicCompressMethod_Override},
+    {2, &AdminSettings::GraphicJpegQuality_Override},
+    {3, &AdminSettings::GraphicResolution_Override},
+    {4, &AdminSettings::GraphicColorReduction_Override},
+    {24, &AdminSettings::FontsEmbedded_Override},
+    {25, &AdminSettings::WatermarkEnabled_Override},
+    {26, &AdminSettings::StationeryEnabled_Override},
+    {29, &AdminSettings::ZUGFeRD_Override},
+    {30, nullptr, L"fixed", &AdminSettings::ZUGFeRDXml_Override},  // the administrator's file is the one that counts
+    {31, &AdminSettings::ZUGFeRDDeleteAfterEmbedding_Override},
+    {33, &AdminSettings::ZUGFeRDCreationMethod_Override},
+    {35, &AdminSettings::SaveAction_Override},
+    {36, &AdminSettings::FileExistsAction_Override},
+    {37, &AdminSettings::PdfVersion_Override},
+    {40, &AdminSettings::StartActionViewerCheck_Override, L"6"},  // 2 and 4; 8 is nobody's
+    {40, &AdminSettings::StartActionMailCheck_Override, L"6"},
+    {40, &AdminSettings::StartActionProgramCheck_Override, L"6"},
+    {41, &AdminSettings::Colorspace_Override},
+    {55, &AdminSettings::EncryptOwnerPasswordEnabled_Override},
+    {56, &AdminSettings::EncryptUserPasswordEnabled_Override},
+    {58, nullptr, nullptr, &AdminSettings::Title_Override},
+    {59, nullptr, nullptr, &AdminSettings::Author_Override},
+    {60, nullptr, nullptr, &AdminSettings::Subject_Override},
+    {61, nullptr, nullptr, &AdminSettings::Keywords_Override},
+};
+
+TEST_F(CockpitAndPages, RestoringLeavesWhatIsFixed) {
+  std::map<int, std::wstring> kept;
+  std::set<int> marked = {11, 12};
+  for (const Fixed& fixed : kFixed) {
+    AdminSettings& admin = sheet_.properties.adminSettings;
+    if (fixed.key)
+      admin.*fixed.key = 0;
+    else
+      admin.*fixed.textKey = L"fixed";
+    kept[fixed.number] = fixed.kept ? fixed.kept : Changed(FieldOf(fixed.number));
+    if (FieldOf(fixed.number).category) marked.insert(FieldOf(fixed.number).category);
+  }
+  ChangeAllProperties();
+  MakePages();
+  Open();
+  Restore(IDYES);
+  EXPECT_EQ(marked, MarkedRows());
+  EXPECT_EQ(L"(Default PDF reader, Additonal program)", RowText(11));
+  EXPECT_EQ(L"(PDF format)", RowText(10)) << "the engine is nobody's";
+  ASSERT_TRUE(page_.UpdateDataSuper(true));
+  for (const Field& field : kFields) {
+    if (field.category == 2 || !field.hasDefault || (field.category == 8 && !IsTracked(8))) continue;
+    EXPECT_EQ(kept.contains(field.number) ? kept[field.number] : field.read(factory_), Stored(field.number))
+        << field.name;
+  }
+}
+
+// Of the layout the host does not even let the cockpit know.
+TEST_F(CockpitAndPages, RestoringLeavesWhatTheHostKeepsToItself) {
+  ChangeAllProperties();
+  sheet_.properties.InternalUse[0].SetLong(2);
+  MakePages();
+  Open();
+  EXPECT_EQ(L"(Margins)", RowText(2));
+  Restore(IDYES);
+  EXPECT_EQ((std::set<int>{18}), MarkedRows());
+  ASSERT_TRUE(page_.UpdateDataSuper(true));
+  for (int number = 58; number <= 61; ++number) EXPECT_EQ(Changed(FieldOf(number)), Stored(number)) << number;
+}
+
+}  // namespace
+}  // namespace cockpit_test
