@@ -1,13 +1,25 @@
 #include "driver/Gallery.h"
 
+#include <algorithm>
+
 #include "driver/Bar.h"
 #include "driver/Pages.h"
 #include "driver/Picture.h"
 #include "driver/Text.h"
+#include "resources/ResourceIds.h"
 
 namespace {
 
 constexpr int kDocumentTab = 1;
+constexpr char kOnDocumentTab[] = " (document)";  // behind the name of a page that is missing there
+constexpr int kCockpit = 120;
+constexpr int kCockpitRows = 18;
+
+int MarkedRows(const Sheet& cockpit) {
+  int marked = 0;
+  for (int row = 0; row < kCockpitRows; ++row) marked += !cockpit.Control(IDC_COCKPIT_FIRST_TEXT + row).Text().empty();
+  return marked;
+}
 
 void WritePicture(const Sheet& sheet, const std::wstring& file, GalleryResult& result) {
   SendMessageW(sheet.Window(), WM_NCACTIVATE, TRUE, 0);  // its title as the user sees it, whoever is active
@@ -28,8 +40,11 @@ SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring langua
       bool shown = false;
       co_await ClickPage(sheet, page.id, shown);
       if (!shown) {
-        result.missing.push_back(name + (tab == kDocumentTab ? " (document)" : ""));
+        result.missing.push_back(name + (tab == kDocumentTab ? kOnDocumentTab : ""));
         continue;
+      }
+      if (page.id == kCockpit) {
+        EXPECT_EQ(0, MarkedRows(sheet));
       }
       WritePicture(sheet,
                    directory + L"\\" + language + L"-" + std::to_wstring(page.id) + L"-" + ToWide(name) +
@@ -40,12 +55,14 @@ SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring langua
 }
 
 SheetTask WriteCockpit(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result) {
-  constexpr int kCockpit = 120;
   sheet.SelectTab(0);
   co_await sheet.Settled();
   bool shown = sheet.PageId() == kCockpit;
   if (!shown) co_await ClickPage(sheet, kCockpit, shown);
   CO_ASSERT_TRUE(shown);
+  const auto missing = std::count_if(result.missing.begin(), result.missing.end(),
+                                     [](const std::string& page) { return !page.ends_with(kOnDocumentTab); });
+  EXPECT_EQ(kCockpitRows - missing, MarkedRows(sheet));
   WritePicture(sheet, directory + L"\\" + language + L"-120-cockpit-changed.png", result);
 }
 

@@ -13,10 +13,11 @@ struct GalleryResult {
 
 // Goes through all tabs and all entries of the navigation bar by mouse and writes a picture of the whole sheet for
 // each page: "<directory>\<language>-<number>-<name>.png", on the second tab with "-document" behind the name. The
-// sheet stays open.
+// sheet stays open. A cockpit with a marked row is a failure: the pictures are of the factory state.
 SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result);
 
-// The cockpit of the first tab alone, as "<directory>\<language>-120-cockpit-changed.png".
+// The cockpit of the first tab alone, as "<directory>\<language>-120-cockpit-changed.png". A row that is not marked is
+// a failure, unless its page is one of those that were missing.
 SheetTask WriteCockpit(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result);
 
 // A dialog that is no page, as "<directory>\<language>-<name>.png". It stays open.

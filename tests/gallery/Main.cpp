@@ -117,6 +117,9 @@ int WriteLanguage(const std::wstring& directory, const std::wstring& language) {
 
 int WriteAll(const std::wstring& directory) {
   int failures = 0;
+  // The sample's paper is the default one then, whatever the country of this machine: the cockpit is empty.
+  RegistryValue country(HKEY_CURRENT_USER, L"Control Panel\\International", L"iCountry");
+  country.Set(L"49");
   for (const auto& [name, id] : kLanguages) {
     ProductValue language(HKEY_CURRENT_USER, L"LanguageID");
     language.Set(id);
