@@ -20,7 +20,7 @@ class CFormatPage : public CTrackedPage<FormatCockpitValues>, public FormatAcces
   uint16_t saveFormatEPdfEnabled = 1;
   uint16_t saveFormat = kNotRead;
   uint16_t saveConversionEnabled = 1;
-  uint16_t saveConversion = 0;  // 0 printer driver, 1 RTF
+  uint16_t saveConversion = 0;     // 0 printer driver, 1 RTF
   uint16_t stationeryEnabled = 0;  // as the property was; the watermark page knows better
 
   // What an administrator has fixed.
