@@ -166,6 +166,8 @@ class TourHost : public HostDialog {
       if (change.restored)
         for (const auto& [name, value] : change.stored) restore(name);
     for (const wchar_t* name : {L"PdfVersion", L"ZUGFeRD"}) restore(name);
+    // The factory's 0 stands for "ask", which is stored in its bits; without e.pdf every reader takes them for 1.
+    if (set == 0) values[L"SaveFormat"] = L"258";
     return values;
   }
 
