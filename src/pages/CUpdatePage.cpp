@@ -1,7 +1,5 @@
 #include "pages/CUpdatePage.h"
 
-#include <utility>
-
 #include "DriverLIB/AFile.h"
 #include "DriverLIB/CRegistryEntry.h"
 #include "DriverLIB/Identity.h"
@@ -10,6 +8,7 @@
 #include "DriverLIB/Trace.h"
 #include "environment/NemUpdateJob.h"
 #include "pages/WebAddress.h"
+#include "window/ValueScope.h"
 
 namespace {
 
@@ -118,10 +117,9 @@ void CUpdatePage::ApplyUpdateOverrides() {
 }
 
 void CUpdatePage::OnSearchClicked() {
-  if (std::exchange(isSearching_, true)) return;
-  const bool isNewest = IsNewest();
-  isSearching_ = false;
-  if (isNewest) Tell(MSG_UPDATE_NONE, 0);
+  if (isSearching_) return;
+  const ValueScope searching(isSearching_, true);
+  if (IsNewest()) Tell(MSG_UPDATE_NONE, 0);
 }
 
 // True when the search has found nothing newer. One that fails, or that goes on in the updater's dialog, has told so.
