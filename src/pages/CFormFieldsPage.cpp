@@ -1,5 +1,6 @@
 #include "pages/CFormFieldsPage.h"
 
+#include "controls/LabelText.h"
 #include "DriverLIB/MessageText.h"
 #include "MessageIds.h"
 #include "pages/FormatAccess.h"
@@ -42,6 +43,9 @@ void CFormFieldsPage::ExchangeCockpitValues(const CockpitExchange& exchange, For
 BOOL CFormFieldsPage::OnInitDialog() {
   CEdit(Item(IDC_FORM_FIELDS_CHARACTERS)).LimitText(kCharactersDigits);
   Item(IDC_FORM_FIELDS_NOTE).SetText(MessageText(MSG_FORM_FIELDS_NEED_WORD).Text());
+  // A screen reader takes no check box for a label.
+  const CUString uniformCaption = Item(IDC_FORM_FIELDS_UNIFORM_WIDTH).Text();
+  Item(IDC_FORM_FIELDS_UNIFORM_LABEL).SetText(WithoutMarks(uniformCaption).Text());
   if (!CTrackedPage::OnInitDialog()) return FALSE;
 
   headingFont_ = DeriveFont(Font(), [](LOGFONTW& font) { font.lfWeight = FW_BOLD; });

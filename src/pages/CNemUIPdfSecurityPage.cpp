@@ -5,6 +5,9 @@ namespace {
 // The confirmation is one for all settings sets.
 constexpr int kConfirmationSet = 0;
 
+// Hosts have several numbers for what is on.
+bool AreAlike(uint16_t left, uint16_t right) { return (left != 0) == (right != 0); }
+
 }  // namespace
 
 CNemUIPdfSecurityPage::CNemUIPdfSecurityPage(SheetServices* sheet, const PageDescription& description,
@@ -46,22 +49,35 @@ auto CNemUIPdfSecurityPage::Bindings() const -> BindingTable {
 }
 
 void CNemUIPdfSecurityPage::OnPropertiesRead() {
-  confirm = static_cast<uint16_t>(Sheet()->Properties().EncryptPasswordsConfirmed[kConfirmationSet].GetLong());
-  passwordsVisible = static_cast<uint16_t>(Sheet()->GetPasswordVisible());
-  confirmExchanged_ = confirm;
-  passwordsVisibleExchanged_ = passwordsVisible;
+  confirm = confirmExchanged_ = StoredConfirm();
+  passwordsVisible = passwordsVisibleExchanged_ = StoredPasswordsVisible();
 }
 
-// Both tabs hold these two. A page on which one has not been changed leaves what the other tab has made of it.
+// Both tabs hold these two. A page on which one has not been changed leaves what the other tab has made of it, and
+// takes that over when it shows it again.
 void CNemUIPdfSecurityPage::OnPropertiesWritten() {
-  if (confirm != confirmExchanged_) {
+  if (!AreAlike(confirm, confirmExchanged_) || AreAlike(confirm, StoredConfirm())) {
     Sheet()->Properties().EncryptPasswordsConfirmed[kConfirmationSet].SetLong(confirm);
     confirmExchanged_ = confirm;
   }
-  if (passwordsVisible != passwordsVisibleExchanged_) {
+  if (!AreAlike(passwordsVisible, passwordsVisibleExchanged_) || AreAlike(passwordsVisible, StoredPasswordsVisible())) {
     Sheet()->SetPasswordVisible(passwordsVisible);
     passwordsVisibleExchanged_ = passwordsVisible;
   }
+}
+
+void CNemUIPdfSecurityPage::RefreshSharedSwitches() {
+  if (AreAlike(confirm, confirmExchanged_)) confirm = confirmExchanged_ = StoredConfirm();
+  if (AreAlike(passwordsVisible, passwordsVisibleExchanged_))
+    passwordsVisible = passwordsVisibleExchanged_ = StoredPasswordsVisible();
+}
+
+uint16_t CNemUIPdfSecurityPage::StoredConfirm() const {
+  return static_cast<uint16_t>(Sheet()->Properties().EncryptPasswordsConfirmed[kConfirmationSet].GetLong());
+}
+
+uint16_t CNemUIPdfSecurityPage::StoredPasswordsVisible() const {
+  return static_cast<uint16_t>(Sheet()->GetPasswordVisible());
 }
 
 void CNemUIPdfSecurityPage::SwitchPasswordsOff() {

@@ -13,8 +13,12 @@ class CNemUIPdfSecurityPage : public CNemUISettingsPage<CPdfSecurityPage> {
   BindingTable Bindings() const override;
   void OnPropertiesRead() override;
   void OnPropertiesWritten() override;
+  void RefreshSharedSwitches() override;
 
  private:
+  uint16_t StoredConfirm() const;
+  uint16_t StoredPasswordsVisible() const;
+
   // As they were read or written last.
   uint16_t confirmExchanged_ = 0;
   uint16_t passwordsVisibleExchanged_ = 0;

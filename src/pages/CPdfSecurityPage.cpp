@@ -3,7 +3,9 @@
 #include <algorithm>
 #include <span>
 
+#include "controls/LabelText.h"
 #include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/SecureWipe.h"
 #include "MessageIds.h"
 #include "pages/CPwdConfirmDialog.h"
 #include "pages/FormatAccess.h"
@@ -50,6 +52,11 @@ constexpr int RadioOf(uint16_t mode) {
 
 }  // namespace
 
+CPdfSecurityPage::~CPdfSecurityPage() {
+  WipeText(ownerPasswordOverride.value);
+  WipeText(userPasswordOverride.value);
+}
+
 MessageTable CPdfSecurityPage::Messages() const {
   static constexpr MessageRow kMessages[] = {
       OnClick<&CPdfSecurityPage::OnOwnerClicked>(IDC_SECURITY_OWNER),
@@ -81,6 +88,9 @@ BOOL CPdfSecurityPage::OnInitDialog() {
     ShowPassword(edit, false);
   }
   Item(IDC_SECURITY_EDITING_NONE).SetText(MessageText(MSG_SECURITY_NO_EDITING_PASSWORD).Text());
+  // A screen reader takes no radio for a label.
+  const CUString editingCaption = Item(IDC_SECURITY_EDITING_INDEPENDENT).Text();
+  Item(IDC_SECURITY_EDITING_LABEL).SetText(WithoutMarks(editingCaption).Text());
   if (!CTrackedPage::OnInitDialog()) return FALSE;
 
   versionLink_.Attach(*this, IDC_SECURITY_VERSION_LINK);
@@ -107,6 +117,7 @@ LRESULT CPdfSecurityPage::ShowHelpForControl(WPARAM controlId, LPARAM link) {
 
 void CPdfSecurityPage::DoDataExchange(CDataExchange& exchange) {
   if (exchange.IsLoading()) {
+    RefreshSharedSwitches();
     Item(IDC_SECURITY_VERSION).SetText(MessageText(PdfVersionRow(PdfVersionFor(*this)).messageId).Text());
     ExchangeValues(exchange);
     independentShown_ = IsChecked(IDC_SECURITY_EDITING_INDEPENDENT);
@@ -172,7 +183,14 @@ void CPdfSecurityPage::ConfirmPasswords(CDataExchange& exchange) {
   if (dialog.DoModal(window_) == IDOK)
     ForgetTouches();
   else
-    exchange.Fail(kPasswords[std::ranges::find(touched_, true) - touched_].editId);
+    exchange.Fail(EditToCorrect());
+}
+
+// Of the first password that the user has touched and can still change; 0 when there is none.
+int CPdfSecurityPage::EditToCorrect() const {
+  for (int i = 0; i < kPasswordCount; ++i)
+    if (touched_[i] && Item(kPasswords[i].editId).IsEnabled()) return kPasswords[i].editId;
+  return 0;
 }
 
 void CPdfSecurityPage::OnOwnerClicked() {

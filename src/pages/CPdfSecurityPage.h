@@ -13,6 +13,8 @@
 class CPdfSecurityPage : public CTrackedPage<SecurityCockpitValues>, public SecurityAccess {
  public:
   using CTrackedPage::CTrackedPage;
+  // Wipes the texts that hold passwords.
+  ~CPdfSecurityPage() override;
 
   // A member that has not been read from its property yet.
   static constexpr uint16_t kNotRead = 0xFFFF;
@@ -46,12 +48,15 @@ class CPdfSecurityPage : public CTrackedPage<SecurityCockpitValues>, public Secu
   void ExchangeCockpitValues(const CockpitExchange& exchange, SecurityCockpitValues& values) override;
   // In the members, and where the page has been shown in its controls.
   void SwitchOff();
+  // The controls are about to be filled. The other tab may have changed what both hold.
+  virtual void RefreshSharedSwitches() {}
 
  private:
   void ExchangeValues(CDataExchange& exchange);
   void ExchangeEditingMode(CDataExchange& exchange);
   void RefuseEmptyPasswords(CDataExchange& exchange);
   void ConfirmPasswords(CDataExchange& exchange);
+  int EditToCorrect() const;
 
   void OnOwnerClicked();
   void OnUserClicked();

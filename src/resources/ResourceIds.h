@@ -295,6 +295,7 @@
 #define IDC_SECURITY_USER_LABEL 1279
 #define IDC_SECURITY_OWNER_LABEL 1280
 #define IDC_SECURITY_PICTURE 0x5440
+#define IDC_SECURITY_EDITING_LABEL 0x5441
 
 // Confirmation of passwords. Its edits have the numbers of those on the security page.
 #define IDC_CONFIRM_OWNER_PASSWORD 1003
@@ -328,6 +329,7 @@
 #define IDC_FORM_FIELDS_PICTURE 1250
 #define IDC_FORM_FIELDS_UNAVAILABLE_PICTURE 1330
 #define IDC_FORM_FIELDS_NOTE 1331
+#define IDC_FORM_FIELDS_UNIFORM_LABEL 0x5409
 
 // Form fields' colours page (116)
 #define IDC_FORM_COLORS_TEXT_BORDER 1211

@@ -6,6 +6,8 @@
 #include "pages/FormatAccess.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
+#include "support/Accessible.h"
+#include "support/ControlPictures.h"
 
 namespace {
 
@@ -58,7 +60,7 @@ const Ids kConversion = {1205, 1206, 1208, 1209, 1210, 1199, 1201};
 constexpr int kConvert = 1195, kTextWidth = 1199, kTextUnlimited = 1200, kUniformWidth = 1201, kCharacters = 1202;
 const Ids kUniform = {1202, 1207, 1203};
 // Whatever is chosen.
-const Ids kAlways = {1194, 1250, 1330, 1331};
+const Ids kAlways = {1194, 1250, 1330, 1331, IDC_FORM_FIELDS_UNIFORM_LABEL};
 
 Ids Sum(Ids ids, const Ids& more) {
   ids.insert(more.begin(), more.end());
@@ -324,6 +326,19 @@ TEST(FormFieldsPage, HeadingsAreBoldAndTheNoteIsLarge) {
   }
   EXPECT_EQ(15, test.FontOf(1331).lfHeight);
   EXPECT_EQ(FW_BOLD, test.FontOf(1331).lfWeight);
+}
+
+TEST(FormFieldsPage, EachPictureStandsInItsControl) {
+  FormFieldsTest test;
+  ASSERT_TRUE(test.page.Open());
+  ExpectPictures(test.page.Page(), {{1250, Pictures::kForm32}, {1330, Pictures::kFormUnavailable}});
+}
+
+// A screen reader names an edit by the static text directly before it, hidden or not.
+TEST(FormFieldsPage, TheNumberHasANameForScreenReaders) {
+  FormFieldsTest test;
+  ASSERT_TRUE(test.page.Open());
+  EXPECT_EQ(L"Use uniform width for text fields:", TextBefore(test.page.Control(kCharacters).Window()));
 }
 
 TEST(FormFieldsPage, IsNotReadBeforeItIsAsked) {

@@ -7,6 +7,7 @@
 #include "Pictures.h"
 #include "resources/ResourceIds.h"
 #include "support/Accessible.h"
+#include "support/ControlPictures.h"
 #include "support/FakeSheet.h"
 #include "ui/PropertyAccess.h"
 
@@ -597,37 +598,15 @@ TEST_F(GraphicPage, VideoLinkLeadsToTheAddressOfItsText) {
   EXPECT_EQ(MessageText(0x4001087C).Text(), link.Value(CHILDID_SELF));
 }
 
-// What a control draws, be it shown or not.
-std::vector<uint32_t> Print(const CWnd& control) {
-  const RECT client = control.ClientRect();
-  BITMAPINFO format{};
-  format.bmiHeader = {sizeof format.bmiHeader, client.right, -client.bottom, 1, 32, BI_RGB, 0, 0, 0, 0, 0};
-  const HDC dc = CreateCompatibleDC(nullptr);
-  void* bits = nullptr;
-  const GdiBitmap bitmap(CreateDIBSection(dc, &format, DIB_RGB_COLORS, &bits, nullptr, 0));
-  {
-    const SelectScope selected(dc, bitmap.Get());
-    control.Send(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT);
-    GdiFlush();
-  }
-  DeleteDC(dc);
-  const auto* pixels = static_cast<const uint32_t*>(bits);
-  return {pixels, pixels + client.right * client.bottom};
-}
-
 TEST_F(GraphicPage, EachPictureStandsInItsControl) {
-  const std::pair<int, PictureNumbers> pictures[] = {
-      {1153, Pictures::kPresetMinimum},    {1152, Pictures::kPresetSmall},   {1151, Pictures::kPresetCompact},
-      {1149, Pictures::kPresetBig},        {1150, Pictures::kPresetMaximum}, {1161, Pictures::kSignWarning16},
-      {1162, Pictures::kSignInformation16}};
   Open();
-  for (const auto& [id, numbers] : pictures) {
-    const std::vector<uint32_t> found = Print(CWnd(Control(id).Window()));
-    CImageStatic expected;  // takes the control over
-    ASSERT_TRUE(expected.Attach(page_, id));
-    ASSERT_TRUE(expected.SetImage(numbers.bitmap, kNoTransparentColor, numbers.mask));
-    EXPECT_TRUE(Print(expected) == found) << id;
-  }
+  ExpectPictures(page_, {{1153, Pictures::kPresetMinimum},
+                         {1152, Pictures::kPresetSmall},
+                         {1151, Pictures::kPresetCompact},
+                         {1149, Pictures::kPresetBig},
+                         {1150, Pictures::kPresetMaximum},
+                         {1161, Pictures::kSignWarning16},
+                         {1162, Pictures::kSignInformation16}});
 }
 
 }  // namespace

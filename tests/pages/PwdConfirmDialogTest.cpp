@@ -8,6 +8,7 @@
 #include "driver/Popups.h"
 #include "driver/Text.h"
 #include "resources/ResourceIds.h"
+#include "support/ControlPictures.h"
 #include "support/FakeSheet.h"
 #include "support/HelpSpy.h"
 
@@ -153,6 +154,15 @@ TEST_F(PwdConfirmDialog, PasswordsAreShownOnDemand) {
       Control(dialog, 1172).Click();
       for (const int id : kEdits) EXPECT_EQ(character, SendDlgItemMessageW(dialog, id, EM_GETPASSWORDCHAR, 0, 0)) << id;
     }
+    Press(dialog, IDCANCEL);
+  });
+}
+
+TEST_F(PwdConfirmDialog, EachPictureStandsInItsControl) {
+  Run({L"one", L"two", L"three"}, [&](HWND dialog) {
+    ExpectPictures(CWnd(dialog), {{IDC_CONFIRM_PICTURE, Pictures::kKey}});
+    for (const int id : kGood) ExpectPictures(CWnd(dialog), {{id, Pictures::kMarkGood}});
+    for (const int id : kBad) ExpectPictures(CWnd(dialog), {{id, Pictures::kMarkBad}});
     Press(dialog, IDCANCEL);
   });
 }

@@ -4,7 +4,10 @@
 #include "pages/SecurityAccess.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
+#include "support/Accessible.h"
+#include "support/ControlPictures.h"
 #include "support/FakeFormatPage.h"
+#include "support/HelpSpy.h"
 
 namespace {
 
@@ -240,6 +243,17 @@ TEST_F(SecurityPage, WithoutEPdfThereIsNothingToEdit) {
   EXPECT_EQ(L"2", test_->Value(L"UseEncryptEnhancedPdfPassword"));
 }
 
+TEST_F(SecurityPage, EachTabObeysTheEPdfSwitchOfItsOwnSet) {
+  for (const int set : {0, 1})
+    for (const int enabled : {0, 1}) {
+      Start(set);
+      test_->Sheet().properties.SaveFormatEPdfEnabled[set].SetLong(enabled);
+      test_->Sheet().properties.SaveFormatEPdfEnabled[1 - set].SetLong(1 - enabled);
+      OpenWith(14);
+      ExpectOpen(enabled != 0, {1258, 1259, 1260, 1007});
+    }
+}
+
 TEST_F(SecurityPage, OverridesOfTheSwitchesLeaveWhatTheyOpenAlone) {
   test_->Admin().EncryptOwnerPasswordEnabled_Override = 0;
   test_->Admin().EncryptUserPasswordEnabled_Override = 0;
@@ -334,6 +348,61 @@ TEST_F(SecurityPage, WhatTheOtherTabHasChangedSincePersists) {
   Control(1180).Click();
   ASSERT_TRUE(test_->Save());
   EXPECT_EQ(1, properties.PasswordVisible.GetLong());
+}
+
+// Hosts have several numbers for a switch that is on.
+TEST_F(SecurityPage, WhatTheOtherTabHasSwitchedOffStaysOff) {
+  for (const int on : {1, 2, 7, -1}) {
+    Start(1);
+    CDialogProperties& properties = test_->Sheet().properties;
+    properties.EncryptPasswordsConfirmed[0].SetLong(on);
+    properties.PasswordVisible.SetLong(on);
+    OpenWith(14);
+    properties.EncryptPasswordsConfirmed[0].SetLong(0);
+    properties.PasswordVisible.SetLong(0);
+    ASSERT_TRUE(test_->Save());
+    EXPECT_EQ(0, properties.EncryptPasswordsConfirmed[0].GetLong()) << on;
+    EXPECT_EQ(0, properties.PasswordVisible.GetLong()) << on;
+  }
+}
+
+// The cockpit has read the page before, or it was shown itself.
+TEST_F(SecurityPage, WhatTheOtherTabHasChangedShowsAndCounts) {
+  for (const bool shownBefore : {false, true})
+    for (const int stored : {0, 1}) {
+      Start(1);
+      CDialogProperties& properties = test_->Sheet().properties;
+      const auto store = [&](int value) {
+        properties.EncryptPasswordsConfirmed[0].SetLong(value);
+        properties.PasswordVisible.SetLong(value);
+      };
+      store(1 - stored);
+      test_->Page().ReadProperties();
+      if (!shownBefore) store(stored);
+      OpenWith(14);
+      test_->Page().OnSetActive();
+      store(stored);
+      if (shownBefore) test_->Page().OnSetActive();
+      EXPECT_EQ(stored != 0, Control(1245).IsChecked());
+      EXPECT_EQ(stored != 0, Control(1180).IsChecked());
+      Control(1003).SetText(L"new");
+      if (stored) ExpectConfirmation({{1003, L"new"}, {1005, L"two"}, {1007, L"three"}});
+      EXPECT_TRUE(Leave());
+      Control(1180).Click();
+      ASSERT_TRUE(test_->Save());
+      EXPECT_EQ(stored, properties.EncryptPasswordsConfirmed[0].GetLong());
+      EXPECT_EQ(1 - stored, properties.PasswordVisible.GetLong());
+    }
+}
+
+TEST_F(SecurityPage, WhatTheUserHasChangedHereOutlivesAReloading) {
+  OpenWith(14);
+  Control(1245).Click();
+  Control(1180).Click();
+  ASSERT_TRUE(Leave());
+  for (int i = 0; i < 2; ++i) test_->Page().OnSetActive();
+  EXPECT_TRUE(Control(1245).IsChecked());
+  EXPECT_TRUE(Control(1180).IsChecked());
 }
 
 // --- Empty passwords -----------------------------------------------------------------------------------------------
@@ -483,13 +552,42 @@ TEST_F(SecurityPage, AConfirmationThatIsCancelledKeepsTheUserOnThePage) {
   WantConfirmation();
   OpenWith(14);
   Control(1005).SetText(L"new");
+  Control(1008).Click();
   for (int i = 0; i < 2; ++i) {
     ExpectConfirmation({{1003, L"one"}, {1005, L"new"}, {1007, L"three"}}, IDCANCEL);
     EXPECT_FALSE(Leave());
     EXPECT_TRUE(Control(1005).HasFocus());
   }
+  test_->Page().WriteProperties();
+  EXPECT_EQ(L"new", test_->Value(L"EncryptUserPassword")) << "the members are read all the same";
+  EXPECT_EQ(L"1", test_->Value(L"EncryptEnablePrinting"));
   ExpectConfirmation({{1003, L"one"}, {1005, L"new"}, {1007, L"three"}});
   EXPECT_TRUE(Leave());
+}
+
+TEST_F(SecurityPage, TheFocusGoesToAPasswordThatCanBeChanged) {
+  WantConfirmation();
+  OpenWith(14);
+  Control(1005).SetText(L"new");
+  Control(1019).Click();  // closes it
+  Control(1007).SetText(L"new");
+  Control(1008).Focus();
+  ExpectConfirmation({{1003, L"one"}, {1007, L"new"}}, IDCANCEL);
+  EXPECT_FALSE(Leave());
+  EXPECT_TRUE(Control(1007).HasFocus());
+}
+
+TEST_F(SecurityPage, TheConfirmationHelpsWithTheHostsFile) {
+  HelpSpy spy;
+  WantConfirmation();
+  OpenWith(14);
+  Control(1003).SetText(L"new");
+  popups_.ExpectDialog([&](HWND dialog) {
+    ControlRef(GetDlgItem(dialog, IDHELP), IDHELP, ControlRef::Location::current()).Click();
+    EXPECT_EQ(L"help.chm", spy.TakePath());
+    SendMessageW(dialog, WM_COMMAND, IDCANCEL, 0);
+  });
+  EXPECT_FALSE(Leave());
 }
 
 TEST_F(SecurityPage, AWrongConfirmationIsTold) {
@@ -580,6 +678,19 @@ TEST_F(SecurityPage, WithoutASheetSwitchingOffDoesNothing) {
 TEST_F(SecurityPage, CaptionWithASignIsSetByThePage) {
   OpenWith(14);
   EXPECT_EQ(L"&No password for editing the e.pdf document in  MS\u00AE Word", Control(1258).Text());
+}
+
+TEST_F(SecurityPage, EachPictureStandsInItsControl) {
+  OpenWith(14);
+  ExpectPictures(test_->Page(), {{IDC_SECURITY_PICTURE, Pictures::kLock32}});
+}
+
+// A screen reader names an edit by the static text directly before it, hidden or not.
+TEST_F(SecurityPage, EachPasswordHasANameForScreenReaders) {
+  OpenWith(14);
+  for (const auto& [edit, name] :
+       {std::pair{1003, L"Pass&word:"}, {1005, L"&Password:"}, {1007, L"Independent password:"}})
+    EXPECT_EQ(name, TextBefore(Control(edit).Window())) << edit;
 }
 
 TEST_F(SecurityPage, PasswordsHaveTheirLimit) {

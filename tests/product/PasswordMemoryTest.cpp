@@ -5,11 +5,13 @@
 
 #include <gtest/gtest.h>
 
+#include <cstdio>
 #include <cstring>
 
 #include "driver/SheetDriver.h"
 #include "NemPdfUI.h"
 #include "support/HostDialog.h"
+#include "support/TestPrinter.h"
 
 namespace {
 
@@ -154,26 +156,41 @@ void SetAllPasswords(const HostDialog& host) {
       EXPECT_EQ(1, NemPdfUISetPropertyW(host.Handle(), set, name, password.Text()));
 }
 
-// Shows the page on both tabs and ends the sheet with this button.
-void ShowPasswords(HostDialog& host, int button) {
+// Shows the page on both tabs, where there are more copies than this, and ends the sheet with this button.
+void ShowSecurityPage(HostDialog& host, int button, int copies) {
   host.Set(NEMPDFUI_DOCUMENT, L"Used", 1);
+  RunSheet([&] { return host.DoModal(); },
+           [=](Sheet& sheet) -> SheetTask {
+             for (const int tab : {0, 1}) {
+               sheet.SelectTab(tab);
+               co_await sheet.Settled();
+               CO_ASSERT_TRUE(sheet.SelectPage(kSecurityPage));
+               co_await sheet.Settled();
+               EXPECT_LT(copies, CountCopies()) << "the page holds some, too";
+             }
+             sheet.Press(button);
+           });
+}
+
+void ShowPasswords(HostDialog& host, int button) {
   for (const int set : {0, 1}) {
     host.Set(set, L"EncryptOwnerPasswordEnabled", 1);
     host.Set(set, L"EncryptUserPasswordEnabled", 1);
     host.Set(set, L"UseEncryptEnhancedPdfPassword", 2);
   }
   SetAllPasswords(host);
-  RunSheet([&] { return host.DoModal(); },
-           [button](Sheet& sheet) -> SheetTask {
-             for (const int tab : {0, 1}) {
-               sheet.SelectTab(tab);
-               co_await sheet.Settled();
-               CO_ASSERT_TRUE(sheet.SelectPage(kSecurityPage));
-               co_await sheet.Settled();
-               EXPECT_LT(6, CountCopies()) << "the page holds some, too";
-             }
-             sheet.Press(button);
-           });
+  ShowSecurityPage(host, button, 6);
+}
+
+// Writes a file in which the administrator fixes both passwords.
+void FixPasswords(const DriverFile& file) {
+  const Password<char> password;
+  char bytes[256];
+  const int length =
+      std::snprintf(bytes, sizeof bytes, "EncryptOwnerPassword_Override = %s\r\nEncryptUserPassword_Override = %s\r\n",
+                    password.Text(), password.Text());
+  file.Put({bytes, static_cast<size_t>(length)});
+  SecureZeroMemory(bytes, sizeof bytes);
 }
 
 TEST(PasswordMemoryOfSheets, APageLeavesNoneBehind) {
@@ -183,6 +200,20 @@ TEST(PasswordMemoryOfSheets, APageLeavesNoneBehind) {
       ShowPasswords(host, button);
       EXPECT_EQ(6, CountCopies()) << "those of the host's object alone";
     }
+    EXPECT_EQ(0, CountCopies());
+  }
+}
+
+TEST(PasswordMemoryOfSheets, TheAdministratorsLeaveNoneBehind) {
+  const TestDriver driver;
+  const TestPrinter printer(L"Invoices");
+  const DriverFile file(driver, L"NEMpdf.conf", "");
+  FixPasswords(file);
+  ASSERT_EQ(0, CountCopies());
+  for (const int button : {IDCANCEL, IDOK}) {
+    HostDialog host;
+    host.Set(NEMPDFUI_GENERAL, L"PrinterName", printer.Name().c_str());
+    ShowSecurityPage(host, button, 2);  // those of the sheet's record
     EXPECT_EQ(0, CountCopies());
   }
 }

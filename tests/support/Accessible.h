@@ -1,6 +1,7 @@
 // A control as a screen reader meets it.
 #pragma once
 
+#include <iterator>
 #include <string>
 
 #include "window/SystemFunction.h"
@@ -15,6 +16,16 @@ class ComScope {
   ComScope(const ComScope&) = delete;
   ComScope& operator=(const ComScope&) = delete;
 };
+
+// The text of the static control directly before a control, hidden or not: that is the name of a control that gives
+// none itself. Empty when another control stands there.
+inline std::wstring TextBefore(HWND control) {
+  const HWND previous = ::GetWindow(control, GW_HWNDPREV);
+  wchar_t className[16] = L"", text[256] = L"";
+  ::GetClassNameW(previous, className, static_cast<int>(std::size(className)));
+  if (::lstrcmpiW(className, L"Static") == 0) ::GetWindowTextW(previous, text, static_cast<int>(std::size(text)));
+  return text;
+}
 
 class Accessible {
  public:
