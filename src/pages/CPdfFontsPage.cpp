@@ -100,6 +100,8 @@ void CPdfFontsPage::SaveControls(CDataExchange& exchange) {
     MsgBoxById(window_, GetMsgBoxTitle().Text(), MSG_FONTS_TOO_MANY, MB_OK | MB_ICONWARNING, kFontListLimit);
     return;
   }
+  // At each saving, and OK saves twice. Outside the selective mode, where nobody reads the lists back, the second one
+  // finds the dropped list empty; that fits, so the other one is dropped as well. Such a mode has no use for either.
   texts.KeepOne();
 }
 

@@ -5,6 +5,7 @@
 #include "controls/CFormFieldsPreview.h"
 #include "PlatformSpy.h"
 #include "support/Accessible.h"
+#include "support/Canvas.h"
 
 namespace {
 
@@ -237,6 +238,27 @@ TEST(CFormFieldsPreview, TextStandsAtTheLeft) {
   }
 }
 
+// The texts that were drawn since the last clear().
+std::vector<std::wstring> drawnTexts;
+int WINAPI NoteText(HDC dc, LPCWSTR text, int length, RECT* rect, UINT format) {
+  drawnTexts.emplace_back(text, static_cast<size_t>(length));
+  return RealFunction("user32.dll", "DrawTextW", &NoteText)(dc, text, length, rect, format);
+}
+
+TEST(CFormFieldsPreview, TheSampleIsTheWordText) {
+  PatchImport("user32.dll", "DrawTextW", reinterpret_cast<void*>(&NoteText));
+  for (const FormFieldKind kind : kKinds) {
+    FieldPage test(kind);
+    drawnTexts.clear();
+    test.Look();
+    if (kind == FormFieldKind::CheckBox)
+      EXPECT_TRUE(drawnTexts.empty());
+    else
+      EXPECT_EQ(std::vector<std::wstring>{L"Text"}, drawnTexts);
+  }
+  RestoreImport("user32.dll", "DrawTextW");
+}
+
 TEST(CFormFieldsPreview, FontIsTheNamedOne) {
   for (const int dpi : {96, 192}) {
     const DpiScope scope(static_cast<UINT>(dpi));
@@ -276,6 +298,17 @@ TEST(CFormFieldsPreview, DropdownHasAButton) {
   EXPECT_EQ(kWidth - 100 - 2, ink.right);
   EXPECT_EQ(2, ink.top);
   EXPECT_EQ(kHeight - 2, ink.bottom);
+}
+
+TEST(CFormFieldsPreview, TheButtonIsThatOfAScrollBarDownwards) {
+  FieldPage test(FormFieldKind::Dropdown);
+  const Picture look = test.Look();
+  const Canvas expected(15, kHeight - 4, kMarkedGround);
+  RECT button{0, 0, expected.Width(), expected.Height()};
+  DrawFrameControl(expected, &button, DFC_SCROLL, DFCS_SCROLLDOWN);
+  for (int y = 0; y < expected.Height(); ++y)
+    for (int x = 0; x < expected.Width(); ++x)
+      ASSERT_EQ(PixelOf(expected.At(x, y)), look.At(kWidth - 2 - 15 + x, 2 + y)) << x << ' ' << y;
 }
 
 TEST(CFormFieldsPreview, OnlyADropdownHasAButton) {

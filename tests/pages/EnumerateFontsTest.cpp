@@ -109,6 +109,14 @@ TEST_F(EnumerateFontsTest, FontsAreVisitedWithWhatTheirMakerAllows) {
   EXPECT_TRUE(all.contains(L"Tahoma"));
 }
 
+TEST_F(EnumerateFontsTest, FontsOfAllCharacterSetsAreVisited) {
+  std::set<int> characterSets;
+  const WindowDC dc(nullptr);
+  EnumerateFonts(dc, [&](const InstalledFont& font) { characterSets.insert(font.characterSet); });
+  EXPECT_TRUE(characterSets.contains(ANSI_CHARSET));
+  EXPECT_LT(1u, characterSets.size());
+}
+
 TEST_F(EnumerateFontsTest, WhatTheVisitorThrowsEndsTheVisits) {
   const WindowDC dc(nullptr);
   int visits = 0;

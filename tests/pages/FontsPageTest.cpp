@@ -1,11 +1,13 @@
 #include <algorithm>
 
+#include "driver/Picture.h"
 #include "driver/Popups.h"
 #include "MessageIds.h"
 #include "pages/CNemUIPdfFontsPage.h"
 #include "PageTable.h"
 #include "Pictures.h"
 #include "support/Accessible.h"
+#include "support/ControlPictures.h"
 #include "support/FakeFormatPage.h"
 #include "support/PrintText.h"
 #include "support/TracedThread.h"
@@ -193,7 +195,9 @@ TEST_F(FontsPage, AFontThatCannotBeAddedIsTracedAndTheOthersFollow) {
     for (const TestFont& font : fonts) visit({font.name, 0, kTrueTypeFont, [] { return Os2TableWith(0); }});
     RemoveWindowSubclass(Control(1032).Window(), RefuseBeta, 1);
   };
+  const int32_t warnings = trace.Error().trace->warningCount;
   ASSERT_TRUE(test_.Open());
+  EXPECT_EQ(warnings + 1, trace.Error().trace->warningCount);
   ExpectLists({L"Alpha", L"Delta", L"Gamma"}, {});
   const auto lines = trace.Lines();
   EXPECT_EQ(1, std::ranges::count_if(lines, [](const std::wstring& line) {
@@ -216,6 +220,43 @@ TEST_F(FontsPage, RowsShowWhatTheMakerAllows) {
   };
   EXPECT_EQ((std::map<std::wstring, int>{{L"Device", 1}, {L"Free", 0}, {L"Preview", 4}}), images(1032));
   EXPECT_EQ((std::map<std::wstring, int>{{L"Bitmap", 3}, {L"Restricted", 2}}), images(1053));
+}
+
+// By permission, first for lists that are open, then for those that are not.
+constexpr ListPicture kRowPictures[] = {{269, 271}, {272, 274}, {275, 277}, {278, 280}, {281, 283},
+                                        {270, 271}, {273, 274}, {276, 277}, {279, 280}, {282, 283}};
+
+TEST_F(FontsPage, RowsShowThePicturesOfTheirPermission) {
+  const std::vector<TestFont> fonts{{L"Device", 0, kDeviceFont},
+                                    {L"Free"},
+                                    {L"Restricted", kRestricted},
+                                    {L"Bitmap", kBitmapOnly},
+                                    {L"Preview", kPreview}};
+  for (const int mode : {2, 1})  // the lists are open in the first
+    for (const int id : {1032, 1053}) {
+      PageUnderTest test(kPageId);
+      test.Set(L"FontsEmbedded", mode);
+      GiveFonts(test, fonts);
+      ASSERT_TRUE(test.Open());
+      ASSERT_EQ(mode == 2, test.Control(id).IsEnabled());
+      auto& list = dynamic_cast<CListBoxST&>(*CSubclassedControl::FromHandle(test.Control(id).Window()));
+      const auto look = [&] {
+        list.Invalidate();
+        list.Redraw();
+        return Capture(list.Handle()).pixels;
+      };
+      const auto shown = look();
+      ASSERT_TRUE(list.SetImages(kRowPictures, SecondHalf::Disabled));
+      EXPECT_TRUE(look() == shown) << id << " in mode " << mode;
+    }
+}
+
+TEST_F(FontsPage, EachPictureStandsInItsControl) {
+  OpenWith(kFreeFonts);
+  ExpectPictures(Page(), {{1162, Pictures::kSignInformation16},
+                          {1161, Pictures::kSignWarning16},
+                          {1136, Pictures::kFontsEmbedded},
+                          {1137, Pictures::kFontsExcluded}});
 }
 
 // --- Modes ---------------------------------------------------------------------------------------------------------
@@ -450,6 +491,18 @@ TEST_F(FontsPage, ADoubleClickMovesAFont) {
   ExpectLists({L"Alpha", L"Beta", L"Gamma"}, {L"Delta"});
 }
 
+// Its buttons are closed, but the lists are open. What they show is not stored there.
+TEST_F(FontsPage, ADoubleClickMovesAFontAmongTheStandardOnesToo) {
+  Store(3, false, L"Garamond");
+  OpenWith({{L"Arial"}, {L"Calibri"}, {L"Garamond"}});
+  DoubleClick(1032, L"Calibri");
+  ExpectLists({L"Garamond"}, {L"Arial", L"Calibri"});
+  DoubleClick(1053, L"Arial");
+  ExpectLists({L"Arial", L"Garamond"}, {L"Calibri"});
+  ASSERT_TRUE(test_.Save());
+  ExpectStored(3, false, L"Garamond");
+}
+
 TEST_F(FontsPage, WhatMayNotBeEmbeddedStaysAndTheRestMoves) {
   Store(2, true, L" ");
   OpenWith(kFonts);
@@ -599,6 +652,28 @@ TEST_F(FontsPage, AListOfFontsNeverToEmbedThatIsTooLongGivesWayToTheOther) {
   ExpectStored(2, true, L" ");
 }
 
+// OK saves twice. Another mode does not read the lists back, and keeps neither of them at the end.
+TEST_F(FontsPage, OutsideTheSelectiveModeTheListThatWasKeptLastsForOneSaving) {
+  const auto fonts = LongFonts(50);
+  for (const auto& [radio, mode] : {std::pair{1054, 0}, {1055, 1}, {1056, 3}}) {
+    PageUnderTest test(kPageId);
+    test.Sheet().properties.MsgBoxTitle.SetString(L"Title");
+    test.Set(L"FontsEmbedded", 2);
+    test.Set(L"FontsIsEmbeddedOrNoEmbeddedList", 1);
+    test.Set(L"FontsEmbeddedOrNoEmbeddedList", Join(fonts, 0, 10));
+    GiveFonts(test, fonts);
+    ASSERT_TRUE(test.Open());
+    if (radio != 1054) popups_.ExpectBox({.title = L"Title", .text = kLicence, .icon = MB_ICONINFORMATION});
+    test.Control(radio).Click();
+    for (const auto& [kind, names] : {std::pair{L"1", Join(fonts, 0, 10)}, {L"0", L" "}, {L"0", L" "}}) {
+      ASSERT_TRUE(test.Save());
+      EXPECT_EQ(std::to_wstring(mode), test.Value(L"FontsEmbedded"));
+      EXPECT_EQ(kind, test.Value(L"FontsIsEmbeddedOrNoEmbeddedList")) << radio;
+      EXPECT_EQ(names, test.Value(L"FontsEmbeddedOrNoEmbeddedList")) << radio;
+    }
+  }
+}
+
 TEST_F(FontsPage, TheWarningComesWithTheLimit) {
   // Two lists of 31 names have 2 * 31 * 32 / 2 characters in all; a long name more or less decides.
   for (const auto& [length, warns] : {std::pair{29, false}, {30, true}}) {
@@ -609,7 +684,9 @@ TEST_F(FontsPage, TheWarningComesWithTheLimit) {
     GiveFonts(test, fonts);
     ASSERT_TRUE(test.Open());
     TracedThread trace;
+    const int32_t warnings = trace.Error().trace->warningCount;
     ASSERT_TRUE(test.Save());
+    EXPECT_EQ(warnings + (warns ? 1 : 0), trace.Error().trace->warningCount) << length;
     // 31 * 32 - 1 + 1 + length, and 2
     EXPECT_EQ(warns, HasLimitWarning(trace)) << length;
   }
