@@ -6,13 +6,12 @@
 #include "environment/HostApplication.h"
 #include "environment/ProductLocations.h"
 #include "MessageIds.h"
+#include "Pictures.h"
 #include "resources/ResourceIds.h"
 #include "window/CenterWindow.h"
 #include "window/SmallIcon.h"
 
 namespace {
-
-constexpr UINT kLogo = 157, kLogoMask = 300;
 
 // The template belongs to no language: these texts come from the message table.
 constexpr struct {
@@ -57,7 +56,7 @@ INT_PTR CVersionInfoDialog::Run(HWND owner) { return DoModal(owner ? owner : ::G
 BOOL CVersionInfoDialog::OnInitDialog() {
   if (const BOOL result = CDialog::OnInitDialog(); !result) return result;
   logo_.Attach(*this, IDC_VERSION_LOGO);
-  logo_.SetImage(kLogo, kNoTransparentColor, kLogoMask);
+  logo_.SetImage(Pictures::kLogo.bitmap, kNoTransparentColor, Pictures::kLogo.mask);
   for (const auto& [controlId, messageId] : kTexts) Item(controlId).SetText(MessageText(messageId).Text());
   SetText(MessageText(MSG_VERSION_TITLE).Text());
   SetSmallIcon(*this, IDI_PRODUCT);

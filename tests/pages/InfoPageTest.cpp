@@ -12,6 +12,7 @@
 #include "driver/SelfProcess.h"
 #include "driver/Text.h"
 #include "support/ComponentFolder.h"
+#include "support/ControlPictures.h"
 #include "support/InstalledProduct.h"
 #include "support/LinkAddress.h"
 #include "support/PageUnderTest.h"
@@ -49,9 +50,9 @@ TEST_F(InfoPage, ShowsTheVersion) {
   Open();
   EXPECT_EQ(L"NEM pdf vonder:", Text(1087));
   EXPECT_EQ(L"2.10.4", Text(1038));
-  const auto* logo = static_cast<CImageStatic*>(CSubclassedControl::FromHandle(test.Control(kLogo).Window()));
-  ASSERT_TRUE(logo);
-  EXPECT_TRUE(logo->IsLoaded());
+  ExpectPictures(test.Page(), {{kLogo, Pictures::kLogo}});
+  EXPECT_EQ(157, Pictures::kLogo.bitmap);
+  EXPECT_EQ(300, Pictures::kLogo.mask);
 }
 
 TEST_F(InfoPage, LinksLeadToTheMakersSite) {

@@ -8,6 +8,7 @@
 #include "driver/Popups.h"
 #include "MessageIds.h"
 #include "Pictures.h"
+#include "support/ControlPictures.h"
 #include "support/PageUnderTest.h"
 #include "support/RegistryValue.h"
 
@@ -96,15 +97,16 @@ TEST_F(LanguagePage, ShowsItsRowsInTheUILanguage) {
 
 TEST_F(LanguagePage, ShowsFourFlags) {
   Open();
-  for (const int id : {1388, 1390, 1386, 1389}) {
-    const auto* flag = static_cast<CImageStatic*>(CSubclassedControl::FromHandle(test.Control(id).Window()));
-    ASSERT_TRUE(flag) << id;
-    EXPECT_TRUE(flag->IsLoaded()) << id;
-  }
+  ExpectPictures(test.Page(), {{1388, Pictures::kFlagEnglish},
+                               {1390, Pictures::kFlagGerman},
+                               {1386, Pictures::kFlagArabic},
+                               {1389, Pictures::kFlagFrench}});
   EXPECT_EQ(311, Pictures::kFlagEnglish.bitmap);
   EXPECT_EQ(313, Pictures::kFlagGerman.bitmap);
   EXPECT_EQ(315, Pictures::kFlagArabic.bitmap);
   EXPECT_EQ(314, Pictures::kFlagFrench.bitmap);
+  for (const auto& flag : {Pictures::kFlagEnglish, Pictures::kFlagGerman, Pictures::kFlagArabic, Pictures::kFlagFrench})
+    EXPECT_EQ(320, flag.mask);
 }
 
 TEST_F(LanguagePage, HasItsNumberAsHelpId) {

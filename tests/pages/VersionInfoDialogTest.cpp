@@ -11,6 +11,7 @@
 #include "environment/ProductLocations.h"
 #include "resources/ResourceIds.h"
 #include "support/ComponentFolder.h"
+#include "support/ControlPictures.h"
 #include "support/CopiedFile.h"
 #include "support/FakeSheet.h"
 #include "support/PrintText.h"
@@ -147,9 +148,7 @@ TEST_F(VersionInfoDialog, ShowsTheLogoAndTheProductsIcon) {
     EXPECT_EQ(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(512), IMAGE_ICON, GetSystemMetrics(SM_CXSMICON),
                          GetSystemMetrics(SM_CYSMICON), LR_SHARED),
               icon);
-    const auto* logo = static_cast<CImageStatic*>(CSubclassedControl::FromHandle(sheet.Control(1111).Window()));
-    ASSERT_TRUE(logo);
-    EXPECT_TRUE(logo->IsLoaded());
+    ExpectPictures(CWnd(sheet.Window()), {{1111, Pictures::kLogo}});
   });
 }
 
