@@ -34,10 +34,17 @@ int CompareInColumn(int column, const BookmarkListEntry& left, const BookmarkLis
   }
 }
 
-bool IsEndOfColumnDrag(const WindowMessage& message) {
+bool IsNotice(const WindowMessage& message, UINT wideCode, UINT narrowCode) {
   if (message.message != WM_NOTIFY) return false;
   const UINT code = message.Notify().code;
-  return code == static_cast<UINT>(HDN_ENDTRACKW) || code == static_cast<UINT>(HDN_ENDTRACKA);
+  return code == wideCode || code == narrowCode;
+}
+
+bool IsEndOfColumnDrag(const WindowMessage& message) { return IsNotice(message, HDN_ENDTRACKW, HDN_ENDTRACKA); }
+
+// Behind it the list makes the column as wide as its texts.
+bool IsDividerDoubleClick(const WindowMessage& message) {
+  return IsNotice(message, HDN_DIVIDERDBLCLICKW, HDN_DIVIDERDBLCLICKA);
 }
 
 bool MovesRows(UINT message) {
@@ -244,5 +251,6 @@ bool CListCtrlBookmark::OnWindowMessage(WindowMessage& message) {
     return true;
   }
   if (IsEndOfColumnDrag(message)) CloseEditors();
+  if (IsDividerDoubleClick(message) && !MakeWayForMove()) return true;
   return CListCtrlComboEdit::OnWindowMessage(message);
 }

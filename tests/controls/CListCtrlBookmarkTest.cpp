@@ -85,6 +85,13 @@ class BookmarkPage : public ReportPage, private BookmarkListListener {
     Click(row, 1);
     ASSERT_NE(nullptr, list->Edit());
   }
+  // The column heads tell the list about one of them.
+  void Notify(UINT code, int column = 0) const {
+    NMHEADERW notice{};
+    notice.hdr = {reinterpret_cast<HWND>(control.Send(LVM_GETHEADER)), 0, code};
+    notice.iItem = column;
+    control.Send(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&notice));
+  }
 
   int living = 0;
   std::vector<std::wstring> asked;
@@ -423,11 +430,25 @@ TEST(CListCtrlBookmark, DraggedColumnClosesTheEditors) {
     test.Add(L"a");
     test.OpenEdit(0);
     test.Type(L"b");
-    NMHEADERW drag{};
-    drag.hdr = {reinterpret_cast<HWND>(test.control.Send(LVM_GETHEADER)), 0, code};
-    test.control.Send(WM_NOTIFY, 0, reinterpret_cast<LPARAM>(&drag));
+    test.Notify(code);
     EXPECT_EQ(nullptr, test.list->Edit());
     EXPECT_EQ(L"b", test.Names());
+  }
+}
+
+// The double click on a divider takes no focus from the editor.
+TEST(CListCtrlBookmark, ColumnThatBecomesAsWideAsItsTextsClosesTheEditors) {
+  for (const bool accepts : {true, false}) {
+    BookmarkPage test;
+    test.Add(L"a");
+    test.OpenEdit(0);
+    test.Type(L"b");
+    test.accepts = accepts;
+    const int width = Width(*test.list, 1);
+    test.Notify(HDN_DIVIDERDBLCLICKW, 1);
+    EXPECT_EQ(accepts, test.list->Edit() == nullptr);
+    EXPECT_EQ(accepts, Width(*test.list, 1) != width) << "a refused text keeps the user and the column";
+    EXPECT_EQ(accepts ? L"b" : L"a", test.Names());
   }
 }
 
