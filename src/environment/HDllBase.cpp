@@ -2,22 +2,7 @@
 
 #include "DriverLIB/CEPathS.h"
 #include "DriverLIB/CEString.h"
-
-namespace {
-
-// A damaged library is an error like any other, not a box of the system.
-class QuietErrors {
- public:
-  QuietErrors() { ::SetThreadErrorMode(SEM_FAILCRITICALERRORS, &former_); }
-  ~QuietErrors() { ::SetThreadErrorMode(former_, nullptr); }
-  QuietErrors(const QuietErrors&) = delete;
-  QuietErrors& operator=(const QuietErrors&) = delete;
-
- private:
-  DWORD former_ = 0;
-};
-
-}  // namespace
+#include "environment/QuietErrors.h"
 
 HDllBase::~HDllBase() { FreeModule(); }
 

@@ -2,6 +2,7 @@
 
 #include "DriverLIB/MessageBoxes.h"
 #include "DriverLIB/Trace.h"
+#include "environment/QuietErrors.h"
 #include "MessageIds.h"
 #include "pages/EmbedFilenames.h"
 #include "Pictures.h"
@@ -27,6 +28,7 @@ constexpr ListPicture kImages[] = {
 
 // By the entry in its folder: a file that another program keeps to itself is there, too.
 bool IsThere(const CUString& path) {
+  const QuietErrors quiet;
   WIN32_FIND_DATAW entry;
   const HANDLE search = ::FindFirstFileW(path.Text(), &entry);
   if (search == INVALID_HANDLE_VALUE) return false;
@@ -44,7 +46,7 @@ void CFileAttachmentDialog::AttachList(const CWnd& page) {
 void CFileAttachmentDialog::ExchangeAttachments(CDataExchange& exchange) {
   if (exchange.IsLoading()) LoadList();
   if (exchange.IsSaving()) embedFilenames = EmbedFilenamesText(ListedPaths());
-  exchange.Choice(IDC_ATTACHMENTS_CONFIRM, kConfirmations, embedfilenamesConfirmed);
+  exchange.Choice(IDC_ATTACHMENTS_CONFIRM, kConfirmations, embedfilenamesConfirmed, NoSelection::GoesOn);
   exchange.Check(IDC_ATTACHMENTS_SHOW, embedfilenamesOpen);
   if (!exchange.IsLoading()) return;
   page_.Item(IDC_ATTACHMENTS_CONFIRM).Enable(confirmEditable);

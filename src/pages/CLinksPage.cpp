@@ -42,7 +42,7 @@ BOOL CLinksPage::OnInitDialog() {
 
 void CLinksPage::DoDataExchange(CDataExchange& exchange) {
   exchange.Check(IDC_LINKS_RECOGNIZE, useHyperlinkRecognition);
-  exchange.Choice(IDC_LINKS_BORDER, kLinkBorders, hyperlinkBorder);
+  exchange.Choice(IDC_LINKS_BORDER, kLinkBorders, hyperlinkBorder, NoSelection::GoesOn);
   ExchangeWidth(exchange);
   ExchangeColour(exchange, colourPicker_, hyperlinkBorderColor);
   if (exchange.IsLoading()) OnUseLinks();
@@ -55,7 +55,7 @@ void CLinksPage::ExchangeWidth(CDataExchange& exchange) {
   if (!exchange.IsSaving()) return;
   const int row = widths.Selection();
   hyperlinkBorderWidth = static_cast<uint16_t>(kLinkBorderWidths[std::max(row, 0)].width);
-  if (row < 0) exchange.Fail(IDC_LINKS_WIDTH);
+  if (row < 0) exchange.FailAndGoOn(IDC_LINKS_WIDTH);
 }
 
 void CLinksPage::OnUseLinks() {

@@ -59,7 +59,7 @@ void CDataExchange::Text(int id, CUString& value, int limit) {
   FailAndGoOn(id);
 }
 
-void CDataExchange::MoveChoice(int id, const ValueRow* table, int32_t& value) {
+void CDataExchange::MoveChoice(int id, const ValueRow* table, int32_t& value, NoSelection none) {
   const CComboBox combo(dialog_.Item(id));
   if (IsLoading()) {
     const bool filled = combo.Count() > 0 || FillFromTable(combo, table);
@@ -68,7 +68,11 @@ void CDataExchange::MoveChoice(int id, const ValueRow* table, int32_t& value) {
   if (!IsSaving()) return;
   const int row = combo.Selection();
   value = table[row < 0 ? 0 : row].value;
-  if (row < 0) Fail(id);
+  if (row >= 0) return;
+  if (none == NoSelection::GoesOn)
+    FailAndGoOn(id);
+  else
+    Fail(id);
 }
 
 bool FillFromTable(const CComboBox& combo, const ValueRow* table) {

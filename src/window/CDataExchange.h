@@ -13,6 +13,9 @@
 #include "window/NumberEdit.h"
 #include "window/ValueTable.h"
 
+// A list without a selected row fails a save. Whether the steps behind its own are still done:
+enum class NoSelection { EndsExchange, GoesOn };
+
 class CDataExchange {
  public:
   CDataExchange(CWnd dialog, bool saving) : dialog_(dialog), saving_(saving) {}
@@ -89,9 +92,9 @@ class CDataExchange {
   // A combo with the rows of a value table, and the stored value. Loading fills a combo that is empty, and selects the
   // value's row, or the first; saving with no row selected stores the first row's value and fails.
   template <class T>
-  void Choice(int id, const ValueRow* table, T& value) {
+  void Choice(int id, const ValueRow* table, T& value, NoSelection none = NoSelection::EndsExchange) {
     int32_t stored = static_cast<int32_t>(value);
-    MoveChoice(id, table, stored);
+    MoveChoice(id, table, stored, none);
     if (saving_) value = static_cast<T>(stored);
   }
 
@@ -102,7 +105,7 @@ class CDataExchange {
   long NumberIn(int id) const;
   void ShowRadio(int firstId, int lastId, int index) const;
   int ChosenRadio(int firstId, int lastId) const;
-  void MoveChoice(int id, const ValueRow* table, int32_t& value);
+  void MoveChoice(int id, const ValueRow* table, int32_t& value, NoSelection none);
 
   CWnd dialog_;
   bool saving_;

@@ -1,6 +1,7 @@
 #include "pages/CNemUIAttachmentsPage.h"
 
 #include "driver/CommonDialogs.h"
+#include "driver/ImportPatch.h"
 #include "driver/Input.h"
 #include "driver/SheetDriver.h"
 #include "pages/CNemUIFormatPage.h"
@@ -8,6 +9,7 @@
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
 #include "support/DropRecord.h"
+#include "support/FileDialogSpy.h"
 #include "support/TempFile.h"
 #include "support/TracedThread.h"
 
@@ -106,6 +108,26 @@ TEST_F(AttachmentsPage, RowsShowThePathsAndMarkWhatIsMissing) {
   EXPECT_TRUE(Page().anyMissing);
 }
 
+// A drive without a disk would bring up a box of the system.
+TEST_F(AttachmentsPage, FilesAreLookedForWithoutABoxOfTheSystem) {
+  static decltype(&FindFirstFileW) real;
+  static DWORD modeOfSearch;
+  real = RealFunction("kernel32.dll", "FindFirstFileW", &FindFirstFileW);
+  HANDLE(WINAPI* const search)
+  (LPCWSTR, WIN32_FIND_DATAW*) = [](LPCWSTR path, WIN32_FIND_DATAW* entry) {
+    modeOfSearch = GetThreadErrorMode();
+    return real(path, entry);
+  };
+  DWORD former = 0;
+  SetThreadErrorMode(0, &former);
+  PatchImport("kernel32.dll", "FindFirstFileW", reinterpret_cast<void*>(search));
+  Open(Quoted(path1_));
+  RestoreImport("kernel32.dll", "FindFirstFileW");
+  EXPECT_EQ(DWORD{SEM_FAILCRITICALERRORS}, modeOfSearch);
+  EXPECT_EQ(0u, GetThreadErrorMode()) << "the host's own again";
+  SetThreadErrorMode(former, nullptr);
+}
+
 TEST_F(AttachmentsPage, WithoutAMissingFileNoneIsNoted) {
   Open(Quoted(path1_));
   EXPECT_FALSE(Page().anyMissing);
@@ -199,12 +221,16 @@ TEST_F(AttachmentsPage, StoredConfirmationIsShownAndAnUnknownOneIsTheFirst) {
   }
 }
 
-TEST_F(AttachmentsPage, WithoutAConfirmationSavingFails) {
+TEST_F(AttachmentsPage, WithoutAConfirmationSavingFailsAndGoesOn) {
   test.Set(L"EmbedfilenamesConfirmed", 2);
   Open(Quoted(path1_));
   SendMessageW(test.Control(IDC_ATTACHMENTS_CONFIRM).Window(), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+  test.Control(IDC_ATTACHMENTS_SHOW).Click();
+  test.Control(IDC_ATTACHMENTS_USE).Click();
   EXPECT_FALSE(test.Page().UpdateData(true));
   EXPECT_EQ(0, Page().embedfilenamesConfirmed);
+  EXPECT_EQ(1, Page().embedfilenamesOpen);
+  EXPECT_EQ(0, Page().embedFilenamesEnabled);
 }
 
 TEST_F(AttachmentsPage, OpeningIsAnyNumberAndSavedAsOneOrNone) {
@@ -284,6 +310,33 @@ TEST_F(AttachmentsPage, AVersionThatWasChangedCountsFromTheNextShowing) {
 }
 
 // --- Adding --------------------------------------------------------------------------------------------------------
+
+TEST_F(AttachmentsPage, EachWayToAddAsksForAFileThatIsThere) {
+  const std::function<void()> ways[] = {
+      [this] { test.Control(IDC_ATTACHMENTS_ADD).Click(); },
+      [this] {
+        DoubleClick({MiddleOf(0).x, MiddleOf(0).y * 5});
+      },
+      [this] { SendMessageW(List().Window(), WM_KEYDOWN, VK_INSERT, 0); },
+  };
+  Open(L"a");
+  FileDialogSpy spy;
+  for (const auto& way : ways) {
+    spy.calls.clear();
+    spy.chosen = L"D:\\papers\\b.pdf";
+    way();
+    ASSERT_EQ(1u, spy.calls.size());
+    const FileDialogSpy::Call& call = spy.calls[0];
+    EXPECT_FALSE(call.save);
+    EXPECT_EQ(test.Page().Handle(), call.owner);
+    EXPECT_EQ(L"All Files(*.*)|*.*|", call.filter);
+    EXPECT_EQ(1u, call.firstRow);
+    EXPECT_EQ(L"", call.startName + call.startFolder + call.extension);
+    EXPECT_EQ(260u, call.pathRoom);
+    EXPECT_EQ(0x1804u, call.flags);
+  }
+  EXPECT_EQ((Texts{L"MISSING: a", L"D:\\papers\\b.pdf", L"D:\\papers\\b.pdf", L"D:\\papers\\b.pdf"}), List().Rows());
+}
 
 TEST_F(AttachmentsPage, AFileIsChosenAndAddedAtTheEnd) {
   Open(Quoted(kMissing));

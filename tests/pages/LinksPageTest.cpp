@@ -98,6 +98,17 @@ TEST_F(LinksPage, TheCockpitsValueIsShownWithItsRules) {
   EXPECT_EQ(kNone, Enabled());
 }
 
+TEST_F(LinksPage, ListsWithoutASelectionFailTheSaveWhichGoesOn) {
+  Open(1, 3);
+  for (const int id : {IDC_LINKS_BORDER, IDC_LINKS_WIDTH})
+    SendMessageW(test.Control(id).Window(), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+  Picker().SetColour(0x00FF0000);
+  EXPECT_FALSE(test.Page().UpdateData(true));
+  EXPECT_EQ(0, Page().hyperlinkBorder);
+  EXPECT_EQ(50, Page().hyperlinkBorderWidth);
+  EXPECT_EQ(0x00FF0000u, Page().hyperlinkBorderColor);
+}
+
 // --- Colour --------------------------------------------------------------------------------------------------------
 
 TEST_F(LinksPage, TheColourIsShownAndSaved) {

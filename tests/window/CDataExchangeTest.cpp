@@ -339,12 +339,19 @@ TEST_F(DataExchange, ChoiceStoresTheValueOfTheSelectedRow) {
 
 TEST_F(DataExchange, ChoiceWithoutASelectionStoresTheFirstRowAndFails) {
   SelectRow(-1);
+  for (const NoSelection none : {NoSelection::EndsExchange, NoSelection::GoesOn}) {
+    int member = 99;
+    CDataExchange exchange = Saving();
+    exchange.Choice(kList, kRows, member, none);
+    EXPECT_EQ(7, member);
+    EXPECT_TRUE(exchange.HasFailed());
+    EXPECT_EQ(kList, exchange.FailedControl());
+    EXPECT_EQ(none == NoSelection::GoesOn, exchange.IsSaving());
+  }
   int member = 99;
   CDataExchange exchange = Saving();
   exchange.Choice(kList, kRows, member);
-  EXPECT_EQ(7, member);
-  EXPECT_TRUE(exchange.HasFailed());
-  EXPECT_EQ(kList, exchange.FailedControl());
+  EXPECT_FALSE(exchange.IsSaving()) << "it ends where nothing else is said";
 }
 
 TEST_F(DataExchange, ChoiceFillsAnEmptyComboOnce) {
