@@ -30,9 +30,5 @@ void CNemUICockpitPage::WriteAllPages() {
 }
 
 void CNemUICockpitPage::OnPropertiesWritten() {
-  if (!HasRestored()) return;
-  // At OK both tabs are written, and pages are looked for on the tab that is shown. The pages of the other one were
-  // written when it was left.
-  const CNemUIPage* shown = FindPage(GetPageId());
-  if (!shown || shown == this) WriteAllPages();
+  if (HasRestored()) WriteAllPages();
 }

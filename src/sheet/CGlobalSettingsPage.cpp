@@ -12,7 +12,9 @@ constexpr int kBarLeft = 10;  // at 96 dpi
 }  // namespace
 
 void CGlobalSettingsPage::AddChild(std::unique_ptr<CNemUIPage> page) {
-  if (page) children_.push_back(std::move(page));
+  if (!page) return;
+  page->SetHost(*this);
+  children_.push_back(std::move(page));
 }
 
 CNemUIPage* CGlobalSettingsPage::FindPage(int pageId) {

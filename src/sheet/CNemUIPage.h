@@ -26,6 +26,8 @@ class CNemUIPage : public CPropertyPage {
   virtual int GetPageId() const { return description_.pageId; }
   virtual bool ActivatePage(int) { return false; }
   virtual CNemUIPage* FindPage(int) { return nullptr; }
+  // The tab that the page is one of; it outlives the page.
+  void SetHost(CNemUIPage& host) { host_ = &host; }
   virtual LRESULT ShowHelpForControl(WPARAM controlId, LPARAM);
   virtual bool ExchangeProperties(CDataExchange& exchange) = 0;
 
@@ -60,6 +62,8 @@ class CNemUIPage : public CPropertyPage {
   // Key of the help topic for controls without one of their own.
   virtual DWORD ContextHelpId() const { return description_.templateId; }
   void SetLoaded() { loaded_ = true; }
+  // Null for a page that stands alone.
+  CNemUIPage* Host() const { return host_; }
   // Enables or disables each control of the page.
   void EnableAll(bool enable) const;
   // Disables what an administrator has fixed: the last step of each rule about what is enabled.
@@ -70,6 +74,7 @@ class CNemUIPage : public CPropertyPage {
 
   const PageDescription description_;
   const CUString title_;
+  CNemUIPage* host_ = nullptr;
   CMyHyperLink helpLink_;
   bool loaded_ = false;
   bool initialized_ = false;

@@ -22,7 +22,11 @@ class CNemUISettingsPage : public Logic {
   CUString GetHelpFilename() override { return sheet_ ? sheet_->GetHelpFilename() : CUString(); }
   CUString GetMsgBoxTitle() override { return sheet_ ? sheet_->GetMsgBoxTitle() : CUString(); }
   bool ActivatePage(int pageId) override { return sheet_ && sheet_->ActivatePage(pageId); }
-  CNemUIPage* FindPage(int pageId) override { return sheet_ ? sheet_->FindPage(pageId) : nullptr; }
+  // On the page's own tab. The sheet would look on the one that is shown, and at OK the pages of both are saved.
+  CNemUIPage* FindPage(int pageId) override {
+    if (!sheet_) return nullptr;
+    return this->Host() ? this->Host()->FindPage(pageId) : sheet_->FindPage(pageId);
+  }
 
   bool ExchangeProperties(CDataExchange& exchange) override {
     if (!sheet_) return false;

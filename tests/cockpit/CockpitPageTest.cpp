@@ -2,6 +2,7 @@
 #include "CockpitTest.h"
 
 #include "pages/CNemUIPdfGraphicPage.h"
+#include "sheet/CNemUIGlobalSettingsPage.h"
 #include "support/CockpitFields.h"
 
 namespace cockpit_test {
@@ -265,10 +266,10 @@ TEST_F(CockpitRestore, MissingPagesAreSkippedInAllWalks) {
 }
 
 TEST_F(CockpitRestore, PagesOfTheOtherTabAreNotWritten) {
+  CNemUIGlobalSettingsPage ownTab(&sheet_, {IDD_HOST_PAGE, IDI_BASIC_SETTINGS, MSG_TAB_BASIC_SETTINGS}, 0, {});
   Open();
   Restore(IDYES);
-  CNemUICockpitPage other(&sheet_, kCockpit, 1);
-  sheet_.pages[120] = &other;  // now the other tab is shown
+  page_.SetHost(ownTab);  // which has none: those that the sheet finds are the other one's
   settings_.log.clear();
   ASSERT_TRUE(page_.UpdateDataSuper(true));
   EXPECT_TRUE(settings_.log.empty());

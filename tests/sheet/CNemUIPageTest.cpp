@@ -358,6 +358,15 @@ TEST_F(NemUIPage, GlueForwardsToTheSheet) {
   EXPECT_EQ(&sheet, page.Sheet());
 }
 
+TEST_F(NemUIPage, GlueLooksForPagesOnItsOwnTab) {
+  FakeSheet sheet;
+  CNemUIGlobalSettingsPage tab(&sheet, kDescription, 0, {});
+  GluePage page(&sheet, kDescription, 0);
+  sheet.pages[120] = &page;
+  page.SetHost(tab);
+  EXPECT_EQ(nullptr, page.FindPage(120)) << "what the sheet finds is on the tab that is shown";
+}
+
 TEST_F(NemUIPage, GlueWithoutASheetHasNothing) {
   GluePage page(nullptr, kDescription, 0);
   EXPECT_EQ(L"", page.GetHelpFilename());
