@@ -49,6 +49,8 @@ void CZugferdPage::ExchangeCockpitValues(const CockpitExchange& exchange, Zugfer
   exchange.Value(showAfterCreation, values.showAfterCreation);
   exchange.Value(creationMethod, values.creationMethod, creationMethodOverride.IsSet());
   exchange.Value(xmlFile, values.xml, xmlOverride.IsSet());
+  // Filling the controls leaves a path that stands there, which must not outlast the restored one.
+  if (exchange.IsToPage() && IsWindow() && !xmlOverride.IsSet()) Item(IDC_ZUGFERD_XML_FILE).SetText(xmlFile.Text());
 }
 
 void CZugferdPage::ClearOverrides() {

@@ -7,6 +7,7 @@
 #include "resources/ResourceIds.h"
 #include "ShellSpy.h"
 #include "support/DropRecord.h"
+#include "support/FileDialogSpy.h"
 #include "support/HelpSpy.h"
 #include "support/RegistryValue.h"
 #include "support/TempFile.h"
@@ -212,6 +213,7 @@ TEST_F(ZugferdPage, AFixedFileTakesThePlaceOfTheHosts) {
   EXPECT_EQ(L"C:\\fixed.xml", XmlFile().Text());
   Page().SetCockpitValues({.zugferd = 1, .xml = L"C:\\cockpit.xml"});
   EXPECT_EQ(L"C:\\fixed.xml", Page().xmlFile);
+  EXPECT_EQ(L"C:\\fixed.xml", XmlFile().Text());
   ASSERT_TRUE(test.Save());
   EXPECT_EQ(L"C:\\fixed.xml", test.Value(L"ZUGFeRDXml"));
 }
@@ -399,7 +401,40 @@ TEST_F(ZugferdPage, WhetherTheInvoiceIsShownIsTheCockpitsUnderEveryOverride) {
   EXPECT_EQ(L"fixed.xml", Page().xmlFile);
 }
 
+TEST_F(ZugferdPage, TheCockpitsFileTakesThePlaceOfTheOneThatStandsThere) {
+  Open(1, 0, L"host.xml");
+  for (const wchar_t* path : {L"other.xml", L"", L"host.xml", L""}) {
+    Page().SetCockpitValues({.zugferd = 1, .xml = path});
+    EXPECT_EQ(path, XmlFile().Text());
+    test.Page().OnSetActive();
+    EXPECT_EQ(path, XmlFile().Text());
+    ASSERT_TRUE(test.Save());
+    EXPECT_EQ(path, test.Value(L"ZUGFeRDXml"));
+  }
+}
+
 // --- The XML file --------------------------------------------------------------------------------------------------
+
+TEST_F(ZugferdPage, BrowsingAsksForAnXmlFileThatIsThere) {
+  const std::wstring path = L"C:\\" + std::wstring(293, L'x') + L".xml";
+  Open(1, 0, L"host.xml");
+  FileDialogSpy spy;
+  spy.chosen = path;
+  test.Control(IDC_ZUGFERD_BROWSE).Click();
+  ASSERT_EQ(1u, spy.calls.size());
+  const FileDialogSpy::Call& call = spy.calls[0];
+  EXPECT_FALSE(call.save);
+  EXPECT_EQ(test.Page().Handle(), call.owner);
+  EXPECT_EQ(L"xml|*.xml|", call.filter);
+  EXPECT_EQ(1u, call.firstRow);
+  EXPECT_EQ(L"", call.startName + call.startFolder + call.extension);
+  EXPECT_EQ(520u, call.pathRoom);
+  EXPECT_EQ(0x1800u, call.flags);
+  EXPECT_EQ(path, XmlFile().Text());
+  EXPECT_EQ(path, Page().xmlFile);
+  ASSERT_TRUE(test.Save());
+  EXPECT_EQ(path.substr(0, 260), test.Value(L"ZUGFeRDXml"));
+}
 
 TEST_F(ZugferdPage, TheUserChoosesAFile) {
   TempFile file("chosen.xml");
