@@ -11,7 +11,7 @@
 namespace {
 
 constexpr int kCockpitPage = 120, kWatermarkPage = 101, kZugferdPage = 112, kLinksPage = 113, kAttachmentsPage = 114,
-              kFormatPage = 118;
+              kFormFieldsPage = 115, kFormatPage = 118;
 constexpr int kRestoreLink = 1444;
 constexpr int kPlain17 = 4, kPdfA1b = 7, kPdfA3b = 12;  // rows of the versions
 constexpr wchar_t kFiles[] = L"\"C:\\not there\\a.doc\"";
@@ -28,6 +28,23 @@ SheetTask Show(Sheet& sheet, int page) {
   EXPECT_EQ(page, sheet.PageId());
 }
 
+SheetTask ShowTab(Sheet& sheet, int tab) {
+  sheet.SelectTab(tab);
+  co_await sheet.Settled();
+  EXPECT_EQ(tab, sheet.CurrentTab());
+}
+
+SheetTask RestoreDefaults(Sheet& sheet) {
+  co_await Show(sheet, kCockpitPage);
+  sheet.ExpectBox({.title = L"Host",
+                   .text = L"All settings will be set to default. Do you wish to continue?",
+                   .icon = MB_ICONWARNING,
+                   .button = IDYES});
+  sheet.Control(kRestoreLink).Click();
+  co_await sheet.Settled();
+  EXPECT_EQ(1u, sheet.Boxes().size());
+}
+
 class PagesTogether : public testing::Test {
  protected:
   PagesTogether() {
@@ -42,8 +59,7 @@ class PagesTogether : public testing::Test {
   intptr_t Run(Sheet::Body body) {
     return RunSheet([this] { return host.DoModal(); },
                     [body = std::move(body)](Sheet& sheet) -> SheetTask {
-                      sheet.SelectTab(0);
-                      co_await sheet.Settled();
+                      co_await ShowTab(sheet, 0);
                       co_await body(sheet);
                     })
         .value;
@@ -120,6 +136,18 @@ TEST_F(PagesTogether, AnInvoicePageThatWasNeverShownIsSwitchedOffAllTheSame) {
   EXPECT_EQ(0, host.Long(0, L"ZUGFeRD"));
 }
 
+TEST_F(PagesTogether, OnlyRestoringTakesTheFileOfAnInvoicePageThatWasShown) {
+  host.Set(0, L"PdfVersion", 106).Set(0, L"ZUGFeRD", 1).Set(0, L"ZUGFeRDXml", L"C:\\host.xml");
+  for (const bool restored : {false, true}) {
+    EXPECT_EQ(1, Run([restored](Sheet& sheet) -> SheetTask {
+                co_await Show(sheet, kZugferdPage);
+                if (restored) co_await RestoreDefaults(sheet);
+                sheet.PressOk();
+              }));
+    EXPECT_EQ(restored ? L"" : L"C:\\host.xml", host.Text(0, L"ZUGFeRDXml"));
+  }
+}
+
 TEST_F(PagesTogether, APdfA1SwitchesAttachmentsOffOnBothPagesThatHoldTheSwitch) {
   for (const bool shownBefore : {false, true}) {
     host.Set(0, L"PdfVersion", 17).Set(0, L"EmbedFilenames", kFiles).Set(0, L"EmbedFilenamesEnabled", 1);
@@ -170,12 +198,7 @@ TEST_F(PagesTogether, RestoredDefaultsOutlastALinksPageThatWasShown) {
   host.Set(0, L"EmbedFilenames", kFiles).Set(0, L"EmbedFilenamesEnabled", 1);
   EXPECT_EQ(1, Run([](Sheet& sheet) -> SheetTask {
               co_await Show(sheet, kLinksPage);
-              co_await Show(sheet, kCockpitPage);
-              sheet.ExpectBox({.title = L"Host",
-                               .text = L"All settings will be set to default. Do you wish to continue?",
-                               .icon = MB_ICONWARNING,
-                               .button = IDYES});
-              sheet.Control(kRestoreLink).Click();
+              co_await RestoreDefaults(sheet);
               sheet.PressOk();
             }));
   EXPECT_EQ(0, host.Long(0, L"EmbedFilenamesEnabled"));
@@ -203,21 +226,64 @@ TEST_F(PagesTogether, StationeryAsTheUserHasJustLeftItIsRemindedOfAtPdfA) {
   }
 }
 
+TEST_F(PagesTogether, TheLinksPageWritesNoOlderListBack) {
+  enum class Ending { Ok, OtherTab, Restored };
+  for (const Ending ending : {Ending::Ok, Ending::OtherTab, Ending::Restored}) {
+    host.Set(0, L"EmbedFilenames", L"\"C:\\not there\\a.doc\";\"C:\\not there\\b.doc\"");
+    host.Set(0, L"EmbedFilenamesEnabled", 1);
+    EXPECT_EQ(1, Run([ending](Sheet& sheet) -> SheetTask {
+                co_await Show(sheet, kLinksPage);
+                co_await Show(sheet, kAttachmentsPage);
+                SendMessageW(sheet.Control(IDC_ATTACHMENTS_LIST).Window(), LB_SETSEL, TRUE, 0);
+                sheet.Control(IDC_ATTACHMENTS_REMOVE).Click();
+                co_await Show(sheet, kLinksPage);
+                if (ending == Ending::OtherTab) co_await ShowTab(sheet, 1);
+                if (ending == Ending::Restored) co_await RestoreDefaults(sheet);
+                sheet.PressOk();
+              }));
+    EXPECT_EQ(L"\"C:\\not there\\b.doc\"", host.Text(0, L"EmbedFilenames")) << static_cast<int>(ending);
+  }
+}
+
+// --- Both tabs -----------------------------------------------------------------------------------------------------
+
+TEST_F(PagesTogether, EachTabKeepsItsOwnSwitchForAttachments) {
+  for (const int first : {0, 1}) {
+    for (const int set : {0, 1})
+      host.Set(set, L"EmbedFilenames", kFiles).Set(set, L"EmbedFilenamesEnabled", set ^ first);
+    EXPECT_EQ(1, Run([](Sheet& sheet) -> SheetTask {
+                co_await Show(sheet, kAttachmentsPage);
+                co_await ShowTab(sheet, 1);
+                co_await Show(sheet, kLinksPage);
+                sheet.PressOk();
+              }));
+    for (const int set : {0, 1}) EXPECT_EQ(set ^ first, host.Long(set, L"EmbedFilenamesEnabled")) << set << first;
+  }
+}
+
+// PDF/A leaves the number of the switch as it is, another version stores 0 or 1.
+TEST_F(PagesTogether, AtOkAPageObeysTheVersionOfItsOwnTab) {
+  host.Set(0, L"PdfVersion", 106).Set(0, L"FormFieldsEnabled", 1).Set(0, L"ShowFormfields", 7);
+  EXPECT_EQ(1, Run([](Sheet& sheet) -> SheetTask {
+              co_await Show(sheet, kFormFieldsPage);
+              co_await ShowTab(sheet, 1);
+              sheet.PressOk();
+            }));
+  EXPECT_EQ(7, host.Long(0, L"ShowFormfields"));
+}
+
 // Both tabs have the confirmation, and one of them offers it.
 TEST_F(PagesTogether, TheDocumentsPagesLeaveTheConfirmationOfTheBasicSettings) {
   EXPECT_EQ(1, Run([](Sheet& sheet) -> SheetTask {
-              sheet.SelectTab(1);
-              co_await sheet.Settled();
+              co_await ShowTab(sheet, 1);
               co_await Show(sheet, kLinksPage);
               co_await Show(sheet, kAttachmentsPage);
               EXPECT_EQ(0, sheet.Control(IDC_ATTACHMENTS_CONFIRM).SelectedRow());
-              sheet.SelectTab(0);
-              co_await sheet.Settled();
+              co_await ShowTab(sheet, 0);
               co_await Show(sheet, kAttachmentsPage);
               sheet.Control(IDC_ATTACHMENTS_CONFIRM).Select(2);
               sheet.Control(IDC_ATTACHMENTS_SHOW).Click();
-              sheet.SelectTab(1);
-              co_await sheet.Settled();
+              co_await ShowTab(sheet, 1);
               EXPECT_EQ(kAttachmentsPage, sheet.PageId());
               EXPECT_EQ(2, sheet.Control(IDC_ATTACHMENTS_CONFIRM).SelectedRow());
               EXPECT_TRUE(sheet.Control(IDC_ATTACHMENTS_SHOW).IsChecked());
