@@ -197,6 +197,28 @@ TEST(CListCtrlComboEdit, EditBoxTakesAtMost254Characters) {
   EXPECT_EQ(254, test.list->Edit()->Text().Length());
 }
 
+TEST(CListCtrlComboEdit, EditBoxHasABorderAndShowsItsCaret) {
+  EditableList test;
+  test.list->SetCell(0, kTextColumn, std::wstring(100, L'W').c_str());
+  static LONG style;
+  static int scrolls;
+  style = scrolls = 0;
+  const HOOKPROC watch = [](int code, WPARAM wParam, LPARAM lParam) -> LRESULT {
+    const auto& sent = *reinterpret_cast<const CWPSTRUCT*>(lParam);
+    // The control draws its border itself and takes the style back.
+    if (sent.message == WM_NCCREATE) style = reinterpret_cast<const CREATESTRUCTW*>(sent.lParam)->style;
+    if (sent.message == EM_SCROLLCARET) ++scrolls;
+    return ::CallNextHookEx(nullptr, code, wParam, lParam);
+  };
+  const HHOOK hook = ::SetWindowsHookExW(WH_CALLWNDPROC, watch, nullptr, ::GetCurrentThreadId());
+  test.OpenEdit(0);
+  ::UnhookWindowsHookEx(hook);
+  EXPECT_TRUE(style & WS_BORDER);
+  EXPECT_EQ(1, scrolls);
+  const CListEditBox& edit = *test.list->Edit();
+  EXPECT_LT(GET_X_LPARAM(edit.Send(EM_POSFROMCHAR, 99)), edit.ClientRect().right);
+}
+
 TEST(CListCtrlComboEdit, ReturnKeepsTheText) {
   EditableList test;
   test.OpenEdit(1);
@@ -352,6 +374,15 @@ TEST(CListCtrlComboEdit, ComboBoxSearchesByBeginning) {
   test.list->SetCell(0, kNumberColumn, L"2");
   test.OpenCombo(0);
   EXPECT_STREQ(L"20", test.list->Combo()->SelectedRowText().Text());
+}
+
+TEST(CListCtrlComboEdit, ComboBoxTakesAtMost254Characters) {
+  EditableList test;
+  for (const int length : {254, 255, 300}) {
+    test.list->SetCell(0, kNumberColumn, std::wstring(static_cast<size_t>(length), L'a').c_str());
+    test.OpenCombo(0);
+    EXPECT_EQ(254, test.list->Combo()->Text().Length()) << length;
+  }
 }
 
 TEST(CListCtrlComboEdit, AChoiceIsApplied) {

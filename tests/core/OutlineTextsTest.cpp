@@ -208,6 +208,18 @@ TEST_F(Outline, AHeadingWithANameKeepsItsStyle) {
   EXPECT_EQ(At(0).used, 0);
 }
 
+TEST_F(Outline, AnotherStyleWithANameComesBackAsItWas) {
+  const wchar_t text[] = L"{STYLE:any,name;3;{FONT:Arial;10}};";
+  ASSERT_EQ(1, Read(text, L"any,name;3"));
+  EXPECT_EQ(At(0).kind, kBookmarkStandard);
+  EXPECT_EQ(At(0).styleName, L"any");
+  EXPECT_EQ(At(0).displayName, L"name");
+  COutlineWriter writer;
+  writer.Add(At(0));
+  EXPECT_EQ(writer.Styles(), L"any,name;3");
+  EXPECT_EQ(writer.Formats(), text);
+}
+
 TEST_F(Outline, AHeadingUnderItsOwnNameIsWrittenWithoutIt) {
   CBookmarkFormat format = Format(L"heading 1");
   format.kind = kBookmarkStandard;

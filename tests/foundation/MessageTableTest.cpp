@@ -4,6 +4,7 @@
 
 #include <algorithm>
 
+#include "MessageIds.h"
 #include "support/ModuleResources.h"
 
 namespace {
@@ -651,6 +652,22 @@ TEST_P(KnownEnglishText, StandsUnderItsNumber) {
 }
 
 INSTANTIATE_TEST_SUITE_P(MessageTable, KnownEnglishText, testing::ValuesIn(kKnownTexts));
+
+// Texts that users know, whose numbers are the library's own.
+INSTANTIATE_TEST_SUITE_P(
+    OwnNumbers, KnownEnglishText,
+    testing::ValuesIn(std::initializer_list<KnownText>{
+        {MSG_BOOKMARK_BOLD, L"Bold"},
+        {MSG_BOOKMARK_ITALIC, L"Italic"},
+        {MSG_BOOKMARK_UNDERLINED, L"Underlined"},
+        {MSG_BOOKMARK_KIND_STANDARD, L"Standard"},
+        {MSG_BOOKMARK_KIND_USER_DEFINED, L"User Def."},
+        {MSG_BOOKMARK_KIND_WORD_STANDARD, L"Word std."},
+        {MSG_BOOKMARK_KIND_WORD_USER_DEFINED, L"Word User Def."},
+        {MSG_BOOKMARK_TOO_MANY_USED,
+         L"Unable to save all used bookmark styles. Please reduce the number of styles that should be used to generate "
+         L"bookmarks."},
+    }));
 
 TEST(MessageTable, HasATextForEachErrorNumberThatIsKnownAndForNoOther) {
   constexpr uint32_t kErrorTexts = 0xC000;
