@@ -111,6 +111,18 @@ HBITMAP AlphaImage::Render(int width, int height, bool flipped, bool disabled) c
   return last.bitmap.Get();
 }
 
+GdiIcon AlphaImage::MakeIcon(int width, int height) const {
+  AlphaPixels picture = Resize(pixels_, width, height);
+  if (picture.IsEmpty()) return {};
+  DivideByAlpha(picture);
+  const GdiBitmap colors = MakeDibSection(picture);
+  // Of no meaning beside the alpha, and asked for all the same. Its rows end on whole words.
+  const std::vector<uint8_t> noMask(static_cast<size_t>((width + 15) / 16 * 2) * height);
+  const GdiBitmap mask(::CreateBitmap(width, height, 1, 1, noMask.data()));
+  ICONINFO info{TRUE, 0, 0, mask.Get(), colors.Get()};
+  return GdiIcon(::CreateIconIndirect(&info));
+}
+
 void AlphaImage::Draw(HDC dc, const RECT& rect, bool disabled) const {
   RECT device = rect;
   ::LPtoDP(dc, reinterpret_cast<POINT*>(&device), 2);

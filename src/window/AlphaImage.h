@@ -23,6 +23,8 @@ class AlphaImage {
 
   // Blends the whole picture into the rectangle, which may have any size and be mirrored. `disabled` draws it grey.
   void Draw(HDC dc, const RECT& rect, bool disabled = false) const;
+  // The picture in that size as an icon, which buttons draw in each of their states. None when it is empty.
+  GdiIcon MakeIcon(int width, int height) const;
 
  private:
   friend AlphaImage MakeAlphaImage(HBITMAP bitmap, HBITMAP mask);

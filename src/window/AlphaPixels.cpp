@@ -18,6 +18,7 @@ constexpr uint32_t Brightness(uint32_t pixel) {
 }
 
 constexpr uint32_t Multiply(uint32_t value, uint32_t alpha) { return (value * alpha + 127) / 255; }
+constexpr uint32_t Divide(uint32_t value, uint32_t alpha) { return std::min((value * 255 + alpha / 2) / alpha, 255u); }
 
 // How much of source pixel `from` lies under target pixel `to`, in units of which a source pixel has `targetSize` and
 // a target pixel `sourceSize`.
@@ -66,6 +67,15 @@ void Flip(AlphaPixels& picture) {
   for (int y = 0; y < picture.height; ++y) {
     const auto row = picture.pixels.begin() + static_cast<std::ptrdiff_t>(y) * picture.width;
     std::reverse(row, row + picture.width);
+  }
+}
+
+void DivideByAlpha(AlphaPixels& picture) {
+  for (uint32_t& pixel : picture.pixels) {
+    const uint32_t alpha = Channel(pixel, kAlphaShift);
+    if (alpha == 0) continue;
+    pixel = Compose(alpha, Divide(Channel(pixel, kRedShift), alpha), Divide(Channel(pixel, kGreenShift), alpha),
+                    Divide(Channel(pixel, kBlueShift), alpha));
   }
 }
 

@@ -23,5 +23,8 @@ AlphaPixels Resize(const AlphaPixels& source, int width, int height);
 // Left and right exchanged, in place.
 void Flip(AlphaPixels& picture);
 
+// The colours as they are without the alpha, which stays: icons hold them so. In place.
+void DivideByAlpha(AlphaPixels& picture);
+
 // The look of something that cannot be used: grey, and half as opaque. In place.
 void MakeDisabled(AlphaPixels& picture);

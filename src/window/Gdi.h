@@ -46,6 +46,26 @@ class SelectScope {
   HGDIOBJ previous_;
 };
 
+// An icon that was made at run time.
+class GdiIcon {
+ public:
+  GdiIcon() = default;
+  explicit GdiIcon(HICON icon) : icon_(icon) {}
+  GdiIcon(GdiIcon&& other) noexcept : icon_(std::exchange(other.icon_, nullptr)) {}
+  GdiIcon& operator=(GdiIcon&& other) noexcept {
+    std::swap(icon_, other.icon_);
+    return *this;
+  }
+  ~GdiIcon() {
+    if (icon_) ::DestroyIcon(icon_);
+  }
+  HICON Get() const { return icon_; }
+  explicit operator bool() const { return icon_ != nullptr; }
+
+ private:
+  HICON icon_ = nullptr;
+};
+
 // The device context of a window, for measuring and drawing outside of WM_PAINT. A null window means the screen.
 class WindowDC {
  public:

@@ -18,6 +18,12 @@ TEST(AlphaPixels, TheUnusedByteOfABitmapDoesNotCount) {
   EXPECT_EQ(0u, CombineWithMask(1, 1, &color, &mask).pixels[0]);
 }
 
+TEST(AlphaPixels, DividedByTheAlphaColoursAreTheirOwn) {
+  AlphaPixels picture{5, 1, {0xFF112233, 0x80402010, 0x01010000, 0x00000000, 0x02030000}};
+  DivideByAlpha(picture);
+  EXPECT_EQ((std::vector<uint32_t>{0xFF112233, 0x80804020, 0x01FF0000, 0x00000000, 0x02FF0000}), picture.pixels);
+}
+
 TEST(AlphaPixels, TheSameSizeIsTheSamePicture) {
   const AlphaPixels picture{2, 1, {0xFF112233, 0x80402010}};
   EXPECT_EQ(picture.pixels, Resize(picture, 2, 1).pixels);

@@ -45,6 +45,23 @@ TEST(AlphaImage, WhatDoesNotFitIsNoPicture) {
   EXPECT_TRUE(MakeAlphaImage(nullptr, mask.Get()).IsEmpty());
 }
 
+TEST(AlphaImage, BecomesAnIconOfAnySize) {
+  AlphaImage image;
+  EXPECT_FALSE(image.MakeIcon(16, 16));
+  ASSERT_TRUE(image.Load(kUpright, kUprightMask, 96));
+  for (const int size : {16, 17, 32, 50}) {
+    const GdiIcon icon = image.MakeIcon(size, size);
+    ASSERT_TRUE(icon);
+    ICONINFO info{};
+    ASSERT_TRUE(GetIconInfo(icon.Get(), &info));
+    const GdiBitmap colors(info.hbmColor), mask(info.hbmMask);
+    BITMAP bitmap{};
+    GetObjectW(colors.Get(), sizeof bitmap, &bitmap);
+    EXPECT_EQ(size, bitmap.bmWidth);
+    EXPECT_EQ(size, bitmap.bmHeight);
+  }
+}
+
 TEST(AlphaImage, LoadsAPairByItsNumbers) {
   AlphaImage image;
   ASSERT_TRUE(image.Load(kUpright, kUprightMask, 96));
