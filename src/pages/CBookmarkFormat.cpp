@@ -12,6 +12,7 @@ namespace {
 
 constexpr wchar_t kNameSeparator[] = L",";
 constexpr wchar_t kPartSeparator[] = L", ";
+constexpr wchar_t kSizeUnit[] = L"pt";
 constexpr std::wstring_view kForbiddenInNames = L",;.:{}()\"";
 
 struct Heading {
@@ -44,8 +45,12 @@ CBookmarkFormat CBookmarkFormat::UserCopy() const {
   return copy;
 }
 
-CUString CBookmarkFormat::GetFormatText(WideView colourName) const {
-  CUString text = fontName + kPartSeparator + GetSizeText();
+CUString CBookmarkFormat::GetFormatText(WideView colourName) const { return DescribeWith(L"", colourName); }
+
+CUString CBookmarkFormat::GetDescription(WideView colourName) const { return DescribeWith(kSizeUnit, colourName); }
+
+CUString CBookmarkFormat::DescribeWith(WideView sizeUnit, WideView colourName) const {
+  CUString text = fontName + kPartSeparator + GetSizeText() + sizeUnit;
   if (bold) text += CUString(kPartSeparator) + MessageText(MSG_BOOKMARK_BOLD);
   if (italic) text += CUString(kPartSeparator) + MessageText(MSG_BOOKMARK_ITALIC);
   if (underline) text += CUString(kPartSeparator) + MessageText(MSG_BOOKMARK_UNDERLINED);

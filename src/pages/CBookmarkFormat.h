@@ -34,6 +34,8 @@ struct CBookmarkFormat {
 
   // The columns of the list. The colour is described by the caller, since that is the colour controls' business.
   CUString GetFormatText(WideView colourName) const;
+  // The same for the dialog of a format: with the unit of the size.
+  CUString GetDescription(WideView colourName) const;
   CUString GetKindText() const;
 
   // The parts of the texts in which formats travel.
@@ -41,6 +43,9 @@ struct CBookmarkFormat {
   CUString GetLevelText() const;
   CUString GetSizeText() const;    // one decimal if it has a fraction, else none
   CUString GetColourText() const;  // "red.green.blue", empty for no colour
+
+ private:
+  CUString DescribeWith(WideView sizeUnit, WideView colourName) const;
 };
 
 // True when both make bookmarks look alike. Names, kinds and levels do not count.

@@ -7,6 +7,7 @@
 #include "DriverLIB/Numbers.h"
 #include "DriverLIB/Platform.h"
 #include "DriverLIB/TextAlgorithms.h"
+#include "pages/FontSizeText.h"
 
 namespace {
 
@@ -49,16 +50,6 @@ class PartReader {
  private:
   std::wstring_view rest_;
 };
-
-// A size with a decimal point or a decimal comma.
-double ParseSize(std::wstring_view text) {
-  std::string number;
-  for (const wchar_t character : text) {
-    if (character >= 0x80) break;
-    number += character == L',' ? '.' : static_cast<char>(character);
-  }
-  return ParseDouble(number);
-}
 
 // Red, green and blue with points between, of which the low bytes count.
 uint32_t ParseColour(std::wstring_view text) {
@@ -103,7 +94,7 @@ bool ReadEntry(std::wstring_view entry, std::wstring_view& styleText, CBookmarkF
   if (size.empty()) return false;
   format.level = ParseDecimal(level);
   format.fontName = font;
-  format.fontSize = ParseSize(size);
+  format.fontSize = ParseFontSize(size);
   format.colour = CBookmarkFormat::kNoColour;
   if (!isLast) ReadLook(reader, format);
   return true;

@@ -4,6 +4,7 @@
 #include "MessageIds.h"
 #include "pages/CNemUIActionPage.h"
 #include "pages/CNemUIAttachmentsPage.h"
+#include "pages/CNemUIBookmarkPage.h"
 #include "pages/CNemUIColorsPage.h"
 #include "pages/CNemUIDocInfoPage.h"
 #include "pages/CNemUIFormatPage.h"
@@ -37,7 +38,6 @@ std::unique_ptr<CNemUIPage> Make(SheetServices* sheet, const PageDescription& de
 // caption, images and number, and a template of its own.
 constexpr PageFactory kPlaceholder = Make<CNemUINoDocSettingsPage>;
 
-// A page that is not built yet has no row of its own class; its entry in the bar does nothing.
 constexpr PageCatalogueRow kPages[] = {
     {{IDD_PAPER_PAGE, 0, MSG_PAGE_PAPER, 100, 263, 264}, Make<CNemUIPaperPage>, Make<CNemUIPaperPage>},
     {{IDD_GRAPHIC_PAGE, 0, MSG_PAGE_GRAPHICAL_OPTIMIZATION, 108, 251, 252},
@@ -62,6 +62,7 @@ constexpr PageCatalogueRow kPages[] = {
      Make<CNemUIFormFieldsColorPage>,
      Make<CNemUIFormFieldsColorPage>},
     {{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285}, Make<CNemUIFormatPage>, Make<CNemUIFormatPage>},
+    {{IDD_BOOKMARK_PAGE, 0, MSG_PAGE_BOOKMARK, 119, 286, 287}, Make<CNemUIBookmarkPage>, Make<CNemUIBookmarkPage>},
     {{IDD_COCKPIT_PAGE, 0, MSG_PAGE_COCKPIT, 120, 321, 322}, Make<CNemUICockpitPage>, Make<CNemUICockpitPage>},
     {{IDD_DOCUMENT_INFO_PAGE, 0, MSG_PAGE_DOCUMENT_INFO, 105, 241, 242},
      Make<CNemUIDocInfoPage>,

@@ -132,6 +132,15 @@ TEST_F(BookmarkFormat, TheFormatColumnNamesTheLook) {
   EXPECT_EQ(format.GetFormatText(L"Noir"), L"Arial, 10.5, Italique, Noir");
 }
 
+TEST_F(BookmarkFormat, TheDialogNamesTheUnitOfTheSizeToo) {
+  CBookmarkFormat format;
+  format.fontName = L"Arial";
+  EXPECT_EQ(format.GetDescription(L"Noir"), L"Arial, 10pt, Noir");
+  format.fontSize = 10.5;
+  format.bold = format.italic = format.underline = 1;
+  EXPECT_EQ(format.GetDescription(L"Noir"), L"Arial, 10.5pt, Gras, Italique, Soulign\u00E9, Noir");
+}
+
 TEST_F(BookmarkFormat, EachKindHasItsText) {
   const wchar_t* const texts[] = {L"", L"k1", L"k2", L"k3", L"k4", L""};
   CBookmarkFormat format;

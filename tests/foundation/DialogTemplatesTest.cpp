@@ -220,6 +220,7 @@ TEST(DialogTemplates, TranslationsDifferFromTheEnglishText) {
       {L"e.pdf:", {kGerman, kArabic}}, {L"Layout", {kGerman}},           {L"&CMYK", {kGerman, kArabic}},
       {L"mm", {kGerman, kFrench}},     {L"%", {kGerman, kFrench}},       {L"&Portrait", {kFrench}},
       {L"OK", {kGerman, kFrench}},     {L"Support", {kGerman, kFrench}}, {L"&OK", {kGerman, kFrench}},
+      {L"Name:", {kGerman}},
   };
   const auto isSame = [&same](const std::wstring& text, WORD language) {
     return std::ranges::any_of(same,

@@ -13,6 +13,7 @@
 #include "sheet/CNemUISheet.h"
 #include "support/DropRecord.h"
 #include "support/FakeSheet.h"
+#include "support/PostedMessages.h"
 #include "support/PrintText.h"
 #include "support/TempFile.h"
 #include "ui/PageCatalogue.h"
@@ -27,27 +28,6 @@ constexpr UINT kApplied = 0x84D, kCancelled = 0x84E, kOk = 0x84F, kModified = 0x
 constexpr wchar_t kList[] =
     L"{{NAME:\"Letter\";FILE:\"C:\\\\Paper\\\\z.pdf\";P:\"x\";TYPE:\"2\"}"
     L"{NAME:\"\";FILE:\"D:\\\\plain.pdf\";P:\"\";TYPE:\"7\"}}";
-
-// Notes what the dialog posts to its page.
-struct PostedMessages {
-  PostedMessages() {
-    current = this;
-    hook = SetWindowsHookExW(WH_GETMESSAGE, Note, nullptr, GetCurrentThreadId());
-  }
-  ~PostedMessages() { UnhookWindowsHookEx(hook); }
-  static LRESULT CALLBACK Note(int code, WPARAM wParam, LPARAM lParam) {
-    const MSG& message = *reinterpret_cast<const MSG*>(lParam);
-    if (code == HC_ACTION && wParam == PM_REMOVE && message.message >= kApplied && message.message <= kModified)
-      current->posted.emplace_back(message.message, message.wParam);
-    return CallNextHookEx(nullptr, code, wParam, lParam);
-  }
-  std::vector<std::pair<UINT, WPARAM>> Take() { return std::exchange(posted, {}); }
-
-  static inline PostedMessages* current;
-  HHOOK hook;
-  std::vector<std::pair<UINT, WPARAM>> posted;
-};
-using Posted = std::vector<std::pair<UINT, WPARAM>>;
 
 class StationerySheet : public testing::Test {
  protected:

@@ -43,6 +43,7 @@ constexpr TouchedValue kValues[] = {
     {103, L"RegistryDevmode", 7, 3, IDC_SAVING_INSTANCES, 1, {}, nullptr, true},
     {113, L"UseHyperlinkRecognition", 7, 1, IDC_LINKS_RECOGNIZE, 0},
     {114, L"EmbedFilenamesEnabled", 7, 0, IDC_ATTACHMENTS_USE, 0},  // there is no file
+    {119, L"OutlineStylesEnabled", 7, 1, IDC_BOOKMARK_USE, 0},
     // Without a stationery in the list there is none to use.
     {101, L"StationeryEnabled", 7, 0, IDC_STATIONERY_USE, 0},
 };
