@@ -81,6 +81,7 @@ void CListCtrlBookmark::InsertColumns(const wchar_t* name, const wchar_t* type, 
 
 void CListCtrlBookmark::SetWordMode(bool wordMode) {
   wordMode_ = wordMode;
+  hint_.reset();  // it says something else there
   SetColumnWidth(kTypeColumn, Scale(wordMode ? kTypeWidthInWord : kTypeWidth));
   SetColumnWidth(kFormatColumn, Scale(wordMode ? kFormatWidthInWord : kFormatWidth));
 }
@@ -218,18 +219,27 @@ void CListCtrlBookmark::OnUsedChanged(bool checked) {
 
 // --- Hint -----------------------------------------------------------------------------------------------------------
 
+std::optional<RECT> CListCtrlBookmark::HintPlace() const {
+  const int rows = Count();
+  if (!use_ || rows != (wordMode_ ? 0 : kStandardRows)) return std::nullopt;
+  const int top = rows ? static_cast<int>(RowRect(rows - 1).bottom) + Scale(kHintGap) : Scale(kHintTopWithoutRows);
+  return RECT{0, top, ClientRect().right, top + Scale(kHintHeight)};
+}
+
+// A hint that stands where it has to is left alone: made anew it would flicker at each step through the rows.
 void CListCtrlBookmark::UpdateHint(bool use) {
   use_ = use;
-  PlaceHint();
+  const std::optional<RECT> place = HintPlace();
+  const RECT current = hint_ ? hint_->RectIn(*this) : RECT{};
+  if (!place || !hint_ || !::EqualRect(&current, &*place)) PlaceHint();
 }
 
 void CListCtrlBookmark::PlaceHint() {
-  const int rows = Count();
   hint_.reset();
-  if (!use_ || rows != (wordMode_ ? 0 : kStandardRows)) return;
-  const int top = rows ? static_cast<int>(RowRect(rows - 1).bottom) + Scale(kHintGap) : Scale(kHintTopWithoutRows);
+  const std::optional<RECT> place = HintPlace();
+  if (!place) return;
   hint_ = std::make_unique<CTextBox>(true, wordMode_);
-  hint_->Create(*this, kHintId, {0, top, ClientRect().right, top + Scale(kHintHeight)});
+  hint_->Create(*this, kHintId, *place);
 }
 
 // --- Messages -------------------------------------------------------------------------------------------------------

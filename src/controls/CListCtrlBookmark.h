@@ -2,6 +2,8 @@
 // are edited in place.
 #pragma once
 
+#include <optional>
+
 #include "controls/CListCtrlComboEdit.h"
 #include "controls/CTextBox.h"
 #include "controls/ListRowEntries.h"
@@ -94,6 +96,7 @@ class CListCtrlBookmark : public CListCtrlComboEdit {
   void RefreshAllRows();
   void OnColumnClicked(int column);
   void OnEdited();
+  std::optional<RECT> HintPlace() const;  // nothing when there is none to show
   void PlaceHint();
 
   ListRowEntries<BookmarkListEntry> entries_{*this};

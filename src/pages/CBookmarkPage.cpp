@@ -31,7 +31,7 @@ CUString DefaultFont(const CUStringArray& fonts) {
 MessageTable CBookmarkPage::Messages() const {
   using Dialog = CBookmarkFormatDialog;
   static constexpr MessageRow kMessages[] = {
-      OnClick<&CBookmarkPage::UpdateControls>(IDC_BOOKMARK_USE),
+      OnClick<&CBookmarkPage::OnUseBookmarks>(IDC_BOOKMARK_USE),
       OnClick<&CBookmarkPage::OnClickAddBookmarkFormat>(IDC_BOOKMARK_NEW),
       OnClick<&CBookmarkPage::OnClickCopyBookmarkFormat>(IDC_BOOKMARK_COPY),
       OnClick<&CBookmarkPage::OnEditFormat>(IDC_BOOKMARK_EDIT),

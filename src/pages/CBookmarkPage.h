@@ -32,6 +32,7 @@ class CBookmarkPage : public CTrackedPage<BookmarkCockpitValues>, private Bookma
   void ExchangeCockpitValues(const CockpitExchange& exchange, BookmarkCockpitValues& values) override;
 
  private:
+  void OnUseBookmarks() { UpdateControls(); }
   void UpdateControls();
   void OnClickAddBookmarkFormat() { CreateNewBookmarkFormat(/*forceDefault=*/true); }
   void OnClickCopyBookmarkFormat() { CreateNewBookmarkFormat(/*forceDefault=*/false); }

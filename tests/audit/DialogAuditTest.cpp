@@ -16,6 +16,7 @@
 
 #include "driver/DialogAudit.h"
 #include "driver/Pages.h"
+#include "driver/RowDialogs.h"
 #include "driver/SelfProcess.h"
 #include "driver/SheetDriver.h"
 #include "driver/Text.h"
@@ -48,6 +49,9 @@ constexpr struct {
   const wchar_t* keys;
 } kEnglishDoubleKeys[] = {{101, L"DU"}, {109, L"PS"}, {110, L"D"}, {115, L"C"}};
 
+// The column of the levels, list and number: its width is laid down.
+constexpr std::pair kBookmarkLevels{1290, 4};
+
 AuditOptions OptionsFor(const Language& language, int dpi, const PageInfo* page) {
   AuditOptions options;
   options.mirrored = language.mirrored;
@@ -57,6 +61,7 @@ AuditOptions OptionsFor(const Language& language, int dpi, const PageInfo* page)
   options.size.cy = std::min(options.size.cy, LONG{256});
   for (const auto& [pageId, keys] : kEnglishDoubleKeys)
     if (page && page->id == pageId && std::wstring_view(language.id) == kEnglish.id) options.allowedDoubleKeys = keys;
+  options.narrowColumns = {kBookmarkLevels};
   return options;
 }
 
@@ -106,6 +111,25 @@ SheetTask AuditPages(Sheet& sheet, const Language& language, int dpi, int& count
   }
 }
 
+// The dialogs of the entries of lists, beside the sheet.
+SheetTask AuditRowDialogs(Sheet& sheet, const Language& language, int dpi) {
+  sheet.SelectTab(0);
+  co_await sheet.Settled();
+  for (const RowDialog& row : RowDialogs()) {
+    HWND dialog = nullptr;
+    co_await OpenRowDialog(sheet, row, dialog);
+    CO_ASSERT_TRUE(IsWindow(dialog));
+    AuditOptions options;
+    options.mirrored = language.mirrored;
+    options.dpi = dpi;
+    options.size = row.size;
+    const std::string name = std::string(row.name) + " dialog";
+    Report(name, AuditPage(dialog, options));
+    std::printf("%s%s\n%s\n", kInventoryMark, name.c_str(), InventoryOf(dialog).c_str());
+    co_await CancelRowDialog(sheet, row, dialog);
+  }
+}
+
 void AuditVersionDialog(const Language& language, int dpi) {
   AuditOptions options;
   options.mirrored = language.mirrored;
@@ -128,11 +152,14 @@ void AuditInThisProcess(const Language& language, int dpi) {
   dialog.Set(NEMPDFUI_DOCUMENT, L"Used", 1);
   // The pages of form fields: open on the first tab; on the other one the first of them says why it is not.
   dialog.Set(0, L"FormFieldsEnabled", 1);
+  for (const auto& [property, text] : FilledLists()) dialog.Set(0, property, text);
+  for (const wchar_t* property : FilledListSwitches()) dialog.Set(0, property, 1);
   int count = 0;
   SheetDriver(kTimeoutSeconds)
       .Run([&dialog] { return dialog.DoModal(); },
            [&](Sheet& sheet) -> SheetTask {
              co_await AuditPages(sheet, language, dpi, count);
+             co_await AuditRowDialogs(sheet, language, dpi);
              sheet.PressCancel();
            });
   EXPECT_GT(count, 0) << "no page came up";

@@ -486,6 +486,19 @@ TEST(CListCtrlBookmark, HintIsForThreeRowsOrNone) {
   }
 }
 
+TEST(CListCtrlBookmark, AHintThatStandsIsLeftAlone) {
+  BookmarkPage test;
+  test.AddHeadings();
+  test.list->UpdateHint(true);
+  ASSERT_NE(nullptr, test.list->Hint());
+  const HWND before = test.list->Hint()->Handle();
+  test.list->UpdateHint(true);
+  ASSERT_NE(nullptr, test.list->Hint());
+  EXPECT_EQ(before, test.list->Hint()->Handle());
+  test.list->SetWordMode(true);
+  EXPECT_EQ(nullptr, test.list->Hint()) << "its text has changed";
+}
+
 TEST(CListCtrlBookmark, HintFollowsTheList) {
   BookmarkPage test;
   test.AddHeadings();

@@ -4,6 +4,7 @@
 #include <commctrl.h>
 
 #include <algorithm>
+#include <utility>
 
 #include "driver/AuditedControl.h"
 #include "driver/DialogAudit.h"
@@ -160,6 +161,7 @@ class TextCheck {
     const HWND header = ListView_GetHeader(control_.window);
     if ((control_.style & LVS_TYPEMASK) != LVS_REPORT || (control_.style & LVS_NOCOLUMNHEADER) || !header) return;
     for (int column = 0; column < Header_GetItemCount(header); ++column) {
+      if (std::ranges::count(options_.narrowColumns, std::pair(control_.id, column))) continue;
       wchar_t text[256] = L"";
       HDITEMW item = {};
       item.mask = HDI_TEXT | HDI_WIDTH;

@@ -15,6 +15,7 @@ struct AuditOptions {
   SIZE size = {};                                         // of the page's template in dialog units
   std::wstring allowedDoubleKeys = {};                    // access keys, in capitals, that may stand on the page twice
   std::vector<std::pair<int, int>> allowedOverlaps = {};  // ids of controls that lie over each other on purpose
+  std::vector<std::pair<int, int>> narrowColumns = {};    // lists and their columns whose titles may be cut
 };
 
 using Findings = std::vector<std::string>;

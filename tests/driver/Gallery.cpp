@@ -5,6 +5,7 @@
 #include "driver/Bar.h"
 #include "driver/Pages.h"
 #include "driver/Picture.h"
+#include "driver/RowDialogs.h"
 #include "driver/Text.h"
 #include "resources/ResourceIds.h"
 
@@ -21,10 +22,10 @@ int MarkedRows(const Sheet& cockpit) {
   return marked;
 }
 
-void WritePicture(const Sheet& sheet, const std::wstring& file, GalleryResult& result) {
-  SendMessageW(sheet.Window(), WM_NCACTIVATE, TRUE, 0);  // its title as the user sees it, whoever is active
+void WritePicture(HWND window, const std::wstring& file, GalleryResult& result) {
+  SendMessageW(window, WM_NCACTIVATE, TRUE, 0);  // its title as the user sees it, whoever is active
   HRESULT error = S_OK;
-  EXPECT_TRUE(SavePng(Capture(sheet.Window()), file, &error)) << ToUtf8(file) << ": " << std::hex << error;
+  EXPECT_TRUE(SavePng(Capture(window), file, &error)) << ToUtf8(file) << ": " << std::hex << error;
   result.written.push_back(file);
 }
 
@@ -46,7 +47,7 @@ SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring langua
       if (page.id == kCockpit) {
         EXPECT_EQ(0, MarkedRows(sheet));
       }
-      WritePicture(sheet,
+      WritePicture(sheet.Window(),
                    directory + L"\\" + language + L"-" + std::to_wstring(page.id) + L"-" + ToWide(name) +
                        (tab == kDocumentTab ? L"-document.png" : L".png"),
                    result);
@@ -63,10 +64,27 @@ SheetTask WriteCockpit(Sheet& sheet, std::wstring directory, std::wstring langua
   const auto missing = std::count_if(result.missing.begin(), result.missing.end(),
                                      [](const std::string& page) { return !page.ends_with(kOnDocumentTab); });
   EXPECT_EQ(kCockpitRows - missing, MarkedRows(sheet));
-  WritePicture(sheet, directory + L"\\" + language + L"-120-cockpit-changed.png", result);
+  WritePicture(sheet.Window(), directory + L"\\" + language + L"-120-cockpit-changed.png", result);
+}
+
+SheetTask WriteRowDialogs(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result) {
+  sheet.SelectTab(0);
+  co_await sheet.Settled();
+  for (const RowDialog& row : RowDialogs()) {
+    const std::wstring prefix = directory + L"\\" + language + L"-";
+    co_await SelectFirstRow(sheet, row);
+    WritePicture(sheet.Window(),
+                 prefix + std::to_wstring(row.pageId) + L"-" + ToWide(FindPageById(row.pageId)->name) + L"-filled.png",
+                 result);
+    HWND dialog = nullptr;
+    co_await OpenRowDialog(sheet, row, dialog);
+    CO_ASSERT_TRUE(IsWindow(dialog));
+    WritePicture(dialog, prefix + ToWide(row.name) + L".png", result);
+    co_await CancelRowDialog(sheet, row, dialog);
+  }
 }
 
 void WriteDialogPicture(const Sheet& dialog, const std::wstring& directory, const std::wstring& language,
                         const std::wstring& name, GalleryResult& result) {
-  WritePicture(dialog, directory + L"\\" + language + L"-" + name + L".png", result);
+  WritePicture(dialog.Window(), directory + L"\\" + language + L"-" + name + L".png", result);
 }

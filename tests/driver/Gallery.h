@@ -20,6 +20,10 @@ SheetTask WriteGallery(Sheet& sheet, std::wstring directory, std::wstring langua
 // a failure, unless its page is one of those that were missing.
 SheetTask WriteCockpit(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result);
 
+// The pages with lists, filled, as "<directory>\<language>-<number>-<name>-filled.png", and the dialogs of their
+// entries as "<directory>\<language>-<name>.png".
+SheetTask WriteRowDialogs(Sheet& sheet, std::wstring directory, std::wstring language, GalleryResult& result);
+
 // A dialog that is no page, as "<directory>\<language>-<name>.png". It stays open.
 void WriteDialogPicture(const Sheet& dialog, const std::wstring& directory, const std::wstring& language,
                         const std::wstring& name, GalleryResult& result);

@@ -1,9 +1,9 @@
 // nempdf_gallery DIRECTORY
 //
 // Writes pictures of all pages of both tabs in all languages to the directory, with the values of the host's sample,
-// one of the cockpit with something changed in each of its rows, and one of the version dialog. Each language needs a
-// process of its own, since the library takes up its language when it is loaded: the program starts itself again as
-// "nempdf_gallery DIRECTORY LANGUAGE".
+// one of the cockpit with something changed in each of its rows, the lists of pages with entries and the dialogs of
+// these, and one of the version dialog. Each language needs a process of its own, since the library takes up its
+// language when it is loaded: the program starts itself again as "nempdf_gallery DIRECTORY LANGUAGE".
 #include <windows.h>
 // behind windows.h
 #include <gtest/gtest.h>
@@ -13,6 +13,7 @@
 #include <iterator>
 
 #include "driver/Gallery.h"
+#include "driver/RowDialogs.h"
 #include "driver/SelfProcess.h"
 #include "driver/SheetDriver.h"
 #include "driver/Text.h"
@@ -44,6 +45,16 @@ bool FillDialog(NemPdfUIHandle dialog) {
     if (setting.IsNumber()) value = &setting.value.number;
     if (NemPdfUISetPropertyW(dialog, setting.set, setting.info->name, value) != 1) return false;
   }
+  return true;
+}
+
+// Pages with a list get entries.
+bool FillLists(NemPdfUIHandle dialog) {
+  for (const auto& [property, text] : FilledLists())
+    if (NemPdfUISetPropertyW(dialog, 0, property, text) != 1) return false;
+  const int32_t on = 1;
+  for (const wchar_t* property : FilledListSwitches())
+    if (NemPdfUISetPropertyW(dialog, 0, property, &on) != 1) return false;
   return true;
 }
 
@@ -99,6 +110,8 @@ int WriteLanguage(const std::wstring& directory, const std::wstring& language) {
   run(WriteGallery);
   EXPECT_TRUE(ChangeAllCategories(dialog));
   run(WriteCockpit);
+  EXPECT_TRUE(FillLists(dialog));
+  run(WriteRowDialogs);
   NemPdfUIFreeDialog(&dialog);
   SheetDriver(kTimeoutSeconds)
       .Run([] { return NemPdfUIShowVersion(); },

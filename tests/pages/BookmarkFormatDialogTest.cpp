@@ -563,6 +563,31 @@ TEST_F(BookmarkSheet, ACopyHasTheLookAndNeedsAnother) {
   });
 }
 
+TEST_F(BookmarkSheet, AnOpenDialogGoesOverToANewFormat) {
+  Run([&](Sheet& sheet) -> SheetTask {
+    co_await Edit(sheet);
+    SetActiveWindow(sheet.Window());
+    sheet.Control(1310).Click();
+    co_await sheet.Settled();
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(L"Style 1", Item(kName).Text());
+    EXPECT_TRUE(IsLocked(sheet));
+    EXPECT_EQ(dialog_, GetActiveWindow());
+    co_await PressInDialog(sheet, kCancel);
+    EXPECT_EQ(5, List(sheet).Count());
+  });
+}
+
+TEST_F(BookmarkSheet, ACopyOfNothingIsANewFormat) {
+  Run([&](Sheet& sheet) -> SheetTask {
+    Expect(sheet);
+    PostMessageW(sheet.Page(), WM_COMMAND, 1312, 0);
+    co_await sheet.Settled();
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(L"Style 1|User Def.|Times New Roman, 10, Black|1", Row(sheet, 5));
+  });
+}
+
 TEST_F(BookmarkSheet, TheDefaultFontIsTheFirstOfThreeOrOfAll) {
   const struct {
     TestFonts fonts;
