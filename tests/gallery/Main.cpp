@@ -1,8 +1,8 @@
 // nempdf_gallery DIRECTORY
 //
 // Writes pictures of all pages of both tabs in all languages to the directory, with the values of the host's sample,
-// one of the cockpit with something changed in each of its rows, the lists of pages with entries and the dialogs of
-// these, and one of the version dialog. Each language needs a process of its own, since the library takes up its
+// the lists of pages with entries and the dialogs of these, one of the cockpit with something changed in each of its
+// rows, and one of the version dialog. Each language needs a process of its own, since the library takes up its
 // language when it is loaded: the program starts itself again as "nempdf_gallery DIRECTORY LANGUAGE".
 #include <windows.h>
 // behind windows.h
@@ -108,10 +108,10 @@ int WriteLanguage(const std::wstring& directory, const std::wstring& language) {
              });
   };
   run(WriteGallery);
-  EXPECT_TRUE(ChangeAllCategories(dialog));
-  run(WriteCockpit);
   EXPECT_TRUE(FillLists(dialog));
   run(WriteRowDialogs);
+  EXPECT_TRUE(ChangeAllCategories(dialog));
+  run(WriteCockpit);
   NemPdfUIFreeDialog(&dialog);
   SheetDriver(kTimeoutSeconds)
       .Run([] { return NemPdfUIShowVersion(); },
