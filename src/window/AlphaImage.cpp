@@ -43,6 +43,19 @@ GdiBitmap MakeDibSection(const AlphaPixels& picture) {
   return bitmap;
 }
 
+// What can be seen through. Beside the alpha it has a meaning only where an icon is drawn as a shape, for what is
+// disabled.
+GdiBitmap MakeTransparencyMask(const AlphaPixels& picture) {
+  constexpr uint32_t kHalfOpaque = 0x80000000;
+  const int rowBytes = (picture.width + 15) / 16 * 2;  // rows end on whole words
+  std::vector<uint8_t> bits(static_cast<size_t>(rowBytes) * picture.height);
+  for (int y = 0; y < picture.height; ++y)
+    for (int x = 0; x < picture.width; ++x)
+      if (picture.pixels[static_cast<size_t>(y) * picture.width + x] < kHalfOpaque)
+        bits[static_cast<size_t>(y) * rowBytes + x / 8] |= static_cast<uint8_t>(0x80 >> x % 8);
+  return GdiBitmap(::CreateBitmap(picture.width, picture.height, 1, 1, bits.data()));
+}
+
 // Blends in device coordinates: the result must not depend on how the platform mirrors pictures.
 void BlendUnmirrored(HDC dc, const RECT& device, HBITMAP bitmap) {
   const HDC source = ::CreateCompatibleDC(dc);
@@ -116,9 +129,7 @@ GdiIcon AlphaImage::MakeIcon(int width, int height) const {
   if (picture.IsEmpty()) return {};
   DivideByAlpha(picture);
   const GdiBitmap colors = MakeDibSection(picture);
-  // Of no meaning beside the alpha, and asked for all the same. Its rows end on whole words.
-  const std::vector<uint8_t> noMask(static_cast<size_t>((width + 15) / 16 * 2) * height);
-  const GdiBitmap mask(::CreateBitmap(width, height, 1, 1, noMask.data()));
+  const GdiBitmap mask = MakeTransparencyMask(picture);
   ICONINFO info{TRUE, 0, 0, mask.Get(), colors.Get()};
   return GdiIcon(::CreateIconIndirect(&info));
 }

@@ -2,10 +2,8 @@
 
 #include <gtest/gtest.h>
 
-#include <string>
-
+#include "DriverLIB/MessageText.h"
 #include "MessageIds.h"
-#include "support/CostGrowth.h"
 #include "support/PrintText.h"
 #include "support/TestMessages.h"
 
@@ -29,13 +27,5 @@ TEST_F(BookmarkNames, CountFromOne) {
 }
 
 TEST_F(BookmarkNames, CaseDoesNotCount) { EXPECT_EQ(FreeBookmarkName({L"style 1", L"STYLE 2"}), L"Style 3"); }
-
-TEST_F(BookmarkNames, CostGrowsWithTheNames) {
-  EXPECT_TRUE(GrowsWithItsEntries([](int count) {
-    std::vector<CUString> taken;
-    for (int i = 1; i <= count; ++i) taken.push_back(FreeBookmarkName({}).Left(6) + std::to_wstring(i));
-    return TimeOf([&] { FreeBookmarkName(taken); });
-  }));
-}
 
 }  // namespace

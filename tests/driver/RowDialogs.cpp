@@ -4,7 +4,7 @@ namespace {
 
 constexpr RowDialog kDialogs[] = {
     {"stationery", 101, 1291, 1067, 1344, {222, 211}},
-    {"bookmark-format", 119, 1290, 1311, 1323, {236, 176}},
+    {"bookmark-format", 119, 1290, 1311, 1323, {236, 194}},
 };
 
 constexpr std::pair<const wchar_t*, const wchar_t*> kLists[] = {

@@ -917,7 +917,7 @@ TEST_F(BookmarkSheet, DialogIsSoundInEveryLanguage) {
       co_await Edit(sheet);
       AuditOptions options;
       options.mirrored = language == 0x401;
-      options.size = {236, 176};
+      options.size = {236, 194};
       EXPECT_EQ(Findings(), AuditPage(dialog_, options));
     });
   }

@@ -62,6 +62,27 @@ TEST(AlphaImage, BecomesAnIconOfAnySize) {
   }
 }
 
+TEST(AlphaImage, IconIsTransparentWhereThePictureIs) {
+  constexpr int kWidth = 17;  // more than a word
+  std::vector<DWORD> colors(kWidth * 2, 0xFF0000), alpha(kWidth * 2, 0xFFFFFF);
+  alpha[3] = alpha[kWidth + 16] = 0;
+  const GdiBitmap bitmap = MakeBitmap(kWidth, 2, colors), mask = MakeBitmap(kWidth, 2, alpha);
+  const GdiIcon icon = MakeAlphaImage(bitmap.Get(), mask.Get()).MakeIcon(kWidth, 2);
+  ICONINFO info{};
+  ASSERT_TRUE(GetIconInfo(icon.Get(), &info));
+  const GdiBitmap iconColors(info.hbmColor), iconMask(info.hbmMask);
+  const HDC dc = CreateCompatibleDC(nullptr);
+  {
+    const SelectScope selected(dc, iconMask.Get());
+    for (int y = 0; y < 2; ++y)
+      for (int x = 0; x < kWidth; ++x) {
+        const bool transparent = (x == 3 && y == 0) || (x == 16 && y == 1);
+        EXPECT_EQ(transparent ? RGB(255, 255, 255) : RGB(0, 0, 0), GetPixel(dc, x, y)) << x << " " << y;
+      }
+  }
+  DeleteDC(dc);
+}
+
 TEST(AlphaImage, LoadsAPairByItsNumbers) {
   AlphaImage image;
   ASSERT_TRUE(image.Load(kUpright, kUprightMask, 96));
