@@ -63,7 +63,7 @@ void CDataExchange::MoveChoice(int id, const ValueRow* table, int32_t& value, No
   const CComboBox combo(dialog_.Item(id));
   if (IsLoading()) {
     const bool filled = combo.Count() > 0 || FillFromTable(combo, table);
-    if (!filled || !combo.Select(RowOfValue(table, value))) Fail(id);
+    if (!filled || !combo.Select(RowOfValue(table, value))) FailAndGoOn(id);
   }
   if (!IsSaving()) return;
   const int row = combo.Selection();

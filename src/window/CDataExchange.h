@@ -90,7 +90,8 @@ class CDataExchange {
   }
 
   // A combo with the rows of a value table, and the stored value. Loading fills a combo that is empty, and selects the
-  // value's row, or the first; saving with no row selected stores the first row's value and fails.
+  // value's row, or the first; where that cannot be shown the loading has failed and goes on. Saving with no row
+  // selected stores the first row's value and fails.
   template <class T>
   void Choice(int id, const ValueRow* table, T& value, NoSelection none = NoSelection::EndsExchange) {
     int32_t stored = static_cast<int32_t>(value);

@@ -393,6 +393,7 @@ TEST_F(DataExchange, ChoiceFailsWhenARowCannotBeInsertedOrSelected) {
     exchange.Choice(kDropDown, kRows, member);
     EXPECT_TRUE(exchange.HasFailed()) << refused;
     EXPECT_EQ(kDropDown, exchange.FailedControl());
+    EXPECT_TRUE(exchange.IsLoading()) << "the other controls are shown all the same";
   }
 }
 
