@@ -150,6 +150,13 @@ TEST(StationeryFormat, AfterFourFieldsAnUnknownKeyEndsTheEntry) {
   ExpectRefused(LR"({}})");
 }
 
+TEST(StationeryFormat, AKeyCountsOnlyWithACharacterBehindIt) {
+  const std::wstring entry = LR"({NAME:"n";FILE:"f";P:"";TYPE:"0";)";
+  CStationeryFormat format;
+  EXPECT_TRUE(Read(format, entry + LR"(P:")", 1) == LR"(P:")");
+  ExpectRefused(entry + LR"(P:"x)");
+}
+
 TEST(StationeryFormat, AFieldComesAgainOnlyBehindAnEmptyOne) {
   ExpectRefused(LR"({NAME:"n";NAME:"m";P:"";TYPE:"0"}x)");
   ExpectRefused(LR"({FILE:"n";FILE:"m";P:"";TYPE:"0"}x)");

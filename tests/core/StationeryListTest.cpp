@@ -114,7 +114,7 @@ TEST(StationeryList, LeavesNoPasswordBehind) {
 }
 
 TEST(StationeryList, NEntriesCostN) {
-  EXPECT_TRUE(GrowsWithItsEntries([](int entries) {
+  const auto task = [](int entries) {
     std::wstring text = L"{";
     for (int i = 0; i < entries; ++i) text += LR"({NAME:"A \"paper\"";FILE:"C:\\Paper\\letter.pdf";P:"x";TYPE:"3"})";
     text += L"}";
@@ -123,7 +123,9 @@ TEST(StationeryList, NEntriesCostN) {
       EXPECT_TRUE(ReadStationeryList(text, formats));
       EXPECT_EQ(text.size(), StationeryListText(formats).View().size());
     });
-  }));
+  };
+  EXPECT_TRUE(GrowsWithItsEntries(task));
+  EXPECT_LE(CostOfDoubling(task, 2.3), 2.3);
 }
 
 TEST(StationeryList, AValueThatIsAllMarksCostsItsLength) {

@@ -3,6 +3,8 @@
 
 #include <algorithm>
 #include <chrono>
+#include <cstddef>
+#include <iterator>
 
 template <class Work>
 std::chrono::steady_clock::duration TimeOf(Work work) {
@@ -24,4 +26,22 @@ double CostOf(Task task, int entries, int rounds) {
 template <class Task>
 bool GrowsWithItsEntries(Task task) {
   return CostOf(task, 20000, 2) < 120 * CostOf(task, 625, 5);
+}
+
+// How many times as long the task takes with twice the entries: the worst of some sizes up to 20,000. A busy machine
+// disturbs, so it measures again as long as `bound` is passed, which a cost by the square always does.
+template <class Task>
+double CostOfDoubling(Task task, double bound) {
+  constexpr int kSizes[] = {2500, 5000, 10000, 20000};
+  constexpr int kFewestRounds = 2, kMostRounds = 20;
+  double best[std::size(kSizes)], worst = 0;
+  for (int round = 0; round < kMostRounds && (round < kFewestRounds || worst > bound); ++round) {
+    worst = 0;
+    for (size_t i = 0; i < std::size(kSizes); ++i) {
+      const double cost = CostOf(task, kSizes[i], 1);
+      best[i] = round == 0 ? cost : std::min(best[i], cost);
+      if (i > 0) worst = std::max(worst, best[i] / best[i - 1]);
+    }
+  }
+  return worst;
 }
