@@ -1,10 +1,6 @@
 #include "controls/ListRowKeys.h"
 
-namespace {
-
-bool IsDialogKey(WPARAM key) { return key == VK_RETURN || key == VK_ESCAPE; }
-
-}  // namespace
+#include "window/HeldKeys.h"
 
 bool WantsDialogKey(const CListCtrl& list, const MSG* message) {
   if (!message || message->message != WM_KEYDOWN || !IsDialogKey(message->wParam)) return false;
@@ -12,7 +8,7 @@ bool WantsDialogKey(const CListCtrl& list, const MSG* message) {
 }
 
 bool IsHeldDialogKey(const WindowMessage& message) {
-  return message.message == WM_KEYDOWN && IsDialogKey(message.wParam) && IsRepeatedKey(message.lParam);
+  return IsHeldDialogKey(message.message, message.wParam, message.lParam);
 }
 
 int ClickedColumn(const WindowMessage& message) {

@@ -4,9 +4,6 @@
 #include "window/Controls.h"
 #include "window/MessageMap.h"
 
-// A held key goes on sending WM_KEYDOWN.
-inline bool IsRepeatedKey(LPARAM keyData) { return (HIWORD(keyData) & KF_REPEAT) != 0; }
-
 // WM_GETDLGCODE: the list wants Enter while the keyboard stands on a row. It also wants an Enter or Esc that is still
 // held from elsewhere, an editor in the list or a box: it would press the sheet's buttons.
 bool WantsDialogKey(const CListCtrl& list, const MSG* message);

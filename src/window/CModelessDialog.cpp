@@ -2,6 +2,7 @@
 
 #include "DriverLIB/WindowThreadState.h"
 #include "window/CenterWindow.h"
+#include "window/HeldKeys.h"
 #include "window/Placement.h"
 
 namespace {
@@ -125,8 +126,9 @@ LRESULT CALLBACK CModelessDialog::KeyHook(int code, WPARAM wParam, LPARAM lParam
 }
 
 // A hook is no place for what a command may bring up: commands are posted on. What else a key does may still end the
-// dialog, and its object.
+// dialog, and its object. The Enter that opened the dialog, or ended a box of it, may still be held.
 bool CModelessDialog::Translate(MSG& message) {
+  if (IsHeldDialogKey(message.message, message.wParam, message.lParam)) return true;
   const HWND window = window_;
   translating_ = true;
   const bool taken = ::IsDialogMessageW(window, &message);

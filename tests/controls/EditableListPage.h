@@ -5,6 +5,7 @@
 
 #include "ControlDialog.h"
 #include "controls/ListRowKeys.h"
+#include "driver/Input.h"
 
 constexpr int kReportId = 1290, kOtherId = 1291;
 constexpr RECT kReportRect = {10, 10, 410, 160};
@@ -83,5 +84,3 @@ class ReportPage {
   CListCtrl control;
   CWnd other;
 };
-
-constexpr LPARAM kHeldKey = 1 | static_cast<LPARAM>(KF_REPEAT) << 16;

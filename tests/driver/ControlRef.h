@@ -27,6 +27,9 @@ class ControlRef {
   bool IsEnabled() const { return IsWindowEnabled(window_); }
   bool IsChecked() const;
   bool HasFocus() const;
+  bool ReadsLeftToRight() const {
+    return !(GetWindowLongW(window_, GWL_EXSTYLE) & (WS_EX_LAYOUTRTL | WS_EX_RTLREADING | WS_EX_RIGHT));
+  }
 
   // Combo boxes, list boxes and list views. SelectedRow is -1 when none is selected.
   int RowCount() const;

@@ -8,6 +8,9 @@
 
 #include "driver/IdleLoop.h"
 
+// The second argument of a WM_KEYDOWN that comes because the key is still held.
+constexpr LPARAM kHeldKey = 1 | static_cast<LPARAM>(KF_REPEAT) << 16;
+
 // Messages of keys as the keyboard makes them, through the thread's own message loop, so that the loop's dialog
 // handling sees Tab, Enter, Esc, arrows and access keys. They go to the window that has the focus when it is their
 // turn. Modifiers (VK_CONTROL, VK_SHIFT, VK_MENU) are seen by GetKeyState. No input queue of the system is needed.

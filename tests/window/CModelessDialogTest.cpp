@@ -6,6 +6,7 @@
 #include <functional>
 #include <memory>
 
+#include "driver/Input.h"
 #include "driver/SheetDriver.h"
 #include "DriverLIB/MessageBoxes.h"
 #include "DriverLIB/WindowThreadState.h"
@@ -152,6 +153,16 @@ TEST_F(ModelessDialog, KeysOfTheSheetStayTheSheets) {
   });
 }
 
+// The Enter on a row that has opened the dialog, or the Esc that has ended a box of it.
+TEST_F(ModelessDialog, KeysThatAreStillHeldDoNothing) {
+  Run([&](Sheet& sheet) -> SheetTask {
+    for (const WORD key : {VK_RETURN, VK_ESCAPE}) PostMessageW(GetFocus(), WM_KEYDOWN, key, kHeldKey);
+    co_await sheet.Settled();
+    EXPECT_EQ(std::vector<UINT>(), page_.told);
+    EXPECT_TRUE(sheet.IsOpen());
+  });
+}
+
 TEST_F(ModelessDialog, CloseBoxCancels) {
   Run([&](Sheet& sheet) -> SheetTask {
     dialog_->Post(WM_SYSCOMMAND, SC_CLOSE);
@@ -259,6 +270,19 @@ TEST_F(ModelessDialog, StandsBesideItsSheet) {
       EXPECT_EQ((sheet.top + sheet.bottom) / 2 - (own.bottom - own.top) / 2, own.top);
       dialog_->Close();
     }
+    co_return;
+  });
+}
+
+TEST_F(ModelessDialog, StandsOnTheScreenWhereTheSheetLeavesNoRoom) {
+  Run([&](Sheet&) -> SheetTask {
+    dialog_->Close();
+    RECT area{};
+    SystemParametersInfoW(SPI_GETWORKAREA, 0, &area, 0);
+    SetWindowPos(sheet_.Handle(), nullptr, area.left, 200, area.right - area.left, 100, SWP_NOZORDER);
+    EXPECT_TRUE(dialog_->Open(page_));
+    EXPECT_EQ(area.left, dialog_->WindowRect().left);
+    dialog_->Close();
     co_return;
   });
 }
