@@ -68,7 +68,9 @@ BOOL CWatermarkPage::OnInitDialog() {
   list_.Attach(*this, IDC_STATIONERY_LIST);
   list_.InsertColumns(MessageText(MSG_WATERMARK_COLUMN_DESCRIPTION).Text(),
                       MessageText(MSG_WATERMARK_COLUMN_FILE).Text());
-  CEdit(Item(IDC_WATERMARK_FILE)).LimitText(kMaxFile);
+  const CEdit file(Item(IDC_WATERMARK_FILE));
+  file.LimitText(kMaxFile);
+  file.ReadLeftToRight();
   ChangeExtendedStyle(0, WS_EX_ACCEPTFILES);
   if (!CTrackedPage::OnInitDialog()) return FALSE;
 
@@ -216,15 +218,16 @@ bool CWatermarkPage::IsOver(int control, POINT point) const {
   return Item(control).IsShown() && ::PtInRect(&area, point);
 }
 
-// Whether the check boxes are on does not matter. What is fixed stays, and so does an entry that is being edited.
+// The group boxes lie in front of the controls in them, so what falls on a button falls on its group. Whether the check
+// boxes are on does not matter. What is fixed stays; while the dialog holds changes, all of the page does.
 void CWatermarkPage::OnDropFiles(WPARAM drop, LPARAM) {
   const DroppedFiles files = TakeDroppedFiles(drop);
-  if (files.paths.Count() != 1) return;
+  if (files.paths.Count() != 1 || (IsPropertiesOpen() && propertiesDialog_->IsModified())) return;
   const CUString& file = files.paths[0];
   if (IsOver(IDC_WATERMARK_GROUP, files.point)) {
     if (!watermarkFilenameOverride.IsSet()) Item(IDC_WATERMARK_FILE).SetText(file.Text());
   } else if (IsOver(IDC_STATIONERY_GROUP, files.point)) {
-    if (!IsListFixed() && !(IsPropertiesOpen() && propertiesDialog_->IsModified())) DropStationery(file);
+    if (!IsListFixed()) DropStationery(file);
   }
 }
 

@@ -80,6 +80,13 @@ TEST_F(ActionPage, ShowsTheCaptionOfTheViewer) {
   EXPECT_EQ(L"Start &default link for PDF-files", Control(IDC_ACTION_VIEWER).Text());
 }
 
+TEST_F(ActionPage, TheCommandReadsFromLeftToRightInAMirroredPageToo) {
+  const LanguageScope arabic(0x0401);
+  ASSERT_TRUE(OpenWith(4));
+  EXPECT_TRUE(CWnd(test_.Page().Handle()).IsMirrored());
+  for (const int id : {IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS}) EXPECT_TRUE(Control(id).ReadsLeftToRight()) << id;
+}
+
 // --- What is enabled -------------------------------------------------------------------------------------------------
 
 TEST_F(ActionPage, TheProgramsFieldsAreOpenWhileItIsChecked) {
