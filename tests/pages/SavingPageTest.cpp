@@ -5,6 +5,7 @@
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
 #include "support/FileDialogSpy.h"
+#include "support/WordHost.h"
 #include "window/CActivationContext.h"
 
 namespace {
@@ -318,6 +319,27 @@ TEST_F(SavingPage, TextsThatAreTooLongKeepTheUserWithoutABox) {
   EXPECT_TRUE(popups_.Boxes().empty());
 }
 
+TEST_F(SavingPage, ContentsAreLookedAtUpTo1024Characters) {
+  ASSERT_TRUE(test_.Open());
+  for (const auto& [edit, refusal] :
+       {std::pair{IDC_SAVING_FOLDER, kBadFolder}, {IDC_SAVING_FILE, kBadFile}, {IDC_SAVING_SUFFIX, kBadFile}}) {
+    const std::wstring before = Control(edit).Text();
+    SetTextOf(edit, std::wstring(1023, L'x') + L"?");
+    ExpectRefusal(refusal);
+    SetTextOf(edit, std::wstring(1024, L'x') + L"?");
+    EXPECT_FALSE(test_.Page().OnKillActive()) << "too long, without a word";
+    SetTextOf(edit, before);
+  }
+}
+
+TEST_F(SavingPage, TargetsReadFromLeftToRightInAMirroredPageToo) {
+  const LanguageScope arabic(0x0401);
+  ASSERT_TRUE(test_.Open());
+  EXPECT_TRUE(CWnd(test_.Page().Handle()).IsMirrored());
+  for (const int id : {IDC_SAVING_FOLDER, IDC_SAVING_FILE, IDC_SAVING_SUFFIX})
+    EXPECT_TRUE(Control(id).ReadsLeftToRight()) << id;
+}
+
 // --- Added characters ------------------------------------------------------------------------------------------------
 
 TEST_F(SavingPage, TheCharactersAreOpenWhileTheyAreAdded) {
@@ -535,6 +557,16 @@ TEST_F(SavingPage, CaptionsNameTheHostsProgram) {
             Control(IDC_SAVING_INSTANCES).Text());
   EXPECT_EQ(L"When using the NEM pdf vonder add-in: The application (" + ProgramName() + L")",
             Control(IDC_SAVING_ADD_IN).Text());
+}
+
+TEST_F(SavingPage, CaptionsShowAnAmpersandOfTheHostsName) {
+  constexpr wchar_t kHost[] = L"R&D.exe";
+  if (!IsInHost(kHost)) return RunInHost(kHost);
+  ASSERT_TRUE(test_.Open());
+  EXPECT_EQ(L"for all &instances/sessions of the application (R&&D.exe) uniformly",
+            Control(IDC_SAVING_INSTANCES).Text());
+  EXPECT_EQ(L"When using the NEM pdf vonder add-in: The application (R&D.exe)", Control(IDC_SAVING_ADD_IN).Text());
+  EXPECT_TRUE(GetWindowLongW(Control(IDC_SAVING_ADD_IN).Window(), GWL_STYLE) & SS_NOPREFIX);
 }
 
 // --- The cockpit -----------------------------------------------------------------------------------------------------

@@ -1,4 +1,4 @@
-// A host that is the office's word processor: a copy of the test program of that name.
+// A host of a certain name, as the office's word processor: a copy of the test program of that name.
 //
 //   TEST(Page, KnowsWord) {
 //     if (!IsInWord()) return RunInWord();
@@ -10,13 +10,12 @@
 // behind windows.h
 #include <gtest/gtest.h>
 
+#include <map>
 #include <string>
 
 #include "driver/SelfProcess.h"
 
-namespace word_host {
-
-constexpr wchar_t kFileName[] = L"WINWORD.EXE";
+namespace named_host {
 
 inline std::wstring Program() {
   wchar_t program[MAX_PATH] = L"";
@@ -27,32 +26,37 @@ inline std::wstring Program() {
 // Made when the first test asks for it, gone at the end.
 class Copy {
  public:
-  Copy() : folder_(Program() + L".word") {
+  explicit Copy(const std::wstring& fileName) : folder_(Program() + L".named"), path_(folder_ + L"\\" + fileName) {
     CreateDirectoryW(folder_.c_str(), nullptr);
-    EXPECT_TRUE(CopyFileW(Program().c_str(), Path().c_str(), FALSE));
+    EXPECT_TRUE(CopyFileW(Program().c_str(), path_.c_str(), FALSE));
   }
   ~Copy() {
-    DeleteFileW(Path().c_str());
-    RemoveDirectoryW(folder_.c_str());
+    DeleteFileW(path_.c_str());
+    RemoveDirectoryW(folder_.c_str());  // by the last one
   }
   Copy(const Copy&) = delete;
   Copy& operator=(const Copy&) = delete;
-  std::wstring Path() const { return folder_ + L"\\" + kFileName; }
+  const std::wstring& Path() const { return path_; }
 
  private:
-  const std::wstring folder_;
+  const std::wstring folder_, path_;
 };
 
-}  // namespace word_host
+}  // namespace named_host
 
-inline bool IsInWord() { return word_host::Program().ends_with(std::wstring(L"\\") + word_host::kFileName); }
+inline bool IsInHost(const std::wstring& fileName) { return named_host::Program().ends_with(L"\\" + fileName); }
 
 // The test that is running, in that program.
-inline void RunInWord() {
-  static const word_host::Copy copy;
+inline void RunInHost(const std::wstring& fileName) {
+  static std::map<std::wstring, named_host::Copy> copies;
+  const named_host::Copy& copy = copies.try_emplace(fileName, fileName).first->second;
   const auto* const test = testing::UnitTest::GetInstance()->current_test_info();
   const std::string name = std::string(test->test_suite_name()) + "." + test->name();
   const ProcessResult result = RunProgram(copy.Path(), L"--gtest_filter=" + std::wstring(name.begin(), name.end()));
   EXPECT_EQ(0u, result.exitCode) << result.output;
   EXPECT_NE(std::string::npos, result.output.find("[  PASSED  ] 1 test.")) << result.output;
 }
+
+constexpr wchar_t kWordFileName[] = L"WINWORD.EXE";
+inline bool IsInWord() { return IsInHost(kWordFileName); }
+inline void RunInWord() { RunInHost(kWordFileName); }
