@@ -13,6 +13,7 @@
 #include "sheet/CNemUISheet.h"
 #include "support/DropRecord.h"
 #include "support/FakeSheet.h"
+#include "support/FileDialogSpy.h"
 #include "support/PostedMessages.h"
 #include "support/PrintText.h"
 #include "support/TempFile.h"
@@ -28,6 +29,11 @@ constexpr UINT kApplied = 0x84D, kCancelled = 0x84E, kOk = 0x84F, kModified = 0x
 constexpr wchar_t kList[] =
     L"{{NAME:\"Letter\";FILE:\"C:\\\\Paper\\\\z.pdf\";P:\"x\";TYPE:\"2\"}"
     L"{NAME:\"\";FILE:\"D:\\\\plain.pdf\";P:\"\";TYPE:\"7\"}}";
+
+// A list of one entry.
+std::wstring ListOfOne(const std::wstring& name, int mode) {
+  return L"{{NAME:\"" + name + L"\";FILE:\"C:\\\\f.pdf\";P:\"\";TYPE:\"" + std::to_wstring(mode) + L"\"}}";
+}
 
 class StationerySheet : public testing::Test {
  protected:
@@ -127,19 +133,29 @@ TEST_F(StationerySheet, DialogStandsBesideTheSheet) {
   });
 }
 
-TEST_F(StationerySheet, EveryModeHasItsRadio) {
-  for (int mode = 0; mode < 4; ++mode) {
-    Run([&](Sheet& each) -> SheetTask {
-      co_await OpenProperties(each);
-      Item(kRadios[mode == 2 ? 0 : 2]).Click();
-      Item(kRadios[mode]).Click();
+TEST_F(StationerySheet, EveryModeHasItsNumberAndItsRadio) {
+  for (const auto& [stored, mode] : {std::pair{0, 0}, {1, 1}, {2, 2}, {3, 3}, {7, 0}, {-1, 0}}) {
+    SCOPED_TRACE(stored);
+    prepare_ = [&](CDialogProperties& properties) {
+      properties.StationeryInfos[0].SetString(ListOfOne(L"n", stored).c_str());
+    };
+    Run([&](Sheet& sheet) -> SheetTask {
+      co_await OpenProperties(sheet);
+      EXPECT_EQ(mode, Mode());
+      if (stored == mode) {
+        Item(kRadios[mode == 2 ? 0 : 2]).Click();
+        Item(kRadios[mode]).Click();
+      }
       EXPECT_EQ(mode, Mode());
       Item(1342).Click();
-      co_await each.Settled();
+      co_await sheet.Settled();
       EXPECT_FALSE(IsWindow(dialog_));
-      co_await OpenProperties(each);
+      co_await OpenProperties(sheet);
       EXPECT_EQ(mode, Mode());
+      sheet.PressOk();
+      co_await sheet.Settled();
     });
+    EXPECT_EQ(ListOfOne(L"n", mode), Stored()) << "an unknown one is replaced by what was shown";
   }
 }
 
@@ -157,7 +173,7 @@ TEST_F(StationerySheet, ChangesLockTheSheetAndOpenApply) {
       co_await sheet.Settled();
       EXPECT_TRUE(IsLocked(sheet));
       EXPECT_FALSE(PostedMessages::current->posted.empty());
-      for (const auto& [message, mark] : PostedMessages::current->Take()) EXPECT_EQ(kModified, message);
+      for (const auto& message : PostedMessages::current->Take()) EXPECT_EQ((std::pair{kModified, WPARAM{0}}), message);
       Item(1343).Click();
       EXPECT_FALSE(Item(1343).IsEnabled());
       co_await sheet.Settled();
@@ -256,6 +272,24 @@ TEST_F(StationerySheet, DescriptionsAreTypedWith30Characters) {
   });
 }
 
+// From a host, or after its file.
+TEST_F(StationerySheet, ALongerDescriptionShowsWholeAndStays) {
+  const std::wstring name(40, L'n');
+  prepare_ = [&](CDialogProperties& properties) {
+    properties.StationeryInfos[0].SetString(ListOfOne(name, 2).c_str());
+  };
+  Run([&](Sheet& sheet) -> SheetTask {
+    co_await OpenProperties(sheet);
+    EXPECT_EQ(name, Item(1341).Text());
+    Item(1339).Click();
+    Item(1342).Click();
+    co_await sheet.Settled();
+    sheet.PressOk();
+    co_await sheet.Settled();
+  });
+  EXPECT_EQ(ListOfOne(name, 3), Stored());
+}
+
 TEST_F(StationerySheet, AnEntryWithoutADescriptionGetsOneAndCountsAsNew) {
   Run([&](Sheet& sheet) -> SheetTask {
     const PostedMessages posted;
@@ -288,6 +322,81 @@ TEST_F(StationerySheet, AnOpenDialogGoesOverToAnotherEntry) {
     Item(1342).Click();
     co_await sheet.Settled();
     EXPECT_EQ(L"Letter,plain", Rows(sheet));
+  });
+}
+
+TEST_F(StationerySheet, GoingOverToAnotherEntryDropsWhatWasNotApplied) {
+  prepare_ = [](CDialogProperties& properties) {
+    properties.StationeryInfos[0].SetString(
+        L"{{NAME:\"Letter\";FILE:\"z.pdf\";P:\"\";TYPE:\"2\"}{NAME:\"Bill\";FILE:\"b.pdf\";P:\"\";TYPE:\"1\"}}");
+  };
+  for (const bool fromNew : {false, true})
+    Run([&](Sheet& sheet) -> SheetTask {
+      const PostedMessages posted;
+      if (fromNew) {
+        co_await DropNew(sheet);
+      } else {
+        co_await OpenProperties(sheet);
+        Item(1341).SetText(L"not applied");
+      }
+      co_await sheet.Settled();
+      EXPECT_TRUE(IsLocked(sheet));
+      PostedMessages::current->Take();
+      List(sheet).SelectRow(1);
+      SendMessageW(sheet.Page(), WM_COMMAND, 1067, reinterpret_cast<LPARAM>(sheet.Control(1067).Window()));
+      EXPECT_EQ(L"Bill", Item(1341).Text());
+      EXPECT_EQ(1, Mode());
+      EXPECT_FALSE(Item(1343).IsEnabled());
+      co_await sheet.Settled();
+      EXPECT_EQ((Posted{{kModified, 0}, {kModified, 0}}), PostedMessages::current->Take()) << "itself, and its filling";
+      EXPECT_FALSE(IsLocked(sheet));
+      Item(1344).Click();
+      co_await sheet.Settled();
+      EXPECT_EQ((Posted{{kCancelled, 0}}), PostedMessages::current->Take());
+      EXPECT_EQ(fromNew ? L"Letter,Bill,fresh.one" : L"Letter,Bill", Rows(sheet));
+    });
+}
+
+TEST_F(StationerySheet, AnOpenDialogGoesOverToANewEntry) {
+  Run([&](Sheet& sheet) -> SheetTask {
+    const PostedMessages posted;
+    co_await OpenProperties(sheet);
+    const HWND before = dialog_;
+    Drop(sheet, 1291, {L"C:\\New\\fresh.pdf"});
+    co_await sheet.Settled();
+    EXPECT_EQ(before, dialog_);
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(L"C:\\New\\fresh.pdf", Item(1319).Text());
+    EXPECT_TRUE(IsLocked(sheet));
+    PostedMessages::current->Take();
+    Item(1344).Click();
+    co_await sheet.Settled();
+    EXPECT_EQ((Posted{{kCancelled, 2101}}), PostedMessages::current->Take());
+    EXPECT_EQ(L"Letter,", Rows(sheet));
+  });
+}
+
+TEST_F(StationerySheet, NobodyWorksInTheDialogWhileThePageAsks) {
+  Run([&](Sheet& sheet) -> SheetTask {
+    co_await OpenProperties(sheet);
+    sheet.Control(1065).Click();
+    FileDialogSpy spy;
+    spy.whileUp = [&] { EXPECT_FALSE(IsWindowEnabled(dialog_)); };
+    for (const int button : {1063, 1066}) {
+      sheet.Control(button).Click();
+      EXPECT_TRUE(IsWindowEnabled(dialog_)) << button;
+    }
+    EXPECT_EQ(2u, spy.calls.size());
+    bool asked = false;
+    sheet.Queue().Loop().Post([&] {
+      asked = true;
+      EXPECT_FALSE(IsWindowEnabled(dialog_));
+    });
+    sheet.ExpectBox({.title = L"Error", .text = L"Only pdf can be used as a stationery file!"});
+    Drop(sheet, 1291, {L"C:\\a.txt"});
+    EXPECT_TRUE(asked);
+    EXPECT_TRUE(IsWindowEnabled(dialog_));
+    co_await sheet.Settled();
   });
 }
 
@@ -381,8 +490,11 @@ TEST_F(StationerySheet, CancelTakesANewEntryAwayAlsoAfterApply) {
       EXPECT_EQ(L"Letter,,fresh.one", Rows(sheet));
       if (apply) {
         Item(1341).SetText(L"kept?");
+        co_await sheet.Settled();
+        PostedMessages::current->Take();
         Item(1343).Click();
         co_await sheet.Settled();
+        EXPECT_EQ((Posted{{kApplied, 2101}, {kModified, 0}}), PostedMessages::current->Take());
         EXPECT_EQ(L"Letter,,kept?", Rows(sheet));
         EXPECT_TRUE(IsLocked(sheet)) << "it is still new";
       }
@@ -395,6 +507,20 @@ TEST_F(StationerySheet, CancelTakesANewEntryAwayAlsoAfterApply) {
       EXPECT_FALSE(IsLocked(sheet));
       EXPECT_FALSE(IsWindow(dialog_));
     });
+}
+
+TEST_F(StationerySheet, OkKeepsANewEntry) {
+  Run([&](Sheet& sheet) -> SheetTask {
+    const PostedMessages posted;
+    co_await DropNew(sheet);
+    PostedMessages::current->Take();
+    Item(1342).Click();
+    co_await sheet.Settled();
+    EXPECT_EQ((Posted{{kOk, 2101}}), PostedMessages::current->Take());
+    EXPECT_EQ(L"Letter,,fresh.one", Rows(sheet));
+    EXPECT_FALSE(IsWindow(dialog_));
+    EXPECT_FALSE(IsLocked(sheet));
+  });
 }
 
 TEST_F(StationerySheet, DeletingClosesTheDialogOfItsEntryAlone) {
@@ -424,6 +550,9 @@ TEST_F(StationerySheet, DropsOfOneFileOnTheWatermarkGoIntoItsField) {
     EXPECT_FALSE(sheet.Control(1065).IsChecked());
     Drop(sheet, 1523, {L"C:\\b.txt"});
     EXPECT_EQ(L"C:\\b.txt", sheet.Control(1062).Text());
+    Drop(sheet, 1065, {L"C:\\b.png"});
+    EXPECT_EQ(L"C:\\b.png", sheet.Control(1062).Text()) << "the group is in front of its controls";
+    Drop(sheet, 1523, {L"C:\\b.txt"});
     Drop(sheet, 1062, {L"C:\\c.png", L"C:\\d.png"});
     Drop(sheet, 1178, {L"C:\\e.png"});
     Drop(sheet, 1523, {L"C:\\f.png"}, {-3, 3});
@@ -434,7 +563,7 @@ TEST_F(StationerySheet, DropsOfOneFileOnTheWatermarkGoIntoItsField) {
 }
 
 TEST_F(StationerySheet, DropsOfOnePdfOnTheListAddAStationery) {
-  for (const int target : {1291, 5014})
+  for (const int target : {1291, 5014, 1066})
     Run([&](Sheet& sheet) -> SheetTask {
       Drop(sheet, target, {L"C:\\a.pdf", L"C:\\b.pdf"});
       EXPECT_EQ(L"Letter,", Rows(sheet));
@@ -450,6 +579,8 @@ TEST_F(StationerySheet, DropsOfOnePdfOnTheListAddAStationery) {
       EXPECT_TRUE(IsLocked(sheet));
       Drop(sheet, target, {L"C:\\B.pdf"});
       EXPECT_EQ(L"Letter,,A", Rows(sheet)) << "one that is being edited is finished first";
+      Drop(sheet, 1062, {L"C:\\c.png"});
+      EXPECT_EQ(L"", sheet.Control(1062).Text()) << "the sheet is locked";
     });
 }
 
@@ -488,6 +619,21 @@ TEST_F(StationerySheet, LeavingThePageClosesAnUnchangedDialog) {
     EXPECT_FALSE(IsWindow(dialog_));
     EXPECT_EQ(kGraphic, sheet.PageId());
     EXPECT_FALSE(IsLocked(sheet));
+  });
+}
+
+TEST_F(StationerySheet, ALeavingThatIsRefusedTouchesNeitherDialogNorList) {
+  prepare_ = [](CDialogProperties& properties) { properties.WatermarkEnabled[0].SetLong(1); };
+  Run([&](Sheet& sheet) -> SheetTask {
+    co_await OpenProperties(sheet);
+    sheet.ExpectBox(
+        {.title = L"Title", .text = L"The watermark file name entered is invalid!", .icon = MB_ICONEXCLAMATION});
+    EXPECT_FALSE(sheet.SelectPage(kGraphic));
+    co_await sheet.Settled();
+    EXPECT_EQ(kWatermark, sheet.PageId());
+    EXPECT_TRUE(IsOpen());
+    EXPECT_EQ(L"Letter,", Rows(sheet));
+    EXPECT_EQ(kList, Stored());
   });
 }
 
@@ -615,6 +761,8 @@ TEST_F(StationerySheet, DialogIsSoundInEveryLanguage) {
       options.size = {222, 211};
       Findings findings = AuditPage(dialog_, options);
       EXPECT_EQ(Findings(), findings);
+      EXPECT_EQ(options.mirrored, CWnd(dialog_).IsMirrored());
+      EXPECT_TRUE(Item(1319).ReadsLeftToRight());
     });
   }
 }

@@ -6,6 +6,7 @@
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
 #include "ShellSpy.h"
+#include "support/FileDialogSpy.h"
 #include "support/FreedTextWatch.h"
 #include "support/FunctionPatch.h"
 #include "support/HelpSpy.h"
@@ -166,6 +167,52 @@ TEST_F(WatermarkPage, PictureStandsInItsControl) {
   auto* picture = dynamic_cast<CImageStatic*>(CSubclassedControl::FromHandle(Control(1138).Window()));
   ASSERT_TRUE(picture);
   EXPECT_TRUE(picture->IsLoaded());
+}
+
+TEST_F(WatermarkPage, PickersAskForTheirKindOfFile) {
+  struct Row {
+    int button;
+    const wchar_t *filter, *startName;
+  };
+  ASSERT_TRUE(test_.Open());
+  for (const Row& row : {Row{1063, L"All files(*.*)|*.*|", L"mark.png"},
+                         Row{1066, L"PDF-Files(*.pdf)|*.pdf|All files(*.*)|*.*|", L""}}) {
+    FileDialogSpy spy;
+    Control(row.button).Click();
+    ASSERT_EQ(1u, spy.calls.size()) << row.button;
+    const FileDialogSpy::Call& call = spy.calls[0];
+    EXPECT_FALSE(call.save);
+    EXPECT_EQ(test_.Page().Handle(), call.owner);
+    EXPECT_EQ(row.filter, call.filter);
+    EXPECT_EQ(row.startName, call.startName);
+    EXPECT_EQ(L"", call.startFolder + call.extension);
+    EXPECT_EQ(260u, call.pathRoom);
+    EXPECT_EQ(0x1804u, call.flags);
+  }
+  EXPECT_EQ(L"mark.png", Control(1062).Text());
+  EXPECT_EQ(L"Letter,bill", Rows());
+}
+
+TEST_F(WatermarkPage, ThePageMayEndWhileAPickerIsUp) {
+  for (const int button : {1063, 1066}) {
+    PageUnderTest test(kPageId);
+    Fill(test);
+    ASSERT_TRUE(test.Open());
+    FileDialogSpy spy;
+    spy.chosen = L"C:\\a.pdf";
+    spy.whileUp = [&] { test.Page().Destroy(); };
+    SendMessageW(test.Page().Handle(), WM_COMMAND, MAKEWPARAM(button, BN_CLICKED),
+                 reinterpret_cast<LPARAM>(test.Control(button).Window()));
+    EXPECT_EQ(1u, spy.calls.size());
+    EXPECT_FALSE(test.Page().IsWindow());
+  }
+}
+
+TEST_F(WatermarkPage, ThePathReadsFromLeftToRightInAMirroredPageToo) {
+  const LanguageScope arabic(0x0401);
+  ASSERT_TRUE(test_.Open());
+  EXPECT_TRUE(CWnd(test_.Page().Handle()).IsMirrored());
+  EXPECT_TRUE(Control(1062).ReadsLeftToRight());
 }
 
 // --- The list ------------------------------------------------------------------------------------------------------
@@ -364,6 +411,9 @@ TEST_F(WatermarkPage, TheVariantForTiffHasNoStationery) {
 TEST_F(WatermarkPage, HelpOnStationeryIsThatOfThePage) {
   test_.Sheet().properties.HelpFilename.SetString(L"help.chm");
   ASSERT_TRUE(test_.Open());
+  LOGFONTW font{};
+  GetObjectW(CWnd(Control(1178).Window()).Font(), sizeof font, &font);
+  EXPECT_TRUE(font.lfUnderline);
   HelpSpy spy;
   Control(1178).Click();
   EXPECT_EQ(L"help.chm::/Watermark_properties.htm", spy.TakePath());

@@ -6,11 +6,13 @@
 #pragma once
 
 #include <windows.h>
+// behind windows.h
+#include <gtest/gtest.h>
 
 #include <utility>
 #include <vector>
 
-// Message and first argument.
+// Message and first argument; none has a second one.
 using Posted = std::vector<std::pair<UINT, WPARAM>>;
 
 struct PostedMessages {
@@ -26,8 +28,10 @@ struct PostedMessages {
 
   static LRESULT CALLBACK Note(int code, WPARAM wParam, LPARAM lParam) {
     const MSG& message = *reinterpret_cast<const MSG*>(lParam);
-    if (code == HC_ACTION && wParam == PM_REMOVE && message.message >= kFirst && message.message <= kLast)
+    if (code == HC_ACTION && wParam == PM_REMOVE && message.message >= kFirst && message.message <= kLast) {
       current->posted.emplace_back(message.message, message.wParam);
+      EXPECT_EQ(0, message.lParam);
+    }
     return CallNextHookEx(nullptr, code, wParam, lParam);
   }
   Posted Take() { return std::exchange(posted, {}); }
