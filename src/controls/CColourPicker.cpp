@@ -35,9 +35,7 @@ void DrawArrow(HDC dc, const IntRect& rect, int half, COLORREF color) {
 }  // namespace
 
 CColourPicker::CColourPicker()
-    : defaultColour_(::GetSysColor(COLOR_BTNFACE)),
-      defaultText_(MessageText(MSG_COLOUR_AUTOMATIC)),
-      customText_(MessageText(MSG_COLOUR_MORE)) {}
+    : defaultText_(MessageText(MSG_COLOUR_AUTOMATIC)), customText_(MessageText(MSG_COLOUR_MORE)) {}
 
 CColourPicker::~CColourPicker() { ClosePopup(); }
 
@@ -96,12 +94,18 @@ void CColourPicker::SetStyle(bool flat, bool arrow, bool colourText) {
 
 void CColourPicker::Open() {
   if (open_ || !::IsWindowVisible(Handle()) || !IsEnabled()) return;
-  open_ = true;
-  popup_ = std::make_shared<CColourPopup>(
+  const auto popup = std::make_shared<CColourPopup>(
       ColourPopupSetup{*this, PartName(kSelf), colour_, defaultText_, customText_, customColours_});
-  const auto popup = popup_;
+  popup_ = popup;
+  open_ = true;
   const HWND control = Handle();
-  const bool opened = popup->Open();
+  bool opened = false;
+  try {
+    opened = popup->Open();
+  } catch (...) {
+    if (FromHandle(control) == this) ClosePopup();
+    throw;
+  }
   if (FromHandle(control) != this) return;  // what saw the popup come up has ended us
   if (!opened) {
     ClosePopup();
@@ -228,7 +232,8 @@ void CColourPicker::DrawButton(HDC dc, RECT rect, UINT state) const {
 
 void CColourPicker::DrawSwatch(HDC dc, const IntRect& rect, bool disabled) const {
   const RECT swatch = ToRect(rect);
-  const GdiBrush brush(::CreateSolidBrush(colour_ == kNoColour ? defaultColour_ : colour_));
+  const COLORREF none = defaultColour_.value_or(::GetSysColor(COLOR_BTNFACE));
+  const GdiBrush brush(::CreateSolidBrush(colour_ == kNoColour ? none : colour_));
   ::FillRect(dc, &swatch, brush.Get());
   ::FrameRect(dc, &swatch, ::GetSysColorBrush(disabled ? COLOR_GRAYTEXT : COLOR_BTNTEXT));
 }

@@ -6,6 +6,8 @@
 //   OnMessage<&CLinksPage::OnColourChosen>(ColourSelEndOk)
 #pragma once
 
+#include <optional>
+
 #include "controls/CColourPopup.h"
 #include "controls/ColourMessages.h"
 #include "controls/ColourPickerLayout.h"
@@ -27,7 +29,7 @@ class CColourPicker : public CAccessibleControl<CButton> {
 
   // With it the picker takes each colour that is highlighted, and gives it back when the user cancels.
   void SetTrackSelection(bool track) { trackSelection_ = track; }
-  // The swatch of no colour.
+  // The swatch of no colour; at first it has the system's colour of button faces.
   void SetDefaultColour(COLORREF colour);
   // How it looks; all are on at first. Without the text of the colour there is the swatch alone.
   void SetStyle(bool flat, bool arrow, bool colourText);
@@ -73,7 +75,7 @@ class CColourPicker : public CAccessibleControl<CButton> {
   bool flat_ = true, arrow_ = true, colourText_ = true;
   bool hover_ = false;
   COLORREF colour_ = kNoColour;
-  COLORREF defaultColour_;
+  std::optional<COLORREF> defaultColour_;  // else the face of buttons, as it is when we draw
   CUString defaultText_;
   CUString customText_;
   std::shared_ptr<CustomColours> customColours_ = std::make_shared<CustomColours>();

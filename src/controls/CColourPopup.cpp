@@ -103,9 +103,11 @@ bool CColourPopup::CreatePopupWindow() {
 void CColourPopup::WatchPicker() {
   for (HWND window = setup_.picker.Handle(); window; window = ::GetAncestor(window, GA_PARENT)) {
     if (window == ::GetDesktopWindow()) break;
-    if (::SetWindowSubclass(window, WatchProcedure, reinterpret_cast<UINT_PTR>(this),
-                            reinterpret_cast<DWORD_PTR>(this)))
-      watched_.push_back(window);
+    // Noted first: a window that is watched and forgotten would outlive the popup with a pointer to it.
+    watched_.push_back(window);
+    if (!::SetWindowSubclass(window, WatchProcedure, reinterpret_cast<UINT_PTR>(this),
+                             reinterpret_cast<DWORD_PTR>(this)))
+      watched_.pop_back();
   }
 }
 
@@ -187,9 +189,10 @@ void CColourPopup::OnLeft() {
   End(ColourSelEndCancel);
 }
 
-// By its owner's end, if not by its own.
+// By its owner's end, if not by its own. The picker lets go of us, and there are messages to come yet.
 void CColourPopup::OnWindowDestroyed() {
   dying_ = true;
+  untilClosed_ = weak_from_this().lock();
   End(ColourSelEndCancel);
 }
 
@@ -252,8 +255,13 @@ void CColourPopup::OnMouseMove(LPARAM point) {
 }
 
 void CColourPopup::OnMouseUp(LPARAM point) {
+  const auto alive = weak_from_this().lock();
+  const POINT position{GET_X_LPARAM(point), GET_Y_LPARAM(point)};
   const RECT client = ClientRect();
-  const bool inside = ::PtInRect(&client, {GET_X_LPARAM(point), GET_Y_LPARAM(point)});
+  const bool inside = ::PtInRect(&client, position);
+  // A mouse that stood still has left the highlight to the keyboard: what the user clicks on counts.
+  const int cell = inside ? layout_.CellAt({position.x, position.y}) : kNoCell;
+  if (cell != highlighted_) Highlight(cell);
   End(inside ? ColourSelEndOk : ColourSelEndCancel);
 }
 

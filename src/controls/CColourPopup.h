@@ -109,7 +109,7 @@ class CColourPopup : public CWnd,
   std::vector<HWND> watched_;                  // the picker and what is around it
   bool ending_ = false;                        // also while the dialog for colours is open
   bool left_ = false;                          // the activation has gone elsewhere
-  std::shared_ptr<CColourPopup> untilClosed_;  // itself, when it has ended before its window
+  std::shared_ptr<CColourPopup> untilClosed_;  // itself, when it ends before its window
   bool dying_ = false;                         // the window is being destroyed
   CAccessibility accessibility_;
 };

@@ -148,6 +148,24 @@ TEST(CColourPicker, OpensOnce) {
   EXPECT_EQ(1u, test.page.Received(kDropDown).size());
 }
 
+BOOL WINAPI NoMemory() { throw std::bad_alloc(); }
+
+TEST(CColourPicker, OpensAgainWhenAnOpeningHasFailed) {
+  const std::pair<const char*, const char*> steps[] = {{"gdi32.dll", "GetTextExtentPoint32W"},  // without a window yet
+                                                       {"comctl32.dll", "SetWindowSubclass"}};
+  for (const auto& [library, function] : steps) {
+    ColourPage test;
+    ASSERT_GT(PatchImport(library, function, reinterpret_cast<void*>(&NoMemory)), 0);
+    EXPECT_THROW(test.picker->Open(), std::bad_alloc);
+    RestoreImport(library, function);
+    EXPECT_TRUE(test.IsOver()) << function;
+    EXPECT_TRUE(test.control.HasFocus()) << function;
+    EXPECT_TRUE(test.Told().empty()) << function;
+    test.picker->Open();
+    EXPECT_TRUE(test.picker->IsOpen()) << function;
+  }
+}
+
 TEST(CColourPicker, DoesNotOpenDisabledOrHidden) {
   ColourPage test;
   test.control.Enable(false);
@@ -378,6 +396,12 @@ TEST(CColourPickerLook, SwatchHasTheColour) {
   EXPECT_EQ(PixelOf(kForeign), MiddleOf(Paint(test.control), swatch));
 }
 
+TEST(CColourPickerLook, SwatchOfNoColourFollowsTheSystem) {
+  ColourPage test;
+  const SystemColorScope colors({{COLOR_BTNFACE, RGB(1, 20, 30)}});
+  EXPECT_EQ(PixelOf(RGB(1, 20, 30)), MiddleOf(Paint(test.control), PartsOf(test.control).swatch));
+}
+
 TEST(CColourPickerLook, ArrowHasTheColourOfText) {
   const SystemColorScope colors({{COLOR_BTNTEXT, RGB(1, 2, 3)}, {COLOR_GRAYTEXT, RGB(111, 112, 113)}});
   ColourPage test;
@@ -438,6 +462,29 @@ TEST(CColourPickerLook, FollowsTheMouse) {
   test.control.Send(WM_MOUSELEAVE);
   EXPECT_TRUE(::GetUpdateRect(test.control.Handle(), nullptr, FALSE));
   EXPECT_EQ(quiet.pixels, Paint(test.control).pixels);
+}
+
+std::vector<TRACKMOUSEEVENT> trackings;
+BOOL WINAPI NoteTracking(TRACKMOUSEEVENT* tracking) {
+  trackings.push_back(*tracking);
+  return TRUE;
+}
+
+TEST(CColourPickerLook, AsksToHearWhenTheMouseLeaves) {
+  ColourPage test;
+  trackings.clear();
+  ASSERT_GT(PatchImport("comctl32.dll", "_TrackMouseEvent", reinterpret_cast<void*>(&NoteTracking)), 0);
+  for (const size_t times : {1u, 2u}) {
+    test.control.Send(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
+    test.control.Send(WM_MOUSEMOVE, 0, MAKELPARAM(6, 5));
+    EXPECT_EQ(times, trackings.size()) << "once for each stay";
+    test.control.Send(WM_MOUSELEAVE);
+  }
+  RestoreImport("comctl32.dll", "_TrackMouseEvent");
+  for (const TRACKMOUSEEVENT& tracking : trackings) {
+    EXPECT_EQ(DWORD{TME_LEAVE}, tracking.dwFlags);
+    EXPECT_EQ(test.control.Handle(), tracking.hwndTrack);
+  }
 }
 
 TEST(CColourPickerLook, IsPressedWhileOpen) {
@@ -550,6 +597,7 @@ TEST(ColourTexts, EachColourHasItsNameInEachLanguage) {
     EXPECT_FALSE(names.contains(L""));
     const std::wstring parts = ColourName(0x123456).Text();
     for (const wchar_t* number : {L"86", L"52", L"18"}) EXPECT_NE(std::wstring::npos, parts.find(number)) << language;
+    EXPECT_EQ(L"R:86 G:52 B:18", ColourParts(0x123456)) << "the same everywhere";
   }
   SetUILanguage(before);
 }

@@ -79,14 +79,19 @@ TEST(CColourPopup, OfAMirroredPageIsMirrored) {
   EXPECT_TRUE(test.Popup().IsMirrored());
 }
 
+LOGFONTW FontOfMessages() {
+  NONCLIENTMETRICSW metrics{};
+  metrics.cbSize = sizeof metrics;
+  ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
+  return metrics.lfMessageFont;
+}
+
 TEST(CColourPopup, MeasuresItsTextsInTheFontOfMessages) {
   ColourPage test;
   const wchar_t* text = L"A text so long that the popup has to be wider than its grid of colours";
   test.Open(kRed, text);
-  NONCLIENTMETRICSW metrics{};
-  metrics.cbSize = sizeof metrics;
-  ::SystemParametersInfoW(SPI_GETNONCLIENTMETRICS, sizeof metrics, &metrics, 0);
-  const GdiFont font(::CreateFontIndirectW(&metrics.lfMessageFont));
+  const LOGFONTW messages = FontOfMessages();
+  const GdiFont font(::CreateFontIndirectW(&messages));
   const WindowDC dc(nullptr);
   const SelectScope selected(dc, font.Get());
   SIZE size{};
@@ -241,6 +246,35 @@ TEST(CColourPopup, AMouseThatStandsStillTakesNothingFromTheKeyboard) {
   EXPECT_EQ(13, test.Popup().HighlightedCell());
   test.MoveTo(test.Inside(5) + 1);
   EXPECT_EQ(5, test.Popup().HighlightedCell());
+}
+
+TEST(CColourPopup, AClickWithoutAMoveChoosesWhatItIsOn) {
+  ColourPage test;
+  test.Open(kForeign);
+  test.MoveTo(test.Inside(5));
+  test.Press(VK_DOWN);
+  test.MoveTo(test.Inside(5));
+  test.page.received.clear();
+  test.Release(test.Inside(5));
+  test.ExpectTold({kChange, kCloseUp, kOk}, kPalette[5].colour);
+  test.Open(kForeign);  // on the custom cell, whose dialog is not asked
+  test.Release(test.Inside(16));
+  test.ExpectTold({kChange, kCloseUp, kOk}, kRed);
+  EXPECT_EQ(kRed, test.picker->GetColour());
+  EXPECT_TRUE(test.IsOver());
+}
+
+TEST(CColourPopup, PickerMayEndAtTheHighlightOfAClick) {
+  ColourPage test;
+  test.Open(kForeign);
+  const HWND popup = test.Popup().Handle();
+  test.page.onMessage = [&](const WindowMessage& message) {
+    if (message.message == kChange) test.picker.reset();
+  };
+  const LPARAM point = test.Inside(16);
+  ::SendMessageW(popup, WM_LBUTTONUP, 0, point);
+  EXPECT_EQ(std::vector<UINT>{kChange}, test.Told());
+  EXPECT_EQ(0, ColourPage::OpenPopups());
 }
 
 TEST(CColourPopup, EndsWithTheButton) {
@@ -545,6 +579,36 @@ TEST(CColourPopup, OpensAgainAfterEachInterruption) {
   }
 }
 
+HWND WINAPI RefuseFocus(HWND) { return nullptr; }
+
+// What a popup's window sees last of its object.
+struct LastSight {
+  std::weak_ptr<CColourPopup> popup;
+  bool wasThere = false;
+
+  static LRESULT CALLBACK Watch(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR data) {
+    auto& sight = *reinterpret_cast<LastSight*>(data);
+    if (message == WM_NCDESTROY) sight.wasThere = !sight.popup.expired();
+    return ::DefSubclassProc(window, message, wParam, lParam);
+  }
+};
+
+// One that is active would have ended before, when its window was hidden.
+TEST(CColourPopup, LivesAsLongAsItsWindowThatIsDestroyed) {
+  ColourPage test;
+  PatchImport("user32.dll", "SetFocus", reinterpret_cast<void*>(&RefuseFocus));
+  test.Open(kForeign);
+  RestoreImport("user32.dll", "SetFocus");
+  LastSight sight{test.picker->Popup()};
+  const HWND window = test.Popup().Handle();
+  ::SetWindowSubclass(window, LastSight::Watch, 1, reinterpret_cast<DWORD_PTR>(&sight));
+  ::DestroyWindow(window);
+  EXPECT_TRUE(sight.wasThere);
+  EXPECT_TRUE(sight.popup.expired()) << "and no longer";
+  test.ExpectTold({kCloseUp, kCancel}, kForeign);
+  EXPECT_TRUE(test.IsOver());
+}
+
 TEST(CColourPopup, EndsWithThePageAroundIt) {
   auto outer = std::make_unique<ControlDialog>();
   ControlDialog page(ControlDialog::Layout::LeftToRight, outer->Handle());
@@ -660,6 +724,23 @@ TEST(CColourPopupLook, TextsAreCentred) {
   }
 }
 
+TEST(CColourPopupLook, TextsAreInTheFontOfMessages) {
+  const LOGFONTW messages = FontOfMessages();
+  for (const int dpi : {96, 192}) {
+    const DpiScope scope(static_cast<UINT>(dpi));
+    ColourPage test;
+    test.Open(kRed);
+    const TextSpy spy;
+    Paint(test.Popup());
+    ASSERT_EQ(2u, spy.Drawn().size());
+    for (const TextSpy::Text& drawn : spy.Drawn()) {
+      EXPECT_STREQ(messages.lfFaceName, drawn.font.lfFaceName);
+      EXPECT_EQ(messages.lfHeight * dpi / 96, drawn.font.lfHeight);
+      EXPECT_EQ(messages.lfWeight, drawn.font.lfWeight);
+    }
+  }
+}
+
 TEST(CColourPopupLook, IsMirrored) {
   ColourPage test(ControlDialog::Layout::RightToLeft);
   test.Open(kForeign);
@@ -668,30 +749,34 @@ TEST(CColourPopupLook, IsMirrored) {
   EXPECT_EQ(PixelOf(kRed), picture.At(picture.width - 1 - (red.left + 4), red.top + 4));
 }
 
-int realized = 0;
+std::vector<COLORREF> realized;
 int WINAPI PaletteCaps(HDC dc, int index) {
   const int caps = RealFunction("gdi32.dll", "GetDeviceCaps", &PaletteCaps)(dc, index);
   return index == RASTERCAPS ? caps | RC_PALETTE : caps;
 }
-UINT WINAPI CountRealized(HDC dc) {
+UINT WINAPI NoteRealized(HDC dc) {
   PALETTEENTRY entries[64];
   const auto palette = static_cast<HPALETTE>(::GetCurrentObject(dc, OBJ_PAL));
-  realized = static_cast<int>(::GetPaletteEntries(palette, 0, 64, entries));
+  const UINT count = ::GetPaletteEntries(palette, 0, 64, entries);
+  realized.clear();
+  for (UINT i = 0; i < count; ++i) realized.push_back(RGB(entries[i].peRed, entries[i].peGreen, entries[i].peBlue));
   return 0;
 }
 
 TEST(CColourPopupLook, RealizesItsPaletteWhereThereIsOne) {
   ColourPage test;
   test.Open(kRed);
-  PatchImport("gdi32.dll", "RealizePalette", reinterpret_cast<void*>(&CountRealized));
-  realized = 0;
+  PatchImport("gdi32.dll", "RealizePalette", reinterpret_cast<void*>(&NoteRealized));
+  realized.clear();
   Paint(test.Popup());
-  EXPECT_EQ(0, realized) << "not on a display of true colours";
+  EXPECT_TRUE(realized.empty()) << "not on a display of true colours";
   PatchImport("gdi32.dll", "GetDeviceCaps", reinterpret_cast<void*>(&PaletteCaps));
   Paint(test.Popup());
-  EXPECT_EQ(40, realized);
   RestoreImport("gdi32.dll", "GetDeviceCaps");
   RestoreImport("gdi32.dll", "RealizePalette");
+  std::vector<COLORREF> table;
+  for (const PaletteRow& row : kPalette) table.push_back(row.colour);
+  EXPECT_EQ(table, realized);
 }
 
 TEST(CColourPopupLook, RedrawsWhenThePaletteChangesElsewhere) {

@@ -19,6 +19,7 @@ class TextSpy {
     RECT rect;
     UINT format;
     COLORREF color;
+    LOGFONTW font;
   };
 
   TextSpy() {
@@ -33,7 +34,9 @@ class TextSpy {
 
  private:
   static int WINAPI Note(HDC dc, const wchar_t* text, int length, RECT* rect, UINT format) {
-    drawn_.push_back({std::wstring(text, static_cast<size_t>(length)), *rect, format, ::GetTextColor(dc)});
+    LOGFONTW font{};
+    ::GetObjectW(::GetCurrentObject(dc, OBJ_FONT), sizeof font, &font);
+    drawn_.push_back({std::wstring(text, static_cast<size_t>(length)), *rect, format, ::GetTextColor(dc), font});
     return RealFunction("user32.dll", "DrawTextW", &Note)(dc, text, length, rect, format);
   }
   static inline std::vector<Text> drawn_;
