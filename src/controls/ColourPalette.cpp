@@ -59,10 +59,7 @@ CUString ColourName(uint32_t colour) {
 }
 
 CUString ColourParts(uint32_t colour) {
-  const CUString red = MessageText(MSG_COLOUR_LETTER_RED), green = MessageText(MSG_COLOUR_LETTER_GREEN),
-                 blue = MessageText(MSG_COLOUR_LETTER_BLUE);
   CUString text;
-  text.Format(L"%s:%d %s:%d %s:%d", red.Text(), RedOf(colour), green.Text(), GreenOf(colour), blue.Text(),
-              BlueOf(colour));
+  text.Format(L"R:%d G:%d B:%d", RedOf(colour), GreenOf(colour), BlueOf(colour));
   return text;
 }

@@ -28,5 +28,5 @@ int PaletteRowOf(uint32_t colour);
 // The colour in words: the display name of its row, "No Color", or its parts as numbers.
 CUString ColourName(uint32_t colour);
 
-// The colour's parts alone: "R:51 G:153 B:255".
+// The colour's parts alone, the same in all languages: "R:51 G:153 B:255".
 CUString ColourParts(uint32_t colour);

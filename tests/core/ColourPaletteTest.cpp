@@ -101,8 +101,6 @@ class ColourTexts : public testing::Test {
       {0xC0011771, 9, L"First%0"},     {0xC0011782, 9, L"Light Orange%0"},
       {0xC0011778, 9, L"Grey-80%%%0"}, {0xC0011798, 9, L"Last%0"},
       {0xC0011799, 9, L"No Color%0"},  {0x4001F810, 9, L"User-defined (R: %1!d!, G: %2!d!, B: %3!d!)%0"},
-      {0x4001F814, 9, L"R%0"},         {0x4001F815, 9, L"G%0"},
-      {0x4001F816, 9, L"B%0"},
   };
   void* module_;
 };
