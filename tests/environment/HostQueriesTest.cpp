@@ -14,6 +14,7 @@
 #include "environment/SystemGeneration.h"
 #include "environment/TextLimit.h"
 #include "support/ComponentFolder.h"
+#include "support/HostProgramScope.h"
 #include "support/PrintText.h"
 #include "support/RegistryValue.h"
 #include "support/TempFile.h"
@@ -57,6 +58,19 @@ TEST(HostApplication, AnUnknownOneIsCalledByItsFile) {
 TEST(HostApplication, IsNoWordProcessorUnderAnotherName) {
   EXPECT_EQ(L"environment_tests.exe", GetHostFileName());
   EXPECT_FALSE(IsWordHost());
+}
+
+TEST(HostApplication, IsTheWordProcessorByItsFileAlone) {
+  const std::pair<const wchar_t*, bool> rows[] = {
+      {L"C:\\Office\\WINWORD.EXE", true},      {L"C:\\Office\\winword.exe", true},
+      {L"C:\\Office\\WinWord.Exe", true},      {L"C:\\Office\\WINWORD", false},
+      {L"C:\\Office\\WINWORD.EXE.exe", false}, {L"C:\\Office\\MYWINWORD.EXE", false},
+      {L"C:\\WINWORD.EXE\\a.exe", false},      {L"", false},
+  };
+  for (const auto& [path, isWord] : rows) {
+    const HostProgramScope host(path);
+    EXPECT_EQ(isWord, IsWordHost()) << testing::PrintToString(std::wstring(path));
+  }
 }
 
 TEST(GetFileVersion, ReadsTheFixedRecord) {
