@@ -55,6 +55,11 @@ void CPropertySheetTabCtrl::Show(CNemUIPage& page) {
 
 bool CPropertySheetTabCtrl::CreateWindowOf(CNemUIPage& page) {
   if (!page.Create(host_.Handle())) return false;
+  // With controls that could not be filled it would fail each saving, and could never be left.
+  if (!page.IsInitialized()) {
+    page.Destroy();
+    return false;
+  }
   page.ChangeStyle(WS_BORDER | WS_DLGFRAME | WS_THICKFRAME, 0);
   page.ChangeExtendedStyle(WS_EX_CLIENTEDGE | WS_EX_WINDOWEDGE, WS_EX_CONTROLPARENT);
   page.Move(PageArea());

@@ -216,23 +216,28 @@ TEST_F(HostPage, StepsOfASelection) {
 }
 
 TEST_F(HostPage, PageWhoseStartFailsIsDestroyedAndNeverWritten) {
-  const std::function<bool(TestPage&)> failures[] = {
-      [](TestPage&) { return false; },
-      [](TestPage&) -> bool { throw std::runtime_error("test"); },
-      [](TestPage& page) {
-        DestroyWindow(page.Handle());
-        return true;
-      },
+  using Step = std::function<bool(TestPage&)>;
+  const std::pair<Step PageScript::*, Step> failures[] = {
+      {&PageScript::onInit, [](TestPage&) { return false; }},
+      {&PageScript::onInit, [](TestPage&) -> bool { throw std::runtime_error("test"); }},
+      {&PageScript::onInit,
+       [](TestPage& page) {
+         DestroyWindow(page.Handle());
+         return true;
+       }},
+      {&PageScript::onRead, [](TestPage&) { return false; }},
+      {&PageScript::onLoad, [](TestPage&) { return false; }},
   };
-  for (const auto& fail : failures) {
+  for (const auto& [step, fail] : failures) {
     TestSheet test;
     test.Properties().GraphicResolution[0].SetLong(600);
-    test.Script(0, 108).onInit = fail;
+    test.Script(0, 108).*step = fail;
     EXPECT_EQ(1, test.Drive([&](Sheet& sheet) -> SheetTask {
                        EXPECT_FALSE(sheet.SelectPage(108));
                        EXPECT_EQ(120, test.CurrentId());
                        EXPECT_FALSE(test.Page(108).IsWindow());
                        EXPECT_TRUE(test.Page(120).IsShown());
+                       EXPECT_EQ(1, VisiblePages(sheet));
                        EXPECT_EQ("0/120 load", test.log.back()) << "the old page goes on";
                        test.Page(108).value = 13;
                        sheet.PressOk();
@@ -245,11 +250,16 @@ TEST_F(HostPage, PageWhoseStartFailsIsDestroyedAndNeverWritten) {
 }
 
 TEST_F(HostPage, NextPageIsShownWhenTheFirstCannotBe) {
-  test_.Script(0, 120).onInit = [](TestPage&) { return false; };
-  Drive([&](Sheet&) -> SheetTask {
-    EXPECT_EQ(108, test_.CurrentId());
-    co_return;
-  });
+  for (const auto step : {&PageScript::onInit, &PageScript::onLoad}) {
+    TestSheet test;
+    test.Script(0, 120).*step = [](TestPage&) { return false; };
+    test.Drive([&](Sheet& sheet) -> SheetTask {
+      EXPECT_EQ(108, test.CurrentId());
+      EXPECT_FALSE(test.Page(120).IsWindow());
+      sheet.PressCancel();
+      co_return;
+    });
+  }
 }
 
 TEST_F(HostPage, WithoutAPageTheSheetStillCloses) {
