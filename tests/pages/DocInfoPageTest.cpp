@@ -4,6 +4,7 @@
 #include "pages/CDocInfoPage.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
+#include "support/HostProgramScope.h"
 #include "support/PrintText.h"
 #include "support/WordHost.h"
 
@@ -94,6 +95,14 @@ TEST_F(DocInfoPage, EnterBreaksTheLineOfSubjectAndKeywords) {
   EXPECT_EQ(L"\r\n Keywords", test_->Value(L"Keywords"));
 }
 
+TEST_F(DocInfoPage, WhatItOnlyReadsIsNotWritten) {
+  test_->Set(L"InternalUse", 0x10010);
+  const auto before = test_->AllValues();
+  ASSERT_TRUE(Open());
+  ASSERT_TRUE(test_->Save());
+  EXPECT_EQ(PageUnderTest::Values(), test_->ChangesSince(before)) << "not even the 16 bits of it";
+}
+
 // --- Programs ------------------------------------------------------------------------------------------------------
 
 TEST_F(DocInfoPage, TheProgramsThatMakeTheDocumentAreTold) {
@@ -102,6 +111,12 @@ TEST_F(DocInfoPage, TheProgramsThatMakeTheDocumentAreTold) {
   EXPECT_TRUE(host.starts_with(L"pages_tests.exe")) << testing::PrintToString(host);
   EXPECT_EQ(host + L" - NEM pdf vonder 2.10.4", Control(1074).Text());
   EXPECT_EQ(L"NEM pdf vonder", Control(1075).Text());
+}
+
+TEST_F(DocInfoPage, WithoutANameOfTheHostTheProductStandsAlone) {
+  const HostProgramScope nameless(L"");
+  ASSERT_TRUE(Open());
+  EXPECT_EQ(L"NEM pdf vonder 2.10.4", Control(1074).Text());
 }
 
 TEST_F(DocInfoPage, AnOfficeProgramIsCalledByItsName) {

@@ -1,5 +1,8 @@
+#include <set>
+
 #include "controls/CImageStatic.h"
 #include "driver/ImportPatch.h"
+#include "driver/Picture.h"
 #include "DriverLIB/MessageBoxes.h"
 #include "pages/CPaperPage.h"
 #include "PageTable.h"
@@ -239,6 +242,14 @@ class PaperPage : public testing::Test {
   const unsigned boxes_ = MessageBoxCount();
   std::unique_ptr<PageUnderTest> test_;
 };
+
+TEST_F(PaperPage, WhatItOnlyReadsIsNotWritten) {
+  Set({{L"Fields", 0x13}, {L"InternalUse", 0x10010}, {L"PrintOutput", 0x10002}});
+  const auto before = test_->AllValues();
+  ASSERT_TRUE(Open());
+  Save();
+  EXPECT_EQ(PageUnderTest::Values(), test_->ChangesSince(before)) << "not even the 16 bits of it";
+}
 
 // --- Papers --------------------------------------------------------------------------------------------------------
 
@@ -571,6 +582,17 @@ TEST_F(PaperPage, ASizeThatIsLeftChecksItsOwnMargin) {
   ExpectMargins(L"0", L"0");
 }
 
+TEST_F(PaperPage, ASizeThatIsLeftIsReplacedBeforeItsMarginIsChecked) {
+  SetMargins(125, 30);
+  ASSERT_TRUE(Open());
+  for (const int id : {IDC_PAPER_WIDTH, IDC_PAPER_HEIGHT}) {
+    TypeAndLeave(id, L"0.5");
+    ExpectPaper(kA4, L"210", L"297");
+    ExpectMargins(L"12.5", L"3");
+    ExpectScaled(L"168", L"267.3");
+  }
+}
+
 TEST_F(PaperPage, TheUserDefinedPaperHasNoRoomForAMarginUntilItsSizeIsTyped) {
   SetMargins(100, 100);
   ASSERT_TRUE(Open());
@@ -714,6 +736,21 @@ TEST_F(PaperPage, AListThatCannotBeFilledEndsTheStart) {
 TEST_F(PaperPage, PicturesAreThere) {
   ASSERT_TRUE(Open());
   for (const int id : {1162, 1246, 1247}) EXPECT_TRUE(IsPictureLoaded(id)) << id;
+}
+
+TEST_F(PaperPage, PicturesStandAsTheirPaper) {
+  ASSERT_TRUE(Open());
+  for (const int id : {1246, 1247}) {
+    CWnd(Control(id).Window()).Redraw();
+    const Picture picture = Capture(Control(id).Window());
+    std::set<int> rows, columns;  // with something of the picture
+    for (int y = 0; y < picture.height; ++y)
+      for (int x = 0; x < picture.width; ++x)
+        if (picture.At(x, y) != picture.At(0, 0)) rows.insert(y), columns.insert(x);
+    ASSERT_GT(columns.size(), 10u) << id;
+    EXPECT_EQ(id == 1246, rows.size() > columns.size()) << id;
+    EXPECT_EQ(id == 1247, rows.size() < columns.size()) << id;
+  }
 }
 
 // --- Layout of the host --------------------------------------------------------------------------------------------
