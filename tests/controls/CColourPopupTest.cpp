@@ -257,7 +257,8 @@ TEST(CColourPopup, AClickWithoutAMoveChoosesWhatItIsOn) {
   test.page.received.clear();
   test.Release(test.Inside(5));
   test.ExpectTold({kChange, kCloseUp, kOk}, kPalette[5].colour);
-  test.Open(kForeign);  // on the custom cell, whose dialog is not asked
+  test.Open(kForeign);  // on the custom cell
+  const Popups popups;  // its dialog is not asked
   test.Release(test.Inside(16));
   test.ExpectTold({kChange, kCloseUp, kOk}, kRed);
   EXPECT_EQ(kRed, test.picker->GetColour());
