@@ -858,6 +858,7 @@ TEST_F(BookmarkSheet, NoEndLeavesTheSheetLocked) {
         EXPECT_FALSE(IsLocked(sheet));
         EXPECT_EQ(victim == Victim::HiddenDialog, IsWindow(dialog_) != FALSE);
         if (victim == Victim::Dialog) {
+          EXPECT_TRUE(sheet.Control(1311).IsEnabled());
           co_await Edit(sheet);  // works again
           EXPECT_FALSE(IsLocked(sheet));
         }
