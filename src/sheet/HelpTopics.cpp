@@ -2,7 +2,7 @@
 
 namespace {
 
-// One row for both tables: they have the same keys in the same order.
+// German help has topics of its own, every other language the English ones.
 struct TopicRow {
   uint32_t key;  // a dialog id, or the id of a link control
   const wchar_t* other;

@@ -32,7 +32,7 @@
 // The two settings sets, index 0 and 1. 123 rows.
 #define NEMPDF_SETTINGS(row)                                                                                          \
   row(Used, Long, Sheet, "In set 1: other than 0 offers the tab \"e.pdf Document Properties\" and opens the sheet on it. Not read in set 0: the tab \"Basic Settings\" is always there.") \
-  row(PrintOutput, Long, Sheet, "Bit set, input only. 1 locks the target controls of the Saving page and the mail controls, and takes away the choice of the e.pdf format. 2 makes the paper page offer duplex and paper bins.") \
+  row(PrintOutput, Long, Sheet, "Bit set, input only. 1 locks the target controls of the Saving page, the actions and the mail controls, and takes away the choice of the e.pdf format. 2 makes the paper page offer duplex and paper bins.") \
   row(Fields, Long, Paper, "Bit set: which of the paper values count, as in the field mask of a device mode. 1 orientation, 2 paper size, 4 paper length, 8 paper width, 16 scale, `0x200` paper source.") \
   row(Orientation, Long, Paper, "1 portrait, 2 landscape.")                                                           \
   row(PaperSize, Long, Paper, "Paper number of the device mode, such as 1 for Letter and 9 for A4; 254 A1, 255 A0, 256 user-defined, by `PaperLength` and `PaperWidth`.") \
@@ -123,7 +123,7 @@
   row(DestinationFilenameSuffixEnabled, Long, Saving, "1 adds `DestinationFilenameSuffix` to the names of e.pdf documents.") \
   row(DestinationFilenameSuffix, Text, Saving, "Characters added to the name of an e.pdf document, at most 9 on the page.") \
   row(RegistryDevmode, Long, Saving, "Bit set: where the printer keeps the settings. 1 all applications use the same settings, 2 all instances and sessions of the calling application do.") \
-  row(InternalUse, Long, Sheet, "Bit set, input only. 1 locks the scope of the settings on the Saving page. 2 says that the host sets page layout and document information: their controls are locked. 4 hides the choice for all instances of the application. 16 forbids the choice that the calling application manages the settings.") \
+  row(InternalUse, Long, Sheet, "Bit set, input only. 1 locks the scope of the settings on the Saving page. 2 says that the host sets page layout and document information: their controls are locked; under Word the bookmark page then shows the styles of the open document. 4 hides the choice for all instances of the application. 16 forbids the choice that the calling application manages the settings.") \
   row(ApplicationDevmodeStartup, Long, Saving, "0 not offered, 1 the settings are stored permanently, 2 they are taken from the printer's set-up when the application starts.") \
   row(FormFieldsEnabled, Long, FormFields, "1 offers the conversion of form fields. Input only.")                     \
   row(ShowFormfields, Long, FormFields, "1 converts form fields.")                                                    \

@@ -1,9 +1,9 @@
 // What a control that draws itself tells a screen reader.
 //
-//   class CCockpitSquares : public CControlBar, private CAccessibleSource { ... CAccessibility accessibility_; };
+//   class CFontListBox : public CListBoxST, private CAccessibleSource { ... CAccessibility accessibility_; };
 //
-//   bool CCockpitSquares::OnWindowMessage(WindowMessage& message) {
-//     return accessibility_.OnMessage(*this, message) || DispatchMessages(kMessages, *this, message);
+//   bool CFontListBox::OnWindowMessage(WindowMessage& message) {
+//     return accessibility_.OnMessage(*this, message) || CListBoxST::OnWindowMessage(message);
 //   }
 //
 // The control answers for itself as part 0, and for its parts from 1 to PartCount(). Parts are plain: they have no

@@ -1,8 +1,8 @@
-// A control whose messages this object sees first. The object must outlive neither the control nor itself by trust: it
-// lets go when the control dies, and when the object dies before the control.
+// A control whose messages this object sees first. Object and control may end in either order: the object lets go when
+// the control dies, and at its own end when that comes first.
 //
-//   class CMyHyperLink : public CSubclassed<CStatic> { ... };
-//   link_.Attach(*this, IDC_HELP);
+//   class CImageStatic : public CSubclassed<CStatic> { ... };
+//   logo_.Attach(*this, IDC_LOGO);
 #pragma once
 
 #include "window/Controls.h"

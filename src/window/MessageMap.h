@@ -13,8 +13,8 @@
 //
 // A class that is no page looks its table up by itself, before its base class:
 //
-//   bool CCockpitSquare::OnWindowMessage(WindowMessage& message) {
-//     return DispatchMessages(kMessages, *this, message) || CSubclassed::OnWindowMessage(message);
+//   bool CPwdConfirmDialog::OnWindowMessage(WindowMessage& message) {
+//     return DispatchMessages(kMessages, *this, message) || CDialog::OnWindowMessage(message);
 //   }
 //
 // A handler takes nothing, the two arguments of the message, or the WindowMessage itself; it gives nothing or the

@@ -1,8 +1,8 @@
 // Value tables: what a list offers, as pairs of message id and stored value, ended by a row of zeros.
 //
 //   constexpr ValueRow kColorReductions[] = {
-//       {MSG_COLOR_DO_NOT_CHANGE, 0, "None"},
-//       {MSG_COLOR_REDUCE_IF_LOSS_FREE, 1, "Automatic"},
+//       {MSG_GRAPHIC_COLORS_KEEP, 0, "None"},
+//       {MSG_GRAPHIC_COLORS_AUTOMATIC, 1, "Automatic"},
 //       {},
 //   };
 #pragma once

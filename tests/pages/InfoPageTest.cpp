@@ -80,7 +80,9 @@ TEST_F(InfoPage, TheVideoIsForGermanAlone) {
     EXPECT_EQ(shown, page.Control(kVideo).IsVisible()) << language;
     SetUILanguage(shown ? kEnglish : 0x0407);  // the language page may change it
     page.Page().UpdateData(false);
-    if (!shown) EXPECT_EQ(L"https://www.nem-software.example/de/video", LinkAddress(page.Control(kVideo)));
+    if (!shown) {
+      EXPECT_EQ(L"https://www.nem-software.example/de/video", LinkAddress(page.Control(kVideo)));
+    }
     EXPECT_EQ(!shown, page.Control(kVideo).IsVisible()) << language;
   }
 }
