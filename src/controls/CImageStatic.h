@@ -3,6 +3,7 @@
 #pragma once
 
 #include "controls/ImagePlacement.h"
+#include "Pictures.h"
 #include "window/AlphaImage.h"
 #include "window/CSubclassedControl.h"
 #include "window/Gdi.h"
@@ -11,6 +12,11 @@ constexpr COLORREF kNoTransparentColor = static_cast<COLORREF>(-1);
 
 class CImageStatic : public CSubclassed<CStatic> {
  public:
+  using CSubclassed::Attach;
+  // The same, and shows a picture of the library there. False when either fails.
+  bool Attach(const CWnd& dialog, int id, const PictureNumbers& picture) {
+    return Attach(dialog, id) && SetImage(picture.bitmap, kNoTransparentColor, picture.mask);
+  }
   // Shows bitmap `bitmapId` in place of an earlier picture. With a mask its brightness is the alpha of each pixel;
   // otherwise the pixels of `transparentColor` are left out. False when there is no such bitmap: then nothing is shown.
   bool SetImage(UINT bitmapId, COLORREF transparentColor, UINT maskId = 0);
@@ -38,3 +44,14 @@ class CImageStatic : public CSubclassed<CStatic> {
   int margin_ = 0;
   bool loaded_ = false;
 };
+
+// A picture of a dialog, and the control that shows it.
+struct PictureRow {
+  int controlId;
+  PictureNumbers picture;
+};
+
+template <size_t Count>
+void AttachPictures(const CWnd& dialog, CImageStatic (&controls)[Count], const PictureRow (&rows)[Count]) {
+  for (size_t i = 0; i < Count; ++i) controls[i].Attach(dialog, rows[i].controlId, rows[i].picture);
+}

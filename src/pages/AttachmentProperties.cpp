@@ -1,17 +1,19 @@
 #include "pages/AttachmentProperties.h"
 
+#include "sheet/CNemUISettingsPage.h"
+
 void ReadAttachments(CFileAttachmentDialog& attachments, const CDialogProperties& properties, int settingsIndex) {
   attachments.embedFilenames = properties.EmbedFilenames[settingsIndex].GetString();
   ReadConfirmation(attachments, properties);
-  attachments.confirmEditable = attachments.openEditable = settingsIndex == kConfirmationSet;
+  attachments.confirmEditable = attachments.openEditable = settingsIndex == kBasicSettings;
 }
 
 void ReadConfirmation(CFileAttachmentDialog& attachments, const CDialogProperties& properties) {
-  attachments.embedfilenamesConfirmed = properties.EmbedfilenamesConfirmed[kConfirmationSet].GetLong();
-  attachments.embedfilenamesOpen = properties.EmbedfilenamesOpen[kConfirmationSet].GetLong();
+  attachments.embedfilenamesConfirmed = properties.EmbedfilenamesConfirmed[kBasicSettings].GetLong();
+  attachments.embedfilenamesOpen = properties.EmbedfilenamesOpen[kBasicSettings].GetLong();
 }
 
 void WriteConfirmation(const CFileAttachmentDialog& attachments, CDialogProperties& properties) {
-  properties.EmbedfilenamesConfirmed[kConfirmationSet].SetLong(attachments.embedfilenamesConfirmed);
-  properties.EmbedfilenamesOpen[kConfirmationSet].SetLong(attachments.embedfilenamesOpen);
+  properties.EmbedfilenamesConfirmed[kBasicSettings].SetLong(attachments.embedfilenamesConfirmed);
+  properties.EmbedfilenamesOpen[kBasicSettings].SetLong(attachments.embedfilenamesOpen);
 }

@@ -1,6 +1,5 @@
 #include "pages/CActionPage.h"
 
-#include "DriverLIB/MessageBoxes.h"
 #include "environment/FileDialog.h"
 #include "MessageIds.h"
 #include "pages/StartActions.h"
@@ -47,9 +46,8 @@ void CActionPage::DoDataExchange(CDataExchange& exchange) {
 
 // A program that is to be started and can be named has to be named.
 bool CActionPage::ValidateProgram(CDataExchange& exchange) {
-  const CWnd program = Item(IDC_ACTION_PROGRAM);
-  if (!program.IsEnabled() || !::IsWindowVisible(program.Handle()) || !program.Text().IsEmpty()) return true;
-  MsgBoxById(window_, GetMsgBoxTitle().Text(), MSG_ACTION_INVALID_PROGRAM, MB_OK | MB_ICONEXCLAMATION);
+  if (!IsMissing(IDC_ACTION_PROGRAM)) return true;
+  Tell(MSG_ACTION_INVALID_PROGRAM, MB_OK | MB_ICONEXCLAMATION);
   exchange.Fail(IDC_ACTION_PROGRAM);
   return false;
 }
@@ -75,8 +73,8 @@ void CActionPage::UpdateControls() {
 void CActionPage::ApplyViewerOverride() { Lock(viewerCheckOverride.IsSet(), {IDC_ACTION_VIEWER}); }
 
 void CActionPage::OnProgramCheck() {
-  const bool on = CButton(Item(IDC_ACTION_PROGRAM_CHECK)).IsChecked() && !programCheckOverride.IsSet();
-  for (const int id : {IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS, IDC_ACTION_BROWSE}) Item(id).Enable(on);
+  const bool on = IsChecked(IDC_ACTION_PROGRAM_CHECK) && !programCheckOverride.IsSet();
+  EnableControls({IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS, IDC_ACTION_BROWSE}, on);
   Lock(programCheckOverride.IsSet(), {IDC_ACTION_PROGRAM_CHECK});
   Lock(programOverride.IsSet(), {IDC_ACTION_BROWSE, IDC_ACTION_PROGRAM});
   Lock(parametersOverride.IsSet(), {IDC_ACTION_PARAMETERS});

@@ -18,8 +18,6 @@ class CActionPage : public CTrackedPage<ActionCockpitValues> {
   BooleanOverride programCheckOverride;
   TextOverride programOverride, parametersOverride;
 
-  bool globalTab = true;  // the page stands on the basic settings; elsewhere nothing can be set
-
  protected:
   BOOL OnInitDialog() override;
   void DoDataExchange(CDataExchange& exchange) override;

@@ -53,9 +53,9 @@ void CAttachmentsPage::DoDataExchange(CDataExchange& exchange) {
 
 void CAttachmentsPage::OnUseAttachments() {
   const bool allowed = AllowsAttachments(PdfVersionFor(*this));
-  const bool use = allowed && CButton(Item(IDC_ATTACHMENTS_USE)).IsChecked();
+  const bool use = allowed && IsChecked(IDC_ATTACHMENTS_USE);
   Item(IDC_ATTACHMENTS_USE).Enable(allowed);
-  for (const int id : {IDC_ATTACHMENTS_LIST, IDC_ATTACHMENTS_ADD, IDC_ATTACHMENTS_REMOVE}) Item(id).Enable(use);
+  EnableControls({IDC_ATTACHMENTS_LIST, IDC_ATTACHMENTS_ADD, IDC_ATTACHMENTS_REMOVE}, use);
 }
 
 void CAttachmentsPage::OnAddAttachment() {

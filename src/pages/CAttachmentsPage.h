@@ -12,9 +12,6 @@ class CAttachmentsPage : public CTrackedPage<AttachmentsCockpitValues>,
  public:
   explicit CAttachmentsPage(const PageDescription& description);
 
-  // A member that has not been read from its property yet.
-  static constexpr uint16_t kNotRead = 0xFFFF;
-
   uint16_t embedFilenamesEnabled = kNotRead;
 
  protected:

@@ -133,7 +133,7 @@ bool CBookmarkPage::LeaveEditors() {
 void CBookmarkPage::UpdateControls() {
   const BookmarkRow* const selected = SelectedRow();
   const int rows = list_.Count();
-  const bool use = CButton(Item(IDC_BOOKMARK_USE)).IsChecked();
+  const bool use = IsChecked(IDC_BOOKMARK_USE);
   const bool changeable = use && !wordMode_;
   deleteAllowed_ = changeable && selected && selected->CanRemove();
   const std::pair<int, bool> states[] = {
@@ -164,7 +164,7 @@ bool CBookmarkPage::AreAllChecked() const {
 // Once: what the user cannot do there goes, and a note says where styles are changed.
 void CBookmarkPage::ShowWordMode() {
   if (noteBox_) return;
-  for (const int id : kHiddenUnderWord) Item(id).Show(false);
+  ShowControls(kHiddenUnderWord, false);
   const RECT size = Item(IDC_BOOKMARK_NOTE_PLACE).RectIn(*this);
   const int left = Scale(kNoteLeft), top = static_cast<int>(ClientRect().bottom) * kNoteTop / 100;
   noteBox_ = std::make_unique<CTextBox>(false, false);
@@ -238,7 +238,7 @@ void CBookmarkPage::OnRemoveAllFormats() {
 }
 
 void CBookmarkPage::OnSelectAll() {
-  const bool used = CButton(Item(IDC_BOOKMARK_SELECT_ALL)).IsChecked();
+  const bool used = IsChecked(IDC_BOOKMARK_SELECT_ALL);
   {
     const FillingScope filling(*this);
     for (int row = 0; row < list_.Count(); ++row) {
@@ -280,7 +280,7 @@ bool CBookmarkPage::AcceptsName(int row, const CUString& name) {
 
 int CBookmarkPage::Tell(uint32_t messageId, UINT flags, const CUString& argument) {
   const DialogPause pause(formatDialog_.get());
-  return MsgBoxById(window_, GetMsgBoxTitle().Text(), messageId, flags, argument);
+  return CNemUIPage::Tell(messageId, flags, argument);
 }
 
 // --- Dialog ---------------------------------------------------------------------------------------------------------

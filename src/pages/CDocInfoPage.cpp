@@ -4,7 +4,6 @@
 #include "DriverLIB/MessageText.h"
 #include "environment/HostApplication.h"
 #include "MessageIds.h"
-#include "Pictures.h"
 
 namespace {
 
@@ -34,8 +33,7 @@ BOOL CDocInfoPage::OnInitDialog() {
   for (const int id : kEdits) CEdit(Item(id)).LimitText(kNoLimit);
   if (!CTrackedPage::OnInitDialog()) return FALSE;
 
-  warningSign_.Attach(*this, IDC_DOCUMENT_INFO_SIGN_WARNING);
-  warningSign_.SetImage(Pictures::kSignWarning16.bitmap, kNoTransparentColor, Pictures::kSignWarning16.mask);
+  warningSign_.Attach(*this, IDC_DOCUMENT_INFO_SIGN_WARNING, Pictures::kSignWarning16);
   return TRUE;
 }
 
@@ -55,18 +53,17 @@ void CDocInfoPage::ShowPrograms() {
   creator = creator + kProductName + L" " + kProductVersion;
   Item(IDC_DOCUMENT_INFO_CREATOR).SetText(creator.Text());
   Item(IDC_DOCUMENT_INFO_GENERATOR).SetText(kProductName);
-  for (const int id : kUnused) Item(id).Show(false);
-  for (const int id : kShown) Item(id).Show(true);
+  ShowControls(kUnused, false);
+  ShowControls(kShown, true);
 }
 
 bool CDocInfoPage::IsHostsOwn() const { return internalUse & kHostSetsProperties; }
 
 void CDocInfoPage::UpdateControls() {
   const bool open = !IsHostsOwn();
-  for (const int id : kEdits) Item(id).Enable(open);
+  EnableControls(kEdits, open);
   Item(IDC_DOCUMENT_INFO_HOST_NOTE).SetText(MessageText(MSG_DOCUMENT_INFO_HOST_NOTE, GetHostFileName()).Text());
-  Item(IDC_DOCUMENT_INFO_HOST_NOTE).Show(!open);
-  Item(IDC_DOCUMENT_INFO_SIGN_WARNING).Show(!open);
+  ShowControls({IDC_DOCUMENT_INFO_HOST_NOTE, IDC_DOCUMENT_INFO_SIGN_WARNING}, !open);
   ApplyOverrides();
 }
 

@@ -5,7 +5,6 @@
 #include "MessageIds.h"
 #include "pages/FormatAccess.h"
 #include "pages/PdfVersions.h"
-#include "Pictures.h"
 
 namespace {
 
@@ -57,10 +56,8 @@ BOOL CFormFieldsPage::OnInitDialog() {
   });
   Item(IDC_FORM_FIELDS_NOTE).SetFont(noteFont_.Get());
 
-  picture_.Attach(*this, IDC_FORM_FIELDS_PICTURE);
-  picture_.SetImage(Pictures::kForm32.bitmap, kNoTransparentColor, Pictures::kForm32.mask);
-  unavailablePicture_.Attach(*this, IDC_FORM_FIELDS_UNAVAILABLE_PICTURE);
-  unavailablePicture_.SetImage(Pictures::kFormUnavailable.bitmap, kNoTransparentColor, Pictures::kFormUnavailable.mask);
+  picture_.Attach(*this, IDC_FORM_FIELDS_PICTURE, Pictures::kForm32);
+  unavailablePicture_.Attach(*this, IDC_FORM_FIELDS_UNAVAILABLE_PICTURE, Pictures::kFormUnavailable);
   return TRUE;
 }
 
@@ -92,9 +89,9 @@ void CFormFieldsPage::UpdateControls() {
     return;
   }
   Item(IDC_FORM_FIELDS_CONVERT).Enable(MayConvert());
-  const bool converts = MayConvert() && IsOn(IDC_FORM_FIELDS_CONVERT);
-  for (const int id : kConversionControls) Item(id).Enable(converts);
-  Item(IDC_FORM_FIELDS_TEXT_UNLIMITED).Enable(converts && IsOn(IDC_FORM_FIELDS_TEXT_WIDTH));
-  const bool isUniform = converts && IsOn(IDC_FORM_FIELDS_UNIFORM_WIDTH);
-  for (const int id : kUniformWidthControls) Item(id).Enable(isUniform);
+  const bool converts = MayConvert() && IsChecked(IDC_FORM_FIELDS_CONVERT);
+  EnableControls(kConversionControls, converts);
+  Item(IDC_FORM_FIELDS_TEXT_UNLIMITED).Enable(converts && IsChecked(IDC_FORM_FIELDS_TEXT_WIDTH));
+  const bool isUniform = converts && IsChecked(IDC_FORM_FIELDS_UNIFORM_WIDTH);
+  EnableControls(kUniformWidthControls, isUniform);
 }

@@ -32,7 +32,6 @@ class CFormFieldsPage : public CTrackedPage<FormFieldsCockpitValues> {
   void ShowNoteAlone();
   void UpdateControls();
   bool MayConvert();
-  bool IsOn(int checkId) const { return CButton(Item(checkId)).IsChecked(); }
 
   GdiFont headingFont_, noteFont_;
   CImageStatic picture_, unavailablePicture_;

@@ -2,16 +2,13 @@
 
 #include <algorithm>
 #include <iterator>
-#include <span>
 
-#include "DriverLIB/MessageBoxes.h"
 #include "MessageIds.h"
 #include "pages/EmbedFilenamesAccess.h"
 #include "pages/PdfVersions.h"
 #include "pages/SecurityAccess.h"
 #include "pages/StationeryAccess.h"
 #include "pages/ZugferdAccess.h"
-#include "Pictures.h"
 #include "window/ValueScope.h"
 
 namespace {
@@ -67,8 +64,8 @@ MessageTable CFormatPage::Messages() const {
 
 void CFormatPage::ExchangeCockpitValues(const CockpitExchange& exchange, FormatCockpitValues& values) {
   exchange.Value(version, values.pdfVersion, versionOverride.IsSet());
-  exchange.Value(saveFormat, values.saveFormat, !isFirstSet);
-  exchange.Value(saveConversion, values.saveConversion, !isFirstSet);
+  exchange.Value(saveFormat, values.saveFormat, !globalTab);
+  exchange.Value(saveConversion, values.saveConversion, !globalTab);
 }
 
 void CFormatPage::TakeVersion(uint16_t value) {
@@ -84,11 +81,8 @@ BOOL CFormatPage::OnInitDialog() {
   for (const int radio : kRadios) Item(radio).Send(BM_SETDONTCLICK, TRUE);
   if (!CTrackedPage::OnInitDialog()) return FALSE;
 
-  informationSign_.Attach(*this, IDC_FORMAT_SIGN_INFORMATION);
-  informationSign_.SetImage(Pictures::kSignInformation32.bitmap, kNoTransparentColor,
-                            Pictures::kSignInformation32.mask);
-  warningSign_.Attach(*this, IDC_FORMAT_SIGN_WARNING);
-  warningSign_.SetImage(Pictures::kSignWarning32.bitmap, kNoTransparentColor, Pictures::kSignWarning32.mask);
+  informationSign_.Attach(*this, IDC_FORMAT_SIGN_INFORMATION, Pictures::kSignInformation32);
+  warningSign_.Attach(*this, IDC_FORMAT_SIGN_WARNING, Pictures::kSignWarning32);
   // One hint for all versions; it needs no warning.
   Item(IDC_FORMAT_HINT).SetText(MessageText(MSG_FORMAT_HINT_SECURITY).Text());
   informationSign_.Show(true);
@@ -143,9 +137,9 @@ void CFormatPage::OnVersionSelected() {
 
 // Whether the version that has just been chosen may stand.
 bool CFormatPage::MayTakeVersion() {
-  if (!isFirstSet && IsSpecialPdf(version)) return false;
+  if (!globalTab && IsSpecialPdf(version)) return false;
   if (!hasAddIn && RequiresTags(version)) {
-    Inform(MSG_FORMAT_NEEDS_ADD_IN);
+    Tell(MSG_FORMAT_NEEDS_ADD_IN, MB_OK | MB_ICONINFORMATION);
     return false;
   }
   return GiveUpInvoice();
@@ -155,9 +149,7 @@ bool CFormatPage::MayTakeVersion() {
 bool CFormatPage::GiveUpInvoice() {
   auto* zugferd = FindPageAs<ZugferdAccess>(*this, kZugferdPage);
   if (!zugferd || AllowsZugferd(version) || !zugferd->IsZugferdEnabled()) return true;
-  const int answer =
-      MsgBoxById(window_, GetMsgBoxTitle().Text(), MSG_FORMAT_ZUGFERD_QUESTION, MB_OKCANCEL | MB_ICONQUESTION);
-  if (answer != IDOK) return false;
+  if (Tell(MSG_FORMAT_ZUGFERD_QUESTION, MB_OKCANCEL | MB_ICONQUESTION) != IDOK) return false;
   zugferd->ClearOverrides();
   zugferd->SetZugferd(0);
   return true;
@@ -175,11 +167,11 @@ void CFormatPage::ShowDefaults(int previousVersion) {
   bool& untold = defaultsUntold_[notice - kDefaultsNotices];
   if (untold && !notice->isKnownFrom(previousVersion)) {
     untold = false;
-    Inform(notice->messageId);
+    Tell(notice->messageId, MB_OK | MB_ICONINFORMATION);
   }
   if (IsWindow() && IsPdfA(version) && stationeryUntold_ && UsesStationery()) {
     stationeryUntold_ = false;
-    Inform(MSG_FORMAT_STATIONERY_REMINDER);
+    Tell(MSG_FORMAT_STATIONERY_REMINDER, MB_OK | MB_ICONINFORMATION);
   }
 }
 
@@ -197,20 +189,15 @@ void CFormatPage::EnforceVersion() {
     if (auto* page = FindPageAs<EmbedFilenamesAccess>(*this, id)) page->SetEmbedFilenamesEnabled(0);
 }
 
-// A box before this one may have ended the page.
-void CFormatPage::Inform(uint32_t messageId) {
-  if (IsWindow()) MsgBoxById(window_, GetMsgBoxTitle().Text(), messageId, MB_OK | MB_ICONINFORMATION);
-}
-
 void CFormatPage::OnSaveFormatClicked() { saveFormat = WithSaveChoice(saveFormat, ShownSaveChoice()); }
 
 // Whatever tells a click under the box, one box is enough.
 void CFormatPage::OnEngineClicked() {
-  const bool isRtf = CButton(Item(IDC_FORMAT_ENGINE_RTF)).IsChecked();
+  const bool isRtf = IsChecked(IDC_FORMAT_ENGINE_RTF);
   saveConversion = isRtf ? 1 : 0;
   if (!isRtf || tellingOfEngine_) return;
   const ValueScope telling(tellingOfEngine_, true);
-  Inform(MSG_FORMAT_RTF_INFORMATION);
+  Tell(MSG_FORMAT_RTF_INFORMATION, MB_OK | MB_ICONINFORMATION);
 }
 
 void CFormatPage::SelectVersion() { CComboBox(Item(IDC_FORMAT_VERSION)).Select(RowOfValue(kPdfVersions, version)); }
@@ -227,7 +214,7 @@ void CFormatPage::ShowSaveChoice(SaveChoice choice) {
 
 SaveChoice CFormatPage::ShownSaveChoice() const {
   for (const SaveChoice choice : {SaveChoice::Ask, SaveChoice::EPdf})
-    if (CButton(Item(RadioOf(choice))).IsChecked()) return choice;
+    if (IsChecked(RadioOf(choice))) return choice;
   return SaveChoice::Pdf;
 }
 
@@ -239,13 +226,11 @@ void CFormatPage::ShowEngine() {
 }
 
 void CFormatPage::UpdateControls() {
-  const auto enable = [this](std::span<const int> controls, bool enabled) {
-    for (const int id : controls) Item(id).Enable(enabled);
-  };
-  enable(kAddInControls, isFirstSet);
-  enable(kEPdfControls, isFirstSet && !(printOutput & kPrintOutputWithoutEPdf) && saveFormatEPdfEnabled &&
-                            IsPlainPdf(SelectedVersion()));
-  enable(kEngineControls, isFirstSet && saveConversionEnabled && !RequiresTags(version));
+  // The settings of a document are e.pdf, which leaves the version as the one choice.
+  EnableControls(kAddInControls, globalTab);
+  EnableControls(kEPdfControls, globalTab && !(printOutput & kPrintOutputWithoutEPdf) && saveFormatEPdfEnabled &&
+                                    IsPlainPdf(SelectedVersion()));
+  EnableControls(kEngineControls, globalTab && saveConversionEnabled && !RequiresTags(version));
   ApplyOverrides();
 }
 

@@ -12,9 +12,6 @@ class CFormatPage : public CTrackedPage<FormatCockpitValues>, public FormatAcces
  public:
   using CTrackedPage::CTrackedPage;
 
-  // A member that has not been read from its property yet.
-  static constexpr uint16_t kNotRead = 0xFFFF;
-
   uint16_t printOutput = 0;
   uint16_t version = kNotRead;  // as the list shows it, unless it has no row for it
   uint16_t saveFormatEPdfEnabled = 1;
@@ -26,9 +23,7 @@ class CFormatPage : public CTrackedPage<FormatCockpitValues>, public FormatAcces
   // What an administrator has fixed.
   NumberOverride versionOverride;
 
-  // The basic settings: those of a document are e.pdf, which leaves the version as the one choice.
-  bool isFirstSet = true;
-  // Without the office add-in nothing tags a document.
+  // Without the office add-in nothing tags a document. Nothing in this library says that it is not there.
   bool hasAddIn = true;
 
  protected:
@@ -53,7 +48,6 @@ class CFormatPage : public CTrackedPage<FormatCockpitValues>, public FormatAcces
   void ShowDefaults(int previousVersion);
   bool UsesStationery();
   void EnforceVersion();
-  void Inform(uint32_t messageId);
 
   void SelectVersion();
   int SelectedVersion() const;

@@ -3,13 +3,11 @@
 #include "DriverLIB/AFile.h"
 #include "DriverLIB/Directories.h"
 #include "DriverLIB/Identity.h"
-#include "DriverLIB/MessageBoxes.h"
 #include "DriverLIB/TraceSettings.h"
 #include "environment/CBrowseForFolder.h"
 #include "environment/ProductLocations.h"
 #include "pages/CVersionInfoDialog.h"
 #include "pages/WebAddress.h"
-#include "Pictures.h"
 #include "window/CActivationContext.h"
 
 namespace {
@@ -45,8 +43,7 @@ BOOL CInfoPage::OnInitDialog() {
 
   Item(IDC_INFO_VERSION_LABEL).SetText(MessageText(MSG_INFO_VERSION_LABEL).Text());
   Item(IDC_INFO_WEB_LINK).SetText(WebAddress(MSG_INFO_PRODUCT_ADDRESS).Text());
-  logo_.Attach(*this, IDC_INFO_LOGO);
-  logo_.SetImage(Pictures::kLogo.bitmap, kNoTransparentColor, Pictures::kLogo.mask);
+  logo_.Attach(*this, IDC_INFO_LOGO, Pictures::kLogo);
 
   for (size_t i = 0; i < std::size(kLinks); ++i) {
     links_[i].Attach(*this, kLinks[i].controlId);
@@ -102,9 +99,4 @@ CUString CInfoPage::ChooseTraceFolder() {
   picker.SetTitle(MessageText(MSG_INFO_CHOOSE_FOLDER, kDefaultTraceFolder).Text());
   const CActivationScope look;
   return picker.SelectFolder() ? picker.GetFolder() : CUString(kDefaultTraceFolder);
-}
-
-// Whoever ended the page while a box was up is told nothing more.
-int CInfoPage::Tell(uint32_t messageId, UINT flags, const CUString& insert) {
-  return IsWindow() ? MsgBoxById(Handle(), GetMsgBoxTitle().Text(), messageId, flags, insert) : IDCANCEL;
 }

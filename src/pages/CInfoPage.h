@@ -24,7 +24,6 @@ class CInfoPage : public CNemUIPage {
 
   void SwitchTrace(bool enable, const CUString& folder);
   CUString ChooseTraceFolder();
-  int Tell(uint32_t messageId, UINT flags, const CUString& insert = {});
 
   CImageStatic logo_;
   CMyHyperLink links_[5];

@@ -5,9 +5,7 @@
 #include "DriverLIB/CRegistryEntry.h"
 #include "DriverLIB/Identity.h"
 #include "DriverLIB/LanguageSetting.h"
-#include "DriverLIB/MessageBoxes.h"
 #include "MessageIds.h"
-#include "Pictures.h"
 
 namespace {
 
@@ -30,12 +28,7 @@ constexpr LanguageRow kLanguages[] = {
     {IDC_LANGUAGE_FRENCH, MSG_LANGUAGE_FRENCH, MAKELANGID(LANG_FRENCH, SUBLANG_FRENCH)},
 };
 
-struct FlagRow {
-  int controlId;
-  PictureNumbers picture;
-};
-
-constexpr FlagRow kFlags[] = {
+constexpr PictureRow kFlags[] = {
     {IDC_LANGUAGE_FLAG_ENGLISH, Pictures::kFlagEnglish},
     {IDC_LANGUAGE_FLAG_GERMAN, Pictures::kFlagGerman},
     {IDC_LANGUAGE_FLAG_ARABIC, Pictures::kFlagArabic},
@@ -65,10 +58,7 @@ MessageTable CLangPage::Messages() const {
 
 BOOL CLangPage::OnInitDialog() {
   if (!CNemUIPage::OnInitDialog()) return FALSE;
-  for (size_t i = 0; i < std::size(kFlags); ++i) {
-    flags_[i].Attach(*this, kFlags[i].controlId);
-    flags_[i].SetImage(kFlags[i].picture.bitmap, kNoTransparentColor, kFlags[i].picture.mask);
-  }
+  AttachPictures(*this, flags_, kFlags);
   return TRUE;
 }
 
@@ -96,7 +86,7 @@ void CLangPage::SaveLanguage() {
   CRegistryEntry setting(kProductKey, L"LanguageID");
   if (!setting.SetRoot(HKEY_CURRENT_USER).WriteLong(chosen)) return;
   SetUILanguage(ShownLanguage(chosen));
-  MsgBoxById(Handle(), GetMsgBoxTitle().Text(), MSG_LANGUAGE_REOPEN, MB_ICONINFORMATION);
+  Tell(MSG_LANGUAGE_REOPEN, MB_ICONINFORMATION);
   RefreshLanguageTexts(GetUILanguage());
 }
 

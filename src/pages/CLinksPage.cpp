@@ -59,10 +59,9 @@ void CLinksPage::ExchangeWidth(CDataExchange& exchange) {
 }
 
 void CLinksPage::OnUseLinks() {
-  const bool use = CButton(Item(IDC_LINKS_RECOGNIZE)).IsChecked();
+  const bool use = IsChecked(IDC_LINKS_RECOGNIZE);
   const bool hasBorder =
       SelectedValue(CComboBox(Item(IDC_LINKS_BORDER)), kLinkBorders).value_or(kNoLinkBorder) != kNoLinkBorder;
   Item(IDC_LINKS_BORDER).Enable(use);
-  Item(IDC_LINKS_WIDTH).Enable(use && hasBorder);
-  Item(IDC_LINKS_COLOR).Enable(use && hasBorder);
+  EnableControls({IDC_LINKS_WIDTH, IDC_LINKS_COLOR}, use && hasBorder);
 }

@@ -12,9 +12,6 @@ class CLinksPage : public CTrackedPage<LinksCockpitValues>, public CFileAttachme
  public:
   explicit CLinksPage(const PageDescription& description);
 
-  // A member that has not been read from its property yet.
-  static constexpr uint16_t kNotRead = 0xFFFF;
-
   uint16_t useHyperlinkRecognition = 0;
   uint16_t hyperlinkBorder = 0;
   uint16_t hyperlinkBorderWidth = 0;  // hundredths of a point

@@ -39,8 +39,8 @@ void CMailPage::UpdateControls() {
 }
 
 void CMailPage::OnMailCheck() {
-  const bool on = CButton(Item(IDC_MAIL_SEND)).IsChecked();
-  for (const int id : {IDC_MAIL_IMMEDIATELY, IDC_MAIL_RECIPIENT, IDC_MAIL_SUBJECT, IDC_MAIL_NOTE}) Item(id).Enable(on);
+  const bool on = IsChecked(IDC_MAIL_SEND);
+  EnableControls({IDC_MAIL_IMMEDIATELY, IDC_MAIL_RECIPIENT, IDC_MAIL_SUBJECT, IDC_MAIL_NOTE}, on);
   ApplyOverrides();
 }
 

@@ -19,8 +19,6 @@ class CMailPage : public CTrackedPage<MailCockpitValues> {
   BooleanOverride sendImmediateOverride;
   TextOverride recipientOverride, subjectOverride, noteOverride;
 
-  bool globalTab = true;  // the page stands on the basic settings; elsewhere nothing can be set
-
  protected:
   void DoDataExchange(CDataExchange& exchange) override;
   MessageTable Messages() const override;

@@ -16,7 +16,6 @@ auto CNemUIActionPage::Bindings() const -> BindingTable {
 }
 
 void CNemUIActionPage::OnPropertiesRead() {
-  globalTab = SettingsIndex() == 0;
   startAction = static_cast<uint16_t>(StartActionProperty().GetLong() & kActionPageBits);
 }
 

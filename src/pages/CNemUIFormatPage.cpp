@@ -1,17 +1,5 @@
 #include "pages/CNemUIFormatPage.h"
 
-namespace {
-
-// The kind of file is one for all settings sets.
-constexpr int kSaveFormatSet = 0;
-
-}  // namespace
-
-CNemUIFormatPage::CNemUIFormatPage(SheetServices* sheet, const PageDescription& description, int settingsIndex)
-    : CNemUISettingsPage(sheet, description, settingsIndex) {
-  isFirstSet = settingsIndex == 0;
-}
-
 auto CNemUIFormatPage::Bindings() const -> BindingTable {
   static constexpr Binding kBindings[] = {
       BindReadOnly<&CFormatPage::printOutput, &CDialogProperties::PrintOutput>(),
@@ -23,19 +11,20 @@ auto CNemUIFormatPage::Bindings() const -> BindingTable {
   return kBindings;
 }
 
+// The kind of file is one for both tabs.
 void CNemUIFormatPage::OnPropertiesRead() {
   const CDialogProperties& properties = Sheet()->Properties();
-  saveFormatEPdfEnabled = static_cast<uint16_t>(properties.SaveFormatEPdfEnabled[kSaveFormatSet].GetLong());
-  saveFormat = isFirstSet ? StoredSaveFormat() : kSaveEPdf;
+  saveFormatEPdfEnabled = static_cast<uint16_t>(properties.SaveFormatEPdfEnabled[kBasicSettings].GetLong());
+  saveFormat = globalTab ? StoredSaveFormat() : kSaveEPdf;
   saveConversion =
       saveFormatEPdfEnabled ? static_cast<uint16_t>(properties.SaveConversion[SettingsIndex()].GetLong()) : 0;
 }
 
 void CNemUIFormatPage::OnPropertiesWritten() {
-  if (!isFirstSet) return;
+  if (!globalTab) return;
   CDialogProperties& properties = Sheet()->Properties();
-  properties.SaveFormat[kSaveFormatSet].SetLong(saveFormat);
-  properties.SaveConversion[kSaveFormatSet].SetLong(saveConversion);
+  properties.SaveFormat[kBasicSettings].SetLong(saveFormat);
+  properties.SaveConversion[kBasicSettings].SetLong(saveConversion);
 }
 
 CProperty& CNemUIFormatPage::VersionProperty() const { return Sheet()->Properties().PdfVersion[SettingsIndex()]; }
@@ -53,11 +42,11 @@ void CNemUIFormatPage::SetPdfVersion(int value) {
 
 uint16_t CNemUIFormatPage::StoredSaveFormat() const {
   const CDialogProperties& properties = Sheet()->Properties();
-  return NormalizeSaveFormat(static_cast<uint16_t>(properties.SaveFormat[kSaveFormatSet].GetLong()),
-                             properties.SaveFormatEPdfEnabled[kSaveFormatSet].GetLong() != 0, isFirstSet);
+  return NormalizeSaveFormat(static_cast<uint16_t>(properties.SaveFormat[kBasicSettings].GetLong()),
+                             properties.SaveFormatEPdfEnabled[kBasicSettings].GetLong() != 0, globalTab);
 }
 
 int CNemUIFormatPage::GetSaveFormat() {
-  if (saveFormat != kNotRead) return NormalizeSaveFormat(saveFormat, saveFormatEPdfEnabled != 0, isFirstSet);
+  if (saveFormat != kNotRead) return NormalizeSaveFormat(saveFormat, saveFormatEPdfEnabled != 0, globalTab);
   return Sheet() ? StoredSaveFormat() : 0;
 }

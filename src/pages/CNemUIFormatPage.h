@@ -5,7 +5,7 @@
 
 class CNemUIFormatPage : public CNemUISettingsPage<CFormatPage> {
  public:
-  CNemUIFormatPage(SheetServices* sheet, const PageDescription& description, int settingsIndex);
+  using CNemUISettingsPage::CNemUISettingsPage;
 
   int GetPdfVersion() override;
   void SetPdfVersion(int value) override;

@@ -19,7 +19,6 @@ auto CNemUIMailPage::Bindings() const -> BindingTable {
 }
 
 void CNemUIMailPage::OnPropertiesRead() {
-  globalTab = SettingsIndex() == 0;
   startAction = static_cast<uint16_t>(StartActionProperty().GetLong() & kMailPageBits);
 }
 

@@ -2,19 +2,10 @@
 
 namespace {
 
-// The confirmation is one for all settings sets.
-constexpr int kConfirmationSet = 0;
-
 // Hosts have several numbers for what is on.
 bool AreAlike(uint16_t left, uint16_t right) { return (left != 0) == (right != 0); }
 
 }  // namespace
-
-CNemUIPdfSecurityPage::CNemUIPdfSecurityPage(SheetServices* sheet, const PageDescription& description,
-                                             int settingsIndex)
-    : CNemUISettingsPage(sheet, description, settingsIndex) {
-  isFirstSet = settingsIndex == 0;
-}
 
 auto CNemUIPdfSecurityPage::Bindings() const -> BindingTable {
   static constexpr Binding kBindings[] = {
@@ -57,7 +48,7 @@ void CNemUIPdfSecurityPage::OnPropertiesRead() {
 // takes that over when it shows it again.
 void CNemUIPdfSecurityPage::OnPropertiesWritten() {
   if (!AreAlike(confirm, confirmExchanged_) || AreAlike(confirm, StoredConfirm())) {
-    Sheet()->Properties().EncryptPasswordsConfirmed[kConfirmationSet].SetLong(confirm);
+    Sheet()->Properties().EncryptPasswordsConfirmed[kBasicSettings].SetLong(confirm);
     confirmExchanged_ = confirm;
   }
   if (!AreAlike(passwordsVisible, passwordsVisibleExchanged_) || AreAlike(passwordsVisible, StoredPasswordsVisible())) {
@@ -73,7 +64,7 @@ void CNemUIPdfSecurityPage::RefreshSharedSwitches() {
 }
 
 uint16_t CNemUIPdfSecurityPage::StoredConfirm() const {
-  return static_cast<uint16_t>(Sheet()->Properties().EncryptPasswordsConfirmed[kConfirmationSet].GetLong());
+  return static_cast<uint16_t>(Sheet()->Properties().EncryptPasswordsConfirmed[kBasicSettings].GetLong());
 }
 
 uint16_t CNemUIPdfSecurityPage::StoredPasswordsVisible() const {

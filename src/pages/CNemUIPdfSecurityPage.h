@@ -5,7 +5,7 @@
 
 class CNemUIPdfSecurityPage : public CNemUISettingsPage<CPdfSecurityPage> {
  public:
-  CNemUIPdfSecurityPage(SheetServices* sheet, const PageDescription& description, int settingsIndex);
+  using CNemUISettingsPage::CNemUISettingsPage;
 
   void SwitchPasswordsOff() override;
 

@@ -22,7 +22,6 @@ auto CNemUIProgramPage::Bindings() const -> BindingTable {
 }
 
 void CNemUIProgramPage::OnPropertiesRead() {
-  globalTab = SettingsIndex() == 0;
   const DestinationPath target =
       SplitDestination(Sheet()->Properties().DestinationDirectoryOrFilename[SettingsIndex()].GetString());
   destinationDirectory = target.directory;

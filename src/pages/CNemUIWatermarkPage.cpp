@@ -1,11 +1,5 @@
 #include "pages/CNemUIWatermarkPage.h"
 
-namespace {
-
-constexpr int kBasicSettings = 0;
-
-}  // namespace
-
 // The colour space goes along as it was read: a page that stands behind the one for colours in the exchange of the host
 // puts its older value back, on purpose.
 auto CNemUIWatermarkPage::Bindings() const -> BindingTable {

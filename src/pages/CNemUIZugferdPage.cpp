@@ -1,10 +1,5 @@
 #include "pages/CNemUIZugferdPage.h"
 
-CNemUIZugferdPage::CNemUIZugferdPage(SheetServices* sheet, const PageDescription& description, int settingsIndex)
-    : CNemUISettingsPage(sheet, description, settingsIndex) {
-  isFirstSet = settingsIndex == 0;
-}
-
 auto CNemUIZugferdPage::Bindings() const -> BindingTable {
   static constexpr Binding kBindings[] = {
       Bind<&CZugferdPage::zugferd, &CDialogProperties::ZUGFeRD>(),

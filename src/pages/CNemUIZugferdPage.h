@@ -5,7 +5,7 @@
 
 class CNemUIZugferdPage : public CNemUISettingsPage<CZugferdPage> {
  public:
-  CNemUIZugferdPage(SheetServices* sheet, const PageDescription& description, int settingsIndex);
+  using CNemUISettingsPage::CNemUISettingsPage;
 
   // What another page sets, whether this one has been shown or not.
   void SetZugferd(int value) override;

@@ -5,7 +5,6 @@
 #include "environment/DefaultPaper.h"
 #include "environment/FindRow.h"
 #include "MessageIds.h"
-#include "Pictures.h"
 
 namespace {
 
@@ -58,6 +57,12 @@ constexpr int kLayoutControls[] = {
 constexpr int kOtherControls[] = {
     IDC_PAPER_OTHER_GROUP, IDC_PAPER_SOURCE_LABEL,    IDC_PAPER_SOURCE, IDC_PAPER_DESTINATION_LABEL,
     IDC_PAPER_DESTINATION, IDC_PAPER_OTHER_SEPARATOR, IDC_PAPER_DUPLEX, IDC_PAPER_UPPER_EDGE,
+};
+
+constexpr PictureRow kPagePictures[] = {
+    {IDC_PAPER_SIGN_WARNING, Pictures::kSignWarning16},
+    {IDC_PAPER_PICTURE_PORTRAIT, Pictures::kPortrait},
+    {IDC_PAPER_PICTURE_LANDSCAPE, Pictures::kLandscape},
 };
 
 // The number in an edit, rounded to one decimal place; 0 without one.
@@ -135,9 +140,8 @@ void CPaperPage::ExchangeCockpitValues(const CockpitExchange& exchange, PaperCoc
 
 BOOL CPaperPage::OnInitDialog() {
   if (!FillLists() || !CTrackedPage::OnInitDialog()) return FALSE;
-  if (!(printOutput & kShowsOther))
-    for (const int id : kOtherControls) Item(id).Show(false);
-  LoadPictures();
+  if (!(printOutput & kShowsOther)) ShowControls(kOtherControls, false);
+  AttachPictures(*this, pictures_, kPagePictures);
   return TRUE;
 }
 
@@ -150,22 +154,6 @@ bool CPaperPage::FillLists() const {
   return FillFromTable(CComboBox(Item(IDC_PAPER_BORDER)), kBorders) &&
          FillWithBins(CComboBox(Item(IDC_PAPER_SOURCE)), sources) &&
          FillWithBins(CComboBox(Item(IDC_PAPER_DESTINATION)), destinations);
-}
-
-void CPaperPage::LoadPictures() {
-  const struct {
-    CImageStatic& control;
-    int id;
-    PictureNumbers picture;
-  } pictures[] = {
-      {warningSign_, IDC_PAPER_SIGN_WARNING, Pictures::kSignWarning16},
-      {portraitPicture_, IDC_PAPER_PICTURE_PORTRAIT, Pictures::kPortrait},
-      {landscapePicture_, IDC_PAPER_PICTURE_LANDSCAPE, Pictures::kLandscape},
-  };
-  for (const auto& row : pictures) {
-    row.control.Attach(*this, row.id);
-    row.control.SetImage(row.picture.bitmap, kNoTransparentColor, row.picture.mask);
-  }
 }
 
 void CPaperPage::DoDataExchange(CDataExchange& exchange) {
@@ -368,12 +356,11 @@ bool CPaperPage::IsLayoutOpen() const { return !isWordHost && !(internalUse & kH
 
 void CPaperPage::UpdateControls() {
   const bool open = IsLayoutOpen();
-  for (const int id : kLayoutControls) Item(id).Enable(open);
+  EnableControls(kLayoutControls, open);
   Item(IDC_PAPER_SCALE_HEIGHT).Enable(open && !IsChecked(IDC_PAPER_KEEP_RATIO));
 
   const bool centered = IsChecked(IDC_PAPER_CENTERED);
-  Item(IDC_PAPER_MARGIN_LEFT).Enable(!centered);
-  Item(IDC_PAPER_MARGIN_TOP).Enable(!centered);
+  EnableControls({IDC_PAPER_MARGIN_LEFT, IDC_PAPER_MARGIN_TOP}, !centered);
 
   const bool printsDuplex = IsChecked(IDC_PAPER_DUPLEX);
   const CButton upperEdge(Item(IDC_PAPER_UPPER_EDGE));
@@ -381,6 +368,5 @@ void CPaperPage::UpdateControls() {
   if (!printsDuplex) upperEdge.SetCheck(false);
 
   Item(IDC_PAPER_HOST_NOTE).SetText(MessageText(MSG_PAPER_HOST_NOTE, GetHostFileName()).Text());
-  Item(IDC_PAPER_HOST_NOTE).Show(!open);
-  Item(IDC_PAPER_SIGN_WARNING).Show(!open);
+  ShowControls({IDC_PAPER_HOST_NOTE, IDC_PAPER_SIGN_WARNING}, !open);
 }

@@ -41,7 +41,6 @@ class CPaperPage : public CTrackedPage<PaperCockpitValues> {
 
  private:
   bool FillLists() const;
-  void LoadPictures();
 
   void LoadControls(CDataExchange& exchange);
   void LoadLayout(CDataExchange& exchange);
@@ -70,7 +69,6 @@ class CPaperPage : public CTrackedPage<PaperCockpitValues> {
   void UpdateControls();
 
   bool IsLayoutOpen() const;
-  bool IsChecked(int id) const { return CButton(Item(id)).IsChecked(); }
 
-  CImageStatic warningSign_, portraitPicture_, landscapePicture_;
+  CImageStatic pictures_[3];
 };

@@ -2,14 +2,11 @@
 
 #include <algorithm>
 #include <iterator>
-#include <span>
 
-#include "DriverLIB/MessageBoxes.h"
 #include "DriverLIB/Trace.h"
 #include "MessageIds.h"
 #include "pages/FormatAccess.h"
 #include "pages/PdfVersions.h"
-#include "Pictures.h"
 
 namespace {
 
@@ -22,14 +19,8 @@ constexpr uint16_t ModeOf(int radio) {
   return static_cast<uint16_t>(std::ranges::find(kModeRadios, radio) - std::begin(kModeRadios));
 }
 
-constexpr int kRadios[] = {IDC_FONTS_NONE, IDC_FONTS_ALL, IDC_FONTS_NO_STANDARD, IDC_FONTS_SELECTIVE};
 constexpr int kLists[] = {IDC_FONTS_EMBED_LABEL, IDC_FONTS_EMBED_LIST, IDC_FONTS_NEVER_LABEL, IDC_FONTS_NEVER_LIST};
 constexpr int kButtons[] = {IDC_FONTS_EXCLUDE_ALL, IDC_FONTS_EXCLUDE, IDC_FONTS_EMBED, IDC_FONTS_EMBED_ALL};
-
-struct PictureRow {
-  int controlId;
-  PictureNumbers picture;
-};
 
 constexpr PictureRow kPagePictures[] = {
     {IDC_FONTS_SIGN_INFORMATION, Pictures::kSignInformation16},
@@ -61,10 +52,7 @@ BOOL CPdfFontsPage::OnInitDialog() {
   embedList_.Attach(*this, IDC_FONTS_EMBED_LIST);
   neverList_.Attach(*this, IDC_FONTS_NEVER_LIST);
   if (!CTrackedPage::OnInitDialog()) return FALSE;
-  for (size_t i = 0; i < std::size(kPagePictures); ++i) {
-    pictures_[i].Attach(*this, kPagePictures[i].controlId);
-    pictures_[i].SetImage(kPagePictures[i].picture.bitmap, kNoTransparentColor, kPagePictures[i].picture.mask);
-  }
+  AttachPictures(*this, pictures_, kPagePictures);
   return TRUE;
 }
 
@@ -97,7 +85,7 @@ void CPdfFontsPage::SaveControls(CDataExchange& exchange) {
   }
   if (texts.AreBothTooLong()) {
     exchange.Fail(IDC_FONTS_EMBED_LIST);
-    MsgBoxById(window_, GetMsgBoxTitle().Text(), MSG_FONTS_TOO_MANY, MB_OK | MB_ICONWARNING, kFontListLimit);
+    Tell(MSG_FONTS_TOO_MANY, MB_OK | MB_ICONWARNING, kFontListLimit);
     return;
   }
   // At each saving, and OK saves twice. Outside the selective mode, where nobody reads the lists back, the second one
@@ -112,8 +100,7 @@ void CPdfFontsPage::OnModeClicked(WindowMessage& message) {
   const int radio = message.CommandId();
   if (radio != ChosenRadio() || radio == radioInForce_) return;
   const int previous = std::exchange(radioInForce_, radio);
-  if (radio != IDC_FONTS_NONE)
-    MsgBoxById(window_, GetMsgBoxTitle().Text(), MSG_FONTS_LICENCE, MB_OK | MB_ICONINFORMATION);
+  if (radio != IDC_FONTS_NONE) Tell(MSG_FONTS_LICENCE, MB_OK | MB_ICONINFORMATION);
   if (!IsWindow()) return;
   if (previous == IDC_FONTS_SELECTIVE) ReadLists();
   FillLists();
@@ -122,22 +109,19 @@ void CPdfFontsPage::OnModeClicked(WindowMessage& message) {
 
 int CPdfFontsPage::ChosenRadio() const {
   for (int id = IDC_FONTS_NONE; id <= IDC_FONTS_SELECTIVE; ++id)
-    if (CButton(Item(id)).IsChecked()) return id;
+    if (IsChecked(id)) return id;
   return IDC_FONTS_NONE;
 }
 
 bool CPdfFontsPage::MustEmbedAll() { return RequiresEmbeddedFonts(PdfVersionFor(*this)); }
 
 void CPdfFontsPage::UpdateControls() {
-  const auto enable = [this](std::span<const int> controls, bool enabled) {
-    for (const int id : controls) Item(id).Enable(enabled);
-  };
   const int radio = ChosenRadio();
   const bool isFree = !MustEmbedAll();
   const bool isSelective = radio == IDC_FONTS_SELECTIVE;
-  enable(kRadios, isFree);
-  enable(kLists, isFree && (isSelective || radio == IDC_FONTS_NO_STANDARD));
-  enable(kButtons, isFree && isSelective);
+  EnableControls(kModeRadios, isFree);
+  EnableControls(kLists, isFree && (isSelective || radio == IDC_FONTS_NO_STANDARD));
+  EnableControls(kButtons, isFree && isSelective);
   // What is embedded enlarges the file.
   Item(IDC_FONTS_SIGN_INFORMATION).Show(radio == IDC_FONTS_NONE);
   Item(IDC_FONTS_SIGN_WARNING).Show(radio != IDC_FONTS_NONE);
@@ -145,10 +129,10 @@ void CPdfFontsPage::UpdateControls() {
 }
 
 void CPdfFontsPage::ApplyOverrides() {
-  Lock(modeOverride.IsSet(), {IDC_FONTS_NONE, IDC_FONTS_ALL, IDC_FONTS_NO_STANDARD, IDC_FONTS_SELECTIVE});
-  Lock(listKindOverride.IsSet() && listOverride.IsSet(),
-       {IDC_FONTS_EMBED_LABEL, IDC_FONTS_EMBED_LIST, IDC_FONTS_NEVER_LABEL, IDC_FONTS_NEVER_LIST, IDC_FONTS_EXCLUDE,
-        IDC_FONTS_EMBED, IDC_FONTS_EMBED_ALL, IDC_FONTS_EXCLUDE_ALL});
+  Lock(modeOverride.IsSet(), kModeRadios);
+  const bool listsFixed = listKindOverride.IsSet() && listOverride.IsSet();
+  Lock(listsFixed, kLists);
+  Lock(listsFixed, kButtons);
 }
 
 // --- Lists ----------------------------------------------------------------------------------------------------------
@@ -184,8 +168,7 @@ void CPdfFontsPage::OnEmbedAll() {
 }
 
 void CPdfFontsPage::MoveSelected(FontList to) {
-  if (to == FontList::Embed && UnselectForbidden())
-    MsgBoxById(window_, GetMsgBoxTitle().Text(), MSG_FONTS_FORBIDDEN, MB_OK | MB_ICONWARNING);
+  if (to == FontList::Embed && UnselectForbidden()) Tell(MSG_FONTS_FORBIDDEN, MB_OK | MB_ICONWARNING);
   if (!IsWindow()) return;
   const CFontListBox& from = BoxOf(OtherList(to));
   for (const int row : from.SelectedRows()) fonts_.Move(from.FontOf(row), to);

@@ -14,9 +14,6 @@ class CPdfFontsPage : public CTrackedPage<FontsCockpitValues> {
  public:
   using CTrackedPage::CTrackedPage;
 
-  // A member that has not been read from its property yet.
-  static constexpr uint16_t kNotRead = 0xFFFF;
-
   uint16_t mode = kNotRead;  // 0 no fonts, 1 all, 2 selected ones, 3 all but the standard fonts
   FontListTexts texts;
 

@@ -3,7 +3,6 @@
 #include "DriverLIB/MessageText.h"
 #include "DriverLIB/Numbers.h"
 #include "MessageIds.h"
-#include "Pictures.h"
 
 namespace {
 
@@ -92,11 +91,6 @@ void WriteNumber(const NumberField& field, int number) {
   Normalize(field);
 }
 
-struct PictureRow {
-  int controlId;
-  PictureNumbers picture;
-};
-
 constexpr PictureRow kPagePictures[] = {
     {IDC_GRAPHIC_PICTURE_MINIMUM, Pictures::kPresetMinimum},      {IDC_GRAPHIC_PICTURE_SMALL, Pictures::kPresetSmall},
     {IDC_GRAPHIC_PICTURE_COMPACT, Pictures::kPresetCompact},      {IDC_GRAPHIC_PICTURE_BIG, Pictures::kPresetBig},
@@ -138,7 +132,7 @@ BOOL CPdfGraphicPage::OnInitDialog() {
     return FALSE;
   resolutionBar_.Attach(*this, IDC_GRAPHIC_RESOLUTION_BAR);
   qualityBar_.Attach(*this, IDC_GRAPHIC_QUALITY_BAR);
-  if (!CNemUIPage::OnInitDialog()) return FALSE;
+  if (!CTrackedPage::OnInitDialog()) return FALSE;
 
   boldFont_ = DeriveFont(Font(), [](LOGFONTW& font) { font.lfWeight = FW_BOLD; });
   for (const int id : kBoldCaptions) Item(id).SetFont(boldFont_.Get());
@@ -150,10 +144,7 @@ BOOL CPdfGraphicPage::OnInitDialog() {
   // The video is offered in Germany: the ids of Austria and others do not have it, though their texts are the same.
   videoLink_.Show(GetUILanguage() == MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN));
 
-  for (size_t i = 0; i < std::size(kPagePictures); ++i) {
-    pictures_[i].Attach(*this, kPagePictures[i].controlId);
-    pictures_[i].SetImage(kPagePictures[i].picture.bitmap, kNoTransparentColor, kPagePictures[i].picture.mask);
-  }
+  AttachPictures(*this, pictures_, kPagePictures);
   return TRUE;
 }
 

@@ -1,16 +1,13 @@
 #include "pages/CPdfSecurityPage.h"
 
 #include <algorithm>
-#include <span>
 
 #include "controls/LabelText.h"
-#include "DriverLIB/MessageBoxes.h"
 #include "DriverLIB/SecureWipe.h"
 #include "MessageIds.h"
 #include "pages/CPwdConfirmDialog.h"
 #include "pages/FormatAccess.h"
 #include "pages/PdfVersions.h"
-#include "Pictures.h"
 #include "window/PasswordEdit.h"
 
 namespace {
@@ -96,8 +93,7 @@ BOOL CPdfSecurityPage::OnInitDialog() {
   versionLink_.Attach(*this, IDC_SECURITY_VERSION_LINK);
   versionLink_.SetNotifyParent(true);
   versionLink_.SetUnderline(true);
-  picture_.Attach(*this, IDC_SECURITY_PICTURE);
-  picture_.SetImage(Pictures::kLock32.bitmap, kNoTransparentColor, Pictures::kLock32.mask);
+  picture_.Attach(*this, IDC_SECURITY_PICTURE, Pictures::kLock32);
   return TRUE;
 }
 
@@ -163,9 +159,8 @@ void CPdfSecurityPage::ExchangeEditingMode(CDataExchange& exchange) {
 
 void CPdfSecurityPage::RefuseEmptyPasswords(CDataExchange& exchange) {
   for (const PasswordRow& row : kPasswords) {
-    const CWnd edit = Item(row.editId);
-    if (!edit.IsEnabled() || !::IsWindowVisible(edit.Handle()) || edit.Send(WM_GETTEXTLENGTH) > 0) continue;
-    MsgBoxById(window_, GetMsgBoxTitle().Text(), row.whenEmptyId, MB_OK | MB_ICONWARNING);
+    if (!IsMissing(row.editId)) continue;
+    Tell(row.whenEmptyId, MB_OK | MB_ICONWARNING);
     return exchange.Fail(row.editId);
   }
 }
@@ -228,17 +223,14 @@ SecuritySwitches CPdfSecurityPage::ShownSwitches() const {
 
 void CPdfSecurityPage::UpdateControls() {
   const SecurityOpenings open = OpenSecurity(ShownSwitches(), PdfVersionFor(*this), saveFormatEPdfEnabled != 0);
-  const auto enable = [this](std::span<const int> controls, bool enabled) {
-    for (const int id : controls) Item(id).Enable(enabled);
-  };
   if (!open.ownerSwitch) CButton(Item(IDC_SECURITY_OWNER)).SetCheck(false);
   Item(IDC_SECURITY_OWNER).Enable(open.ownerSwitch);
-  enable(kOwnerControls, open.owner);
-  enable(kUserControls, open.user);
-  enable(kDetailedRights, open.detailedRights);
-  enable(kEditingRadios, open.editing);
+  EnableControls(kOwnerControls, open.owner);
+  EnableControls(kUserControls, open.user);
+  EnableControls(kDetailedRights, open.detailedRights);
+  EnableControls(kEditingRadios, open.editing);
   Item(IDC_SECURITY_EDITING_PASSWORD).Enable(open.editingPassword);
-  Item(IDC_SECURITY_CONFIRM).Enable(isFirstSet);
+  Item(IDC_SECURITY_CONFIRM).Enable(globalTab);
   ApplyOverrides();
 }
 

@@ -16,11 +16,7 @@ class CPdfSecurityPage : public CTrackedPage<SecurityCockpitValues>, public Secu
   // Wipes the texts that hold passwords.
   ~CPdfSecurityPage() override;
 
-  // A member that has not been read from its property yet.
-  static constexpr uint16_t kNotRead = 0xFFFF;
-
-  bool isFirstSet = true;  // the basic settings
-  uint16_t confirm = 0;    // changed passwords are typed a second time: one value for both tabs
+  uint16_t confirm = 0;  // changed passwords are typed a second time: one value for both tabs
   uint16_t userEnabled = kNotRead;
   CSecretText userPassword;
   uint16_t ownerEnabled = kNotRead;
@@ -63,7 +59,6 @@ class CPdfSecurityPage : public CTrackedPage<SecurityCockpitValues>, public Secu
   void OnEditingClicked();
   void OnPasswordEdited(WindowMessage& message);
 
-  bool IsChecked(int id) const { return CButton(Item(id)).IsChecked(); }
   SecuritySwitches ShownSwitches() const;
   void ForgetTouches();
   void ShowPasswords();

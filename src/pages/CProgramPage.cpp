@@ -1,7 +1,6 @@
 #include "pages/CProgramPage.h"
 
 #include "DriverLIB/CEPathS.h"
-#include "DriverLIB/MessageBoxes.h"
 #include "environment/CBrowseForFolder.h"
 #include "environment/FileDialog.h"
 #include "MessageIds.h"
@@ -146,12 +145,12 @@ void CProgramPage::LoadScope() {
 
 void CProgramPage::SaveScope() {
   registryDevmode = 0;
-  if (CButton(Item(IDC_SAVING_INSTANCES)).IsChecked()) registryDevmode |= kAllInstances;
-  if (CButton(Item(IDC_SAVING_ALL_APPLICATIONS)).IsChecked()) registryDevmode |= kAllApplications;
+  if (IsChecked(IDC_SAVING_INSTANCES)) registryDevmode |= kAllInstances;
+  if (IsChecked(IDC_SAVING_ALL_APPLICATIONS)) registryDevmode |= kAllApplications;
   // Any other value of the host stays.
-  if (CButton(Item(IDC_SAVING_STORE)).IsChecked())
+  if (IsChecked(IDC_SAVING_STORE))
     applicationDevmodeStartup = kStorePermanently;
-  else if (CButton(Item(IDC_SAVING_FROM_PRINTER)).IsChecked())
+  else if (IsChecked(IDC_SAVING_FROM_PRINTER))
     applicationDevmodeStartup = kFromPrinterSetup;
 }
 
@@ -171,14 +170,8 @@ bool CProgramPage::ValidateTargetFields(CDataExchange& exchange) {
   return true;
 }
 
-// Nothing stands in an edit that the user sees and can fill.
-bool CProgramPage::IsMissing(int edit) const {
-  const CWnd control = Item(edit);
-  return control.IsEnabled() && ::IsWindowVisible(control.Handle()) && control.Text().IsEmpty();
-}
-
 bool CProgramPage::Refuse(CDataExchange& exchange, int control, uint32_t messageId) {
-  MsgBoxById(window_, GetMsgBoxTitle().Text(), messageId, MB_OK | MB_ICONEXCLAMATION);
+  Tell(messageId, MB_OK | MB_ICONEXCLAMATION);
   exchange.Fail(control);
   return false;
 }
@@ -186,17 +179,13 @@ bool CProgramPage::Refuse(CDataExchange& exchange, int control, uint32_t message
 void CProgramPage::OnTargetChanged() {
   const bool fixedName = SelectedValue(CComboBox(Item(IDC_SAVING_TYPE)), kTypes) == kPredefinedName;
   const bool fixedFolder = SelectedValue(CComboBox(Item(IDC_SAVING_LOCATION)), kLocations) == kPredefinedFolder;
-  Item(IDC_SAVING_FOLDER).Enable(fixedFolder);
-  Item(IDC_SAVING_FOLDER_LABEL).Enable(fixedFolder);
-  Item(IDC_SAVING_FILE).Enable(fixedName);
-  Item(IDC_SAVING_FILE_LABEL).Enable(fixedName);
+  EnableControls({IDC_SAVING_FOLDER, IDC_SAVING_FOLDER_LABEL}, fixedFolder);
+  EnableControls({IDC_SAVING_FILE, IDC_SAVING_FILE_LABEL}, fixedName);
   Item(IDC_SAVING_BROWSE).Enable(fixedName || fixedFolder);
   ApplyOverrides();
 }
 
-void CProgramPage::OnSuffixClicked() {
-  Item(IDC_SAVING_SUFFIX).Enable(CButton(Item(IDC_SAVING_SUFFIX_CHECK)).IsChecked());
-}
+void CProgramPage::OnSuffixClicked() { Item(IDC_SAVING_SUFFIX).Enable(IsChecked(IDC_SAVING_SUFFIX_CHECK)); }
 
 // The dialogs can end the page.
 void CProgramPage::OnBrowse() {
@@ -236,7 +225,7 @@ void CProgramPage::SelectApplications(bool all) {
 }
 
 void CProgramPage::OnInstancesClicked() {
-  const bool single = !CButton(Item(IDC_SAVING_INSTANCES)).IsChecked();
+  const bool single = !IsChecked(IDC_SAVING_INSTANCES);
   SelectApplications((single && (internalUse & kNotByApplication)) || (registryDevmode & kAllApplications));
   UpdateSettingsScope();
 }
@@ -273,7 +262,7 @@ void CProgramPage::UpdateSettingsVisibility() {
   if (!Item(IDC_SAVING_ALL_APPLICATIONS).IsWindow()) return;
   const bool fromAddIn = applicationDevmodeStartup != 0;
   Item(IDC_SAVING_INSTANCES).Show(!fromAddIn && !(internalUse & kInstancesHidden));
-  for (const int id : {IDC_SAVING_ADD_IN, IDC_SAVING_STORE, IDC_SAVING_FROM_PRINTER}) Item(id).Show(fromAddIn);
+  ShowControls({IDC_SAVING_ADD_IN, IDC_SAVING_STORE, IDC_SAVING_FROM_PRINTER}, fromAddIn);
 }
 
 void CProgramPage::ApplyOverrides() {

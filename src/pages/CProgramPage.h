@@ -28,8 +28,6 @@ class CProgramPage : public CTrackedPage<SavingCockpitValues> {
   NumberOverride settingsOverride;
   TextOverride destinationOverride;
 
-  bool globalTab = true;  // the page stands on the basic settings; elsewhere nothing can be set
-
  protected:
   BOOL OnInitDialog() override;
   void DoDataExchange(CDataExchange& exchange) override;
@@ -48,7 +46,6 @@ class CProgramPage : public CTrackedPage<SavingCockpitValues> {
   void LoadScope();
   void SaveScope();
   bool ValidateTargetFields(CDataExchange& exchange);
-  bool IsMissing(int edit) const;
   bool Refuse(CDataExchange& exchange, int control, uint32_t messageId);
 
   void BrowseForFile();

@@ -3,11 +3,11 @@
 #include "DriverLIB/Identity.h"
 #include "DriverLIB/MessageBoxes.h"
 #include "MessageIds.h"
-#include "Pictures.h"
 #include "resources/ResourceIds.h"
 #include "sheet/Help.h"
 #include "window/CenterWindow.h"
 #include "window/PasswordEdit.h"
+#include "window/SmallIcon.h"
 
 namespace {
 
@@ -22,11 +22,6 @@ constexpr PasswordRow kPasswords[kPasswordCount] = {
     {IDC_CONFIRM_EDITING_PASSWORD, IDC_CONFIRM_EDITING_GOOD, IDC_CONFIRM_EDITING_BAD},
 };
 
-void ShowPicture(CImageStatic& control, const CWnd& dialog, int id, const PictureNumbers& picture) {
-  control.Attach(dialog, id);
-  control.SetImage(picture.bitmap, kNoTransparentColor, picture.mask);
-}
-
 }  // namespace
 
 CPwdConfirmDialog::CPwdConfirmDialog(const CUString& helpFile)
@@ -35,16 +30,14 @@ CPwdConfirmDialog::CPwdConfirmDialog(const CUString& helpFile)
 BOOL CPwdConfirmDialog::OnInitDialog() {
   Item(IDC_CONFIRM_EDITING_LABEL).SetText(MessageText(MSG_CONFIRM_EDITING_PASSWORD).Text());
   if (!CDialog::OnInitDialog()) return FALSE;
-  const HANDLE icon = ::LoadImageW(static_cast<HINSTANCE>(ModuleInstance()), MAKEINTRESOURCEW(IDI_PRODUCT), IMAGE_ICON,
-                                   ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED);
-  Send(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
-  ShowPicture(picture_, *this, IDC_CONFIRM_PICTURE, Pictures::kKey);
+  SetSmallIcon(*this, IDI_PRODUCT);
+  picture_.Attach(*this, IDC_CONFIRM_PICTURE, Pictures::kKey);
   ShowPasswords();
   CWnd first;
   for (const PasswordKind kind : kPasswordKinds) {
     const PasswordRow& row = kPasswords[kind];
-    ShowPicture(good_[kind], *this, row.goodId, Pictures::kMarkGood);
-    ShowPicture(bad_[kind], *this, row.badId, Pictures::kMarkBad);
+    good_[kind].Attach(*this, row.goodId, Pictures::kMarkGood);
+    bad_[kind].Attach(*this, row.badId, Pictures::kMarkBad);
     Item(row.editId).Enable(!expected[kind].IsEmpty());
     ShowMark(kind);
     if (!first.IsWindow() && !expected[kind].IsEmpty()) first = Item(row.editId);

@@ -45,7 +45,7 @@ uint16_t ReadCounter(const wchar_t* subkey, const wchar_t* value) {
 
 BOOL CStatisticsPage::OnInitDialog() {
   if (!CNemUIPage::OnInitDialog()) return FALSE;
-  for (const int id : kUnusedControls) Item(id).Show(false);
+  ShowControls(kUnusedControls, false);
   for (size_t i = 0; i < std::size(kLinks); ++i) {
     links_[i].Attach(*this, kLinks[i].controlId);
     links_[i].SetUrl(WebAddress(kLinks[i].path).Text());

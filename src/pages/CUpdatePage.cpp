@@ -4,7 +4,6 @@
 #include "DriverLIB/CRegistryEntry.h"
 #include "DriverLIB/Identity.h"
 #include "DriverLIB/InstallLocation.h"
-#include "DriverLIB/MessageBoxes.h"
 #include "DriverLIB/Trace.h"
 #include "environment/NemUpdateJob.h"
 #include "pages/WebAddress.h"
@@ -116,6 +115,7 @@ void CUpdatePage::ApplyUpdateOverrides() {
   Lock(isUpdaterMissing_ || disableManualUpdate.value == 1, {IDC_UPDATE_SEARCH});
 }
 
+// An updater that installs closes the sheet: a page that is gone has nothing to tell.
 void CUpdatePage::OnSearchClicked() {
   if (isSearching_) return;
   const ValueScope searching(isSearching_, true);
@@ -156,9 +156,4 @@ void CUpdatePage::SetJobProperties(NemUpdateJob& job) {
   job.SetProperty(L"downloadtype", L"ShowDialog");
   job.SetProperty(L"closewindows", WindowsToClose(*this).Text());
   job.SetProperty(L"msilogpath", InstallLocation().Text());
-}
-
-// An updater that installs closes the sheet: a page that is gone has nothing to tell.
-void CUpdatePage::Tell(uint32_t messageId, UINT icon, const CUString& insert) {
-  if (IsWindow()) MsgBoxById(Handle(), GetMsgBoxTitle().Text(), messageId, icon, insert);
 }

@@ -23,15 +23,12 @@ class CUpdatePage : public CNemUIPage {
   void OnSearchClicked();
   bool IsNewest();
   void SetJobProperties(NemUpdateJob& job);
-  void Tell(uint32_t messageId, UINT icon, const CUString& insert = {});
 
   void LoadSchedule();
   void SaveSchedule();
   void UpdateUpdateControls();
   void ApplyUpdateOverrides();
   void CheckUpdaterPresent();
-
-  bool IsChecked(int id) const { return CButton(Item(id)).IsChecked(); }
 
   bool isUpdaterMissing_ = true;  // when the page was last filled or left
   bool isSearching_ = false;      // the updater may let the user's clicks through meanwhile

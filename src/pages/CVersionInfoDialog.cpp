@@ -6,7 +6,6 @@
 #include "environment/HostApplication.h"
 #include "environment/ProductLocations.h"
 #include "MessageIds.h"
-#include "Pictures.h"
 #include "resources/ResourceIds.h"
 #include "window/CenterWindow.h"
 #include "window/SmallIcon.h"
@@ -55,8 +54,7 @@ INT_PTR CVersionInfoDialog::Run(HWND owner) { return DoModal(owner ? owner : ::G
 
 BOOL CVersionInfoDialog::OnInitDialog() {
   if (const BOOL result = CDialog::OnInitDialog(); !result) return result;
-  logo_.Attach(*this, IDC_VERSION_LOGO);
-  logo_.SetImage(Pictures::kLogo.bitmap, kNoTransparentColor, Pictures::kLogo.mask);
+  logo_.Attach(*this, IDC_VERSION_LOGO, Pictures::kLogo);
   for (const auto& [controlId, messageId] : kTexts) Item(controlId).SetText(MessageText(messageId).Text());
   SetText(MessageText(MSG_VERSION_TITLE).Text());
   SetSmallIcon(*this, IDI_PRODUCT);

@@ -12,7 +12,6 @@
 #include "pages/FormatAccess.h"
 #include "pages/PdfVersions.h"
 #include "pages/StationeryList.h"
-#include "Pictures.h"
 #include "window/CActivationContext.h"
 
 namespace {
@@ -74,13 +73,11 @@ BOOL CWatermarkPage::OnInitDialog() {
   ChangeExtendedStyle(0, WS_EX_ACCEPTFILES);
   if (!CTrackedPage::OnInitDialog()) return FALSE;
 
-  picture_.Attach(*this, IDC_WATERMARK_PICTURE);
-  picture_.SetImage(Pictures::kWatermark.bitmap, kNoTransparentColor, Pictures::kWatermark.mask);
+  picture_.Attach(*this, IDC_WATERMARK_PICTURE, Pictures::kWatermark);
   stationeryLink_.Attach(*this, IDC_STATIONERY_HELP_LINK);
   stationeryLink_.SetNotifyParent(true);
   stationeryLink_.SetUnderline(true);
-  if (tiffVariant)
-    for (const int id : kStationeryControls) Item(id).Show(false);
+  if (tiffVariant) ShowControls(kStationeryControls, false);
   return TRUE;
 }
 
@@ -93,8 +90,7 @@ void CWatermarkPage::DoDataExchange(CDataExchange& exchange) {
   }
   exchange.Check(IDC_WATERMARK_USE, watermarkEnabled);
   exchange.Text(IDC_WATERMARK_FILE, watermarkFilename);
-  uint16_t watermarkAsForeground = watermarkAsBackground == 0;
-  exchange.Check(IDC_WATERMARK_FOREGROUND, watermarkAsForeground);
+  exchange.CheckInverted(IDC_WATERMARK_FOREGROUND, watermarkAsBackground);
   exchange.Check(IDC_STATIONERY_USE, stationeryEnabled);
   exchange.Check(IDC_STATIONERY_FOREGROUND, stationeryAsForeground);
   if (exchange.IsLoading()) {
@@ -103,7 +99,6 @@ void CWatermarkPage::DoDataExchange(CDataExchange& exchange) {
     OnWatermarkCheck();
     return;
   }
-  watermarkAsBackground = watermarkAsForeground == 0;
   SaveStationeries();
   // All is taken over, and still refused.
   if (watermarkFilename.Length() > kMaxFile) exchange.Fail(IDC_WATERMARK_FILE);
@@ -111,8 +106,7 @@ void CWatermarkPage::DoDataExchange(CDataExchange& exchange) {
 
 // An edit that the user cannot get at just now may be empty.
 bool CWatermarkPage::HasWatermarkFile() {
-  const CWnd edit = Item(IDC_WATERMARK_FILE);
-  if (!edit.IsEnabled() || !::IsWindowVisible(edit.Handle()) || !edit.Text().IsEmpty()) return true;
+  if (!IsMissing(IDC_WATERMARK_FILE)) return true;
   Tell(GetMsgBoxTitle().Text(), MessageText(MSG_WATERMARK_INVALID_FILE), MB_ICONEXCLAMATION);
   return false;
 }
@@ -141,24 +135,22 @@ void CWatermarkPage::SaveStationeries() {
 // --- What is enabled ------------------------------------------------------------------------------------------------
 
 void CWatermarkPage::OnWatermarkCheck() {
-  const bool on = CButton(Item(IDC_WATERMARK_USE)).IsChecked();
-  for (const int id : {IDC_WATERMARK_FILE, IDC_WATERMARK_BROWSE, IDC_WATERMARK_FOREGROUND}) Item(id).Enable(on);
+  const bool on = IsChecked(IDC_WATERMARK_USE);
+  EnableControls({IDC_WATERMARK_FILE, IDC_WATERMARK_BROWSE, IDC_WATERMARK_FOREGROUND}, on);
   ApplyOverrides();
 }
 
 // A version without stationery closes the group; the choice itself stays as it is.
 void CWatermarkPage::OnStationeryCheck() {
   const bool allowed = AllowsStationery(PdfVersionFor(*this));
-  const CButton use(Item(IDC_STATIONERY_USE));
-  use.Enable(allowed);
-  EnableStationeryControls(allowed && use.IsChecked());
+  Item(IDC_STATIONERY_USE).Enable(allowed);
+  EnableStationeryControls(allowed && IsChecked(IDC_STATIONERY_USE));
 }
 
 void CWatermarkPage::EnableStationeryControls(bool enable) {
-  for (const int id : {IDC_STATIONERY_ADD, IDC_STATIONERY_LIST, IDC_STATIONERY_FOREGROUND}) Item(id).Enable(enable);
+  EnableControls({IDC_STATIONERY_ADD, IDC_STATIONERY_LIST, IDC_STATIONERY_FOREGROUND}, enable);
   const bool hasRows = list_.Count() > 0;
-  for (const int id : {IDC_STATIONERY_PROPERTIES, IDC_STATIONERY_DISPLAY, IDC_STATIONERY_DELETE})
-    Item(id).Enable(enable && hasRows);
+  EnableControls({IDC_STATIONERY_PROPERTIES, IDC_STATIONERY_DISPLAY, IDC_STATIONERY_DELETE}, enable && hasRows);
   ApplyOverrides();
 }
 

@@ -1,7 +1,5 @@
 #include "pages/CZugferdPage.h"
 
-#include <span>
-
 #include "DriverLIB/InstallLocation.h"
 #include "DriverLIB/MessageBoxes.h"
 #include "environment/DroppedFiles.h"
@@ -78,6 +76,7 @@ void CZugferdPage::DoDataExchange(CDataExchange& exchange) {
   exchange.Check(IDC_ZUGFERD_CREATE, zugferd);
   exchange.Check(IDC_ZUGFERD_DELETE, deleteAfterEmbedding);
   exchange.Check(IDC_ZUGFERD_SHOW, showAfterCreation);
+  // A method that no radio shows is stored as one that has not been read.
   exchange.Radio(IDC_ZUGFERD_FROM_FILE, IDC_ZUGFERD_FROM_CONTENT, creationMethod, kNotRead);
   ExchangeXmlFile(exchange);
   if (exchange.IsLoading()) UpdateControls();
@@ -92,7 +91,7 @@ void CZugferdPage::ExchangeXmlFile(const CDataExchange& exchange) {
 }
 
 void CZugferdPage::OnCreateInvoice() {
-  zugferd = CButton(Item(IDC_ZUGFERD_CREATE)).IsChecked() ? 1 : 0;
+  zugferd = IsChecked(IDC_ZUGFERD_CREATE) ? 1 : 0;
   if (zugferd) RequirePdfA3();
   UpdateControls();
 }
@@ -103,16 +102,14 @@ void CZugferdPage::RequirePdfA3() {
   if (format && !AllowsZugferd(format->GetPdfVersion())) format->SetPdfVersion(kZugferdPdfVersion);
 }
 
-void CZugferdPage::OnDeleteAfterEmbedding() {
-  deleteAfterEmbedding = CButton(Item(IDC_ZUGFERD_DELETE)).IsChecked() ? 1 : 0;
-}
+void CZugferdPage::OnDeleteAfterEmbedding() { deleteAfterEmbedding = IsChecked(IDC_ZUGFERD_DELETE) ? 1 : 0; }
 
-void CZugferdPage::OnShowAfterCreation() { showAfterCreation = CButton(Item(IDC_ZUGFERD_SHOW)).IsChecked() ? 1 : 0; }
+void CZugferdPage::OnShowAfterCreation() { showAfterCreation = IsChecked(IDC_ZUGFERD_SHOW) ? 1 : 0; }
 
 void CZugferdPage::OnCreationMethod() {
-  if (CButton(Item(IDC_ZUGFERD_FROM_FILE)).IsChecked())
+  if (IsChecked(IDC_ZUGFERD_FROM_FILE))
     creationMethod = kFromFile;
-  else if (CButton(Item(IDC_ZUGFERD_FROM_CONTENT)).IsChecked())
+  else if (IsChecked(IDC_ZUGFERD_FROM_CONTENT))
     creationMethod = kFromContent;
   else
     return;
@@ -146,13 +143,11 @@ void CZugferdPage::OnDropFiles(WPARAM record, LPARAM) {
 }
 
 void CZugferdPage::UpdateControls() {
-  const auto enable = [this](std::span<const int> controls, bool enabled) {
-    for (const int id : controls) Item(id).Enable(enabled);
-  };
   const bool on = zugferd != 0;
-  Item(IDC_ZUGFERD_CREATE).Enable(isFirstSet);
-  enable(kMethodControls, on);
-  enable(kFileControls, on && creationMethod == kFromFile);
+  // The invoice is switched on in the basic settings alone.
+  Item(IDC_ZUGFERD_CREATE).Enable(globalTab);
+  EnableControls(kMethodControls, on);
+  EnableControls(kFileControls, on && creationMethod == kFromFile);
   Item(IDC_ZUGFERD_SHOW).Enable(on && creationMethod == kFromContent);
   ApplyOverrides();
 }

@@ -10,9 +10,6 @@ class CZugferdPage : public CTrackedPage<ZugferdCockpitValues>, public ZugferdAc
  public:
   using CTrackedPage::CTrackedPage;
 
-  // A member that has not been read from its property yet; also stored for a creation method that no radio shows.
-  static constexpr uint16_t kNotRead = 0xFFFF;
-
   uint16_t zugferd = kNotRead;
   uint16_t deleteAfterEmbedding = kNotRead;
   uint16_t showAfterCreation = kNotRead;
@@ -24,9 +21,6 @@ class CZugferdPage : public CTrackedPage<ZugferdCockpitValues>, public ZugferdAc
   NumberOverride creationMethodOverride;
   BooleanOverride deleteOverride;
   TextOverride xmlOverride;
-
-  // The invoice is switched on in the basic settings alone.
-  bool isFirstSet = true;
 
   void ClearOverrides() override;
   // The link opens a manual in place of the help.

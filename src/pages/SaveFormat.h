@@ -10,9 +10,9 @@ constexpr uint16_t kSaveAsk = 0x100;
 enum class SaveChoice { Pdf, EPdf, Ask };
 
 // What a stored value means. Without the e.pdf format only a PDF is left; document settings always have a format.
-constexpr uint16_t NormalizeSaveFormat(uint16_t format, bool ePdfEnabled, bool isFirstSet) {
+constexpr uint16_t NormalizeSaveFormat(uint16_t format, bool ePdfEnabled, bool globalTab) {
   if (!ePdfEnabled) format = static_cast<uint16_t>(format & ~(kSaveEPdf | kSaveAsk));
-  return format == 0 && (!ePdfEnabled || !isFirstSet) ? kSavePdf : format;
+  return format == 0 && (!ePdfEnabled || !globalTab) ? kSavePdf : format;
 }
 
 // The choice that shows a value. Nothing chosen yet means to ask.

@@ -1,10 +1,12 @@
 #include "sheet/CNemUIGlobalSettingsPage.h"
 
+#include "sheet/CNemUISettingsPage.h"
+
 CNemUIGlobalSettingsPage::CNemUIGlobalSettingsPage(SheetServices* sheet, const PageDescription& description,
                                                    int settingsIndex, PageCatalogue catalogue)
     : CGlobalSettingsPage(description), sheet_(sheet) {
   for (const PageCatalogueRow& row : catalogue) {
-    const PageFactory create = settingsIndex == 0 ? row.onBasicSettings : row.onDocumentProperties;
+    const PageFactory create = settingsIndex == kBasicSettings ? row.onBasicSettings : row.onDocumentProperties;
     if (create) AddChild(create(sheet, row.description, settingsIndex));
   }
 }

@@ -1,7 +1,6 @@
 #include "sheet/CNemUIPage.h"
 
 #include "DriverLIB/MessageBoxes.h"
-#include "DriverLIB/MessageText.h"
 #include "DriverLIB/NEMPrintMemoryException.h"
 #include "DriverLIB/Trace.h"
 #include "MessageIds.h"
@@ -82,9 +81,26 @@ void CNemUIPage::EnableAll(bool enable) const {
   for (CWnd control = FirstChild(); control.Handle(); control = control.Next()) control.Enable(enable);
 }
 
-void CNemUIPage::Lock(bool fixed, std::initializer_list<int> controls) const {
-  if (!fixed) return;
-  for (const int id : controls) Item(id).Enable(false);
+void CNemUIPage::EnableControls(std::span<const int> controls, bool enable) const {
+  for (const int id : controls) Item(id).Enable(enable);
+}
+
+void CNemUIPage::ShowControls(std::span<const int> controls, bool show) const {
+  for (const int id : controls) Item(id).Show(show);
+}
+
+void CNemUIPage::Lock(bool fixed, std::span<const int> controls) const {
+  if (fixed) EnableControls(controls, false);
+}
+
+bool CNemUIPage::IsMissing(int edit) const {
+  const CWnd control = Item(edit);
+  return control.IsEnabled() && ::IsWindowVisible(control.Handle()) && control.Send(WM_GETTEXTLENGTH) == 0;
+}
+
+int CNemUIPage::TellWith(uint32_t messageId, UINT flags, const MessageInserts& inserts) {
+  if (!IsWindow()) return IDCANCEL;
+  return MsgBoxByIdV(window_, ModuleInstance(), GetMsgBoxTitle().Text(), messageId, flags, inserts);
 }
 
 bool CNemUIPage::OnSetActive() {

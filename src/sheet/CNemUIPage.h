@@ -4,15 +4,17 @@
 #pragma once
 
 #include <initializer_list>
+#include <span>
 
 #include "controls/CMyHyperLink.h"
-#include "DriverLIB/CUString.h"
+#include "DriverLIB/MessageText.h"
 #include "sheet/PageDescription.h"
+#include "window/Controls.h"
 #include "window/CPropertyPage.h"
 
 // A link or another control of a page asks for help on the control with the id in the first argument. It is sent to
 // the page alone: to a sheet the same number means something else.
-constexpr UINT kShowHelpForControlMessage = 0x465;
+constexpr UINT kShowHelpForControlMessage = kLinkClickedMessage;
 
 class CNemUIPage : public CPropertyPage {
  public:
@@ -49,6 +51,12 @@ class CNemUIPage : public CPropertyPage {
 
   // The page serves the sister product, which makes TIFF files. Nothing in this library sets it.
   bool tiffVariant = false;
+  // The page stands for the basic settings, not for those of a document. A page that has a placeholder on the tab of
+  // the document keeps to it as well: what it holds cannot be set there.
+  bool globalTab = true;
+
+  // A number that has not been read from its property yet.
+  static constexpr uint16_t kNotRead = 0xFFFF;
 
  protected:
   BOOL OnInitDialog() override;
@@ -64,13 +72,35 @@ class CNemUIPage : public CPropertyPage {
   void SetLoaded() { loaded_ = true; }
   // Null for a page that stands alone.
   CNemUIPage* Host() const { return host_; }
+  bool IsChecked(int id) const { return CButton(Item(id)).IsChecked(); }
+  // Nothing stands in an edit that the user sees and can fill.
+  bool IsMissing(int edit) const;
   // Enables or disables each control of the page.
   void EnableAll(bool enable) const;
-  // Disables what an administrator has fixed: the last step of each rule about what is enabled.
-  void Lock(bool fixed, std::initializer_list<int> controls) const;
+  void EnableControls(std::span<const int> controls, bool enable) const;
+  void EnableControls(std::initializer_list<int> controls, bool enable) const {
+    EnableControls(std::span(controls.begin(), controls.size()), enable);
+  }
+  void ShowControls(std::span<const int> controls, bool show) const;
+  void ShowControls(std::initializer_list<int> controls, bool show) const {
+    ShowControls(std::span(controls.begin(), controls.size()), show);
+  }
+  // Disables the controls where the condition holds, above all where an administrator has fixed what they set: the last
+  // step of each rule about what is enabled.
+  void Lock(bool fixed, std::span<const int> controls) const;
+  void Lock(bool fixed, std::initializer_list<int> controls) const {
+    Lock(fixed, std::span(controls.begin(), controls.size()));
+  }
+  // A box over the page, under the title of its boxes. Whoever ended the page while another one was up is told nothing
+  // more: the answer is then IDCANCEL.
+  template <class... Values>
+  int Tell(uint32_t messageId, UINT flags, const Values&... inserts) {
+    return TellWith(messageId, flags, MessageInserts(inserts...));
+  }
 
  private:
   bool SaveControls();
+  int TellWith(uint32_t messageId, UINT flags, const MessageInserts& inserts);
 
   const PageDescription description_;
   const CUString title_;

@@ -9,6 +9,9 @@
 #include "sheet/PropertyBinding.h"
 #include "sheet/SheetServices.h"
 
+// The settings set of the tab for basic settings. What is one for both tabs stands in it.
+constexpr int kBasicSettings = 0;
+
 template <class Logic>
 class CNemUISettingsPage : public Logic {
  public:
@@ -17,7 +20,9 @@ class CNemUISettingsPage : public Logic {
 
   // Without a sheet the page has no properties, and its property exchange fails.
   CNemUISettingsPage(SheetServices* sheet, const PageDescription& description, int settingsIndex)
-      : Logic(description), sheet_(sheet), settingsIndex_(settingsIndex) {}
+      : Logic(description), sheet_(sheet), settingsIndex_(settingsIndex) {
+    this->globalTab = settingsIndex == kBasicSettings;
+  }
 
   CUString GetHelpFilename() override { return sheet_ ? sheet_->GetHelpFilename() : CUString(); }
   CUString GetMsgBoxTitle() override { return sheet_ ? sheet_->GetMsgBoxTitle() : CUString(); }

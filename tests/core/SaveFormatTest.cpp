@@ -10,13 +10,13 @@ TEST(SaveFormat, WithoutEPdfOnlyAPdfIsLeft) {
     uint16_t stored, result;
   } rows[] = {{0, 1}, {1, 1}, {2, 1}, {3, 1}, {0x100, 1}, {0x102, 1}, {0x103, 1}, {4, 4}, {0x106, 4}};
   for (const auto& row : rows)
-    for (const bool isFirstSet : {true, false})
-      EXPECT_EQ(row.result, NormalizeSaveFormat(row.stored, false, isFirstSet)) << row.stored << isFirstSet;
+    for (const bool globalTab : {true, false})
+      EXPECT_EQ(row.result, NormalizeSaveFormat(row.stored, false, globalTab)) << row.stored << globalTab;
 }
 
 TEST(SaveFormat, WithEPdfTheValueStands) {
   for (const uint16_t stored : {1, 2, 3, 4, 0x100, 0x102, 0x103, 0xFFFE})
-    for (const bool isFirstSet : {true, false}) EXPECT_EQ(stored, NormalizeSaveFormat(stored, true, isFirstSet));
+    for (const bool globalTab : {true, false}) EXPECT_EQ(stored, NormalizeSaveFormat(stored, true, globalTab));
 }
 
 TEST(SaveFormat, DocumentSettingsAlwaysHaveOne) {
