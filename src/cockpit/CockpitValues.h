@@ -79,8 +79,15 @@ struct FormatCockpitValues {
   uint16_t saveConversion = 0;
 };
 
-// One bit set for two pages. Each reads and sets its own bits and leaves the other's as they are: the action page 1, 4
-// and 8, the mail page 2.
+// The bits of the start action. Two pages have them: each reads and sets its own and leaves the other's as they are.
+constexpr uint16_t kStartViewer = 1;
+constexpr uint16_t kSendByMail = 2;
+constexpr uint16_t kStartProgram = 4;
+constexpr uint16_t kStartProgramBefore = 8;  // offered where TIFF files are made; kept and handed on
+
+constexpr uint16_t kActionPageBits = kStartViewer | kStartProgram | kStartProgramBefore;
+constexpr uint16_t kMailPageBits = kSendByMail;
+
 struct ActionCockpitValues {
   uint16_t startAction = 0;
 };

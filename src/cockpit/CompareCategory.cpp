@@ -15,9 +15,6 @@ int Count(const Record& baseline, const Record& current) {
   return ((baseline.*Group.*Fields != current.*Group.*Fields ? 1 : 0) + ...);
 }
 
-// The bits of the start action.
-constexpr uint16_t kOpenReader = 1, kSendMail = 2, kStartProgram = 4;
-
 template <uint16_t Bit>
 int CountBit(const Record& baseline, const Record& current) {
   return (baseline.action.startAction & Bit) != (current.action.startAction & Bit) ? 1 : 0;
@@ -68,8 +65,8 @@ using Appearance = AppearanceCockpitValues;
 using Colors = FormFieldsColorCockpitValues;
 using DocInfo = DocInfoCockpitValues;
 
-// Not compared, on purpose: the border colours of text fields and dropdown lists, bit 8 of the start action, the save
-// format, and how a ZUGFeRD invoice is made.
+// Not compared, on purpose: the border colours of text fields and dropdown lists, the last bit of the start action, the
+// save format, and how a ZUGFeRD invoice is made.
 constexpr ItemRow kItems[] = {
     {1, MSG_COCKPIT_PDF_SIZE,
      Count<&Record::graphic, &Graphic::resolution, &Graphic::compressMethod, &Graphic::jpegQuality,
@@ -94,9 +91,9 @@ constexpr ItemRow kItems[] = {
      Count<&Record::saving, &SavingCockpitValues::saveAction, &SavingCockpitValues::fileExistsAction>},
     {10, MSG_COCKPIT_PDF_FORMAT, Count<&Record::format, &FormatCockpitValues::pdfVersion>},
     {10, MSG_COCKPIT_CONVERSION_ENGINE, Count<&Record::format, &FormatCockpitValues::saveConversion>},
-    {11, MSG_COCKPIT_DEFAULT_READER, CountBit<kOpenReader>},
+    {11, MSG_COCKPIT_DEFAULT_READER, CountBit<kStartViewer>},
     {11, MSG_COCKPIT_ADDITIONAL_PROGRAM, CountBit<kStartProgram>},
-    {12, MSG_COCKPIT_MAIL, CountBit<kSendMail>},
+    {12, MSG_COCKPIT_MAIL, CountBit<kSendByMail>},
     {13, MSG_COCKPIT_COLORSPACE, Count<&Record::colors, &ColorsCockpitValues::colorspace>},
     {14, MSG_COCKPIT_ZUGFERD, Count<&Record::zugferd, &ZugferdCockpitValues::zugferd>},
     {15, MSG_COCKPIT_FORM_FIELDS, Count<&Record::formFields, &FormFieldsCockpitValues::showFormfields>},

@@ -10,7 +10,7 @@ class CActionPage : public CTrackedPage<ActionCockpitValues> {
   using CTrackedPage::CTrackedPage;
 
   uint16_t printOutput = 0;
-  uint16_t startAction = 0;  // the bits of this page (pages/StartActions.h)
+  uint16_t startAction = 0;  // the bits of this page (cockpit/CockpitValues.h)
   CUString startProgram, startProgramParameters;
 
   // What an administrator has fixed.

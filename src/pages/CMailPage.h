@@ -10,7 +10,7 @@ class CMailPage : public CTrackedPage<MailCockpitValues> {
   using CTrackedPage::CTrackedPage;
 
   uint16_t printOutput = 0;
-  uint16_t startAction = 0;  // the bit of this page (pages/StartActions.h)
+  uint16_t startAction = 0;  // the bit of this page (cockpit/CockpitValues.h)
   uint16_t mailSendImmediate = 0;
   CUString mailRecipient, mailSubject, mailNotetext;
 

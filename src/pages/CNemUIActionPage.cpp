@@ -16,10 +16,9 @@ auto CNemUIActionPage::Bindings() const -> BindingTable {
 }
 
 void CNemUIActionPage::OnPropertiesRead() {
-  startAction = static_cast<uint16_t>(StartActionProperty().GetLong() & kActionPageBits);
+  startAction = ReadStartActions(Sheet()->Properties(), SettingsIndex(), kActionPageBits);
 }
 
 void CNemUIActionPage::OnPropertiesWritten() {
-  CProperty& property = StartActionProperty();
-  property.SetLong(WithStartActions(property.GetLong(), kActionPageBits, startAction));
+  WriteStartActions(Sheet()->Properties(), SettingsIndex(), kActionPageBits, startAction);
 }

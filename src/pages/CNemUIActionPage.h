@@ -11,7 +11,4 @@ class CNemUIActionPage : public CNemUISettingsPage<CActionPage> {
   BindingTable Bindings() const override;
   void OnPropertiesRead() override;
   void OnPropertiesWritten() override;
-
- private:
-  CProperty& StartActionProperty() const { return Sheet()->Properties().StartAction[SettingsIndex()]; }
 };

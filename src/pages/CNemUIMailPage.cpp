@@ -19,10 +19,9 @@ auto CNemUIMailPage::Bindings() const -> BindingTable {
 }
 
 void CNemUIMailPage::OnPropertiesRead() {
-  startAction = static_cast<uint16_t>(StartActionProperty().GetLong() & kMailPageBits);
+  startAction = ReadStartActions(Sheet()->Properties(), SettingsIndex(), kMailPageBits);
 }
 
 void CNemUIMailPage::OnPropertiesWritten() {
-  CProperty& property = StartActionProperty();
-  property.SetLong(WithStartActions(property.GetLong(), kMailPageBits, startAction));
+  WriteStartActions(Sheet()->Properties(), SettingsIndex(), kMailPageBits, startAction);
 }

@@ -11,7 +11,4 @@ class CNemUIMailPage : public CNemUISettingsPage<CMailPage> {
   BindingTable Bindings() const override;
   void OnPropertiesRead() override;
   void OnPropertiesWritten() override;
-
- private:
-  CProperty& StartActionProperty() const { return Sheet()->Properties().StartAction[SettingsIndex()]; }
 };

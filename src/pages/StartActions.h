@@ -1,17 +1,21 @@
-// The bits of StartAction. Two pages share the property: each owns some of them and leaves the others as they are.
+// The property StartAction, which two pages share: each exchanges the bits that are its own (cockpit/CockpitValues.h).
 #pragma once
 
 #include <cstdint>
 
-constexpr uint16_t kStartViewer = 1;
-constexpr uint16_t kSendByMail = 2;
-constexpr uint16_t kStartProgram = 4;
-constexpr uint16_t kStartProgramBefore = 8;  // offered where TIFF files are made; kept and handed on
-
-constexpr uint16_t kActionPageBits = kStartViewer | kStartProgram | kStartProgramBefore;
-constexpr uint16_t kMailPageBits = kSendByMail;
+#include "cockpit/CockpitValues.h"
+#include "ui/CDialogProperties.h"
 
 // A stored value with a page's own bits in it.
 constexpr int32_t WithStartActions(int32_t stored, uint16_t ownBits, uint16_t actions) {
   return (stored & ~int32_t{ownBits}) | (actions & ownBits);
+}
+
+inline uint16_t ReadStartActions(const CDialogProperties& properties, int settingsIndex, uint16_t ownBits) {
+  return static_cast<uint16_t>(properties.StartAction[settingsIndex].GetLong() & ownBits);
+}
+
+inline void WriteStartActions(CDialogProperties& properties, int settingsIndex, uint16_t ownBits, uint16_t actions) {
+  CProperty& stored = properties.StartAction[settingsIndex];
+  stored.SetLong(WithStartActions(stored.GetLong(), ownBits, actions));
 }
