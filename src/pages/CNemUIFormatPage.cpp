@@ -1,9 +1,11 @@
 #include "pages/CNemUIFormatPage.h"
 
+// The kind of file is one for both tabs.
 auto CNemUIFormatPage::Bindings() const -> BindingTable {
   static constexpr Binding kBindings[] = {
       BindReadOnly<&CFormatPage::printOutput, &CDialogProperties::PrintOutput>(),
       Bind<&CFormatPage::version, &CDialogProperties::PdfVersion>(),
+      BindReadOnly<&CFormatPage::saveFormatEPdfEnabled, &CDialogProperties::SaveFormatEPdfEnabled, kBasicSettings>(),
       BindReadOnly<&CFormatPage::saveConversionEnabled, &CDialogProperties::SaveConversionEnabled>(),
       BindReadOnly<&CFormatPage::stationeryEnabled, &CDialogProperties::StationeryEnabled>(),
       BindOverride<&CFormatPage::versionOverride, &AdminSettings::PdfVersion_Override>(),
@@ -11,10 +13,8 @@ auto CNemUIFormatPage::Bindings() const -> BindingTable {
   return kBindings;
 }
 
-// The kind of file is one for both tabs.
 void CNemUIFormatPage::OnPropertiesRead() {
   const CDialogProperties& properties = Sheet()->Properties();
-  saveFormatEPdfEnabled = static_cast<uint16_t>(properties.SaveFormatEPdfEnabled[kBasicSettings].GetLong());
   saveFormat = globalTab ? StoredSaveFormat() : kSaveEPdf;
   saveConversion =
       saveFormatEPdfEnabled ? static_cast<uint16_t>(properties.SaveConversion[SettingsIndex()].GetLong()) : 0;

@@ -72,27 +72,19 @@ void ReadOverride(PageOf<Member>& page, const CDialogProperties& properties, int
 
 }  // namespace property_binding
 
-// Read from and written to the set that the page edits.
-template <auto Member, auto Property>
+// Read from and written to the set that the page edits, or one that is fixed whichever tab the page stands on.
+template <auto Member, auto Property, int SettingsSet = property_binding::kPagesOwnSet>
 constexpr auto Bind() {
-  namespace binding = property_binding;
-  return PropertyBinding<binding::PageOf<Member>>{&binding::Read<Member, Property, binding::kPagesOwnSet>,
-                                                  &binding::Write<Member, Property, binding::kPagesOwnSet>};
-}
-
-// The same with a set that is fixed whichever tab the page stands on.
-template <auto Member, auto Property, int SettingsSet>
-constexpr auto BindInSet() {
   namespace binding = property_binding;
   return PropertyBinding<binding::PageOf<Member>>{&binding::Read<Member, Property, SettingsSet>,
                                                   &binding::Write<Member, Property, SettingsSet>};
 }
 
 // Read, never written.
-template <auto Member, auto Property>
+template <auto Member, auto Property, int SettingsSet = property_binding::kPagesOwnSet>
 constexpr auto BindReadOnly() {
   namespace binding = property_binding;
-  return PropertyBinding<binding::PageOf<Member>>{&binding::Read<Member, Property, binding::kPagesOwnSet>, nullptr};
+  return PropertyBinding<binding::PageOf<Member>>{&binding::Read<Member, Property, SettingsSet>, nullptr};
 }
 
 // What an administrator has fixed.

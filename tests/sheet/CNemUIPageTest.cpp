@@ -324,7 +324,7 @@ constexpr PropertyBinding<GlueLogic> kBindings[] = {
     Bind<&GlueLogic::scale, &CDialogProperties::Scale>(),
     Bind<&GlueLogic::watermark, &CDialogProperties::WatermarkFilename>(),
     BindReadOnly<&GlueLogic::readOnly, &CDialogProperties::Used>(),
-    BindInSet<&GlueLogic::fixed, &CDialogProperties::GraphicResolution, 0>(),
+    Bind<&GlueLogic::fixed, &CDialogProperties::GraphicResolution, 0>(),
     BindOverride<&GlueLogic::resolutionOverride, &AdminSettings::GraphicResolution_Override>(),
     BindOverride<&GlueLogic::authorOverride, &AdminSettings::Author_Override>(),
 };
