@@ -2,7 +2,7 @@
 
 #include "environment/FileDialog.h"
 #include "MessageIds.h"
-#include "pages/StartActions.h"
+#include "pages/HostBits.h"
 #include "window/CActivationContext.h"
 
 namespace {
@@ -10,8 +10,6 @@ namespace {
 // Characters.
 constexpr int kProgramLimit = 209;
 constexpr int kParametersLimit = 49;
-
-constexpr uint16_t kPrintOutputWithoutActions = 1;
 
 }  // namespace
 
@@ -64,9 +62,8 @@ void CActionPage::UpdateControls() {
   if (globalTab) EnableAll(true);
   ApplyViewerOverride();
   OnProgramCheck();
-  Lock(printOutput & kPrintOutputWithoutActions,
-       {IDC_ACTION_VIEWER, IDC_ACTION_PROGRAM_CHECK, IDC_ACTION_BROWSE, IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS_LABEL,
-        IDC_ACTION_PARAMETERS});
+  Lock(printOutput & kHostHandlesOutput, {IDC_ACTION_VIEWER, IDC_ACTION_PROGRAM_CHECK, IDC_ACTION_BROWSE,
+                                          IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS_LABEL, IDC_ACTION_PARAMETERS});
   if (!globalTab) EnableAll(false);
 }
 

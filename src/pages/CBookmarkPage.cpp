@@ -7,12 +7,12 @@
 #include "environment/HostApplication.h"
 #include "MessageIds.h"
 #include "pages/BookmarkNames.h"
+#include "pages/HostBits.h"
 #include "pages/OutlineTexts.h"
 
 namespace {
 
-constexpr uint16_t kHostSetsDocument = 2;  // bit of `internalUse`
-constexpr int kStandardRows = 3;           // the formats that are always there, outside Word
+constexpr int kStandardRows = 3;  // the formats that are always there, outside Word
 
 // Pixels at 96 dpi, and per cent of the page's height.
 constexpr int kNoteLeft = 20, kNoteTop = 70;

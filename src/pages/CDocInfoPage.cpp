@@ -4,10 +4,9 @@
 #include "DriverLIB/MessageText.h"
 #include "environment/HostApplication.h"
 #include "MessageIds.h"
+#include "pages/HostBits.h"
 
 namespace {
-
-constexpr uint16_t kHostSetsProperties = 2;  // of internalUse
 
 // The largest limit that an edit can have.
 constexpr int kNoLimit = 0;
@@ -57,7 +56,7 @@ void CDocInfoPage::ShowPrograms() {
   ShowControls(kShown, true);
 }
 
-bool CDocInfoPage::IsHostsOwn() const { return internalUse & kHostSetsProperties; }
+bool CDocInfoPage::IsHostsOwn() const { return internalUse & kHostSetsDocument; }
 
 void CDocInfoPage::UpdateControls() {
   const bool open = !IsHostsOwn();

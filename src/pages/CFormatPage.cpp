@@ -5,6 +5,7 @@
 
 #include "MessageIds.h"
 #include "pages/EmbedFilenamesAccess.h"
+#include "pages/HostBits.h"
 #include "pages/PdfVersions.h"
 #include "pages/SecurityAccess.h"
 #include "pages/StationeryAccess.h"
@@ -12,8 +13,6 @@
 #include "window/ValueScope.h"
 
 namespace {
-
-constexpr uint16_t kPrintOutputWithoutEPdf = 1;
 
 // All below the version: settings for the office add-in, and so of new documents alone.
 constexpr int kAddInControls[] = {IDC_FORMAT_ADD_IN_FEATURES, IDC_FORMAT_SEPARATOR};
@@ -228,7 +227,7 @@ void CFormatPage::ShowEngine() {
 void CFormatPage::UpdateControls() {
   // The settings of a document are e.pdf, which leaves the version as the one choice.
   EnableControls(kAddInControls, globalTab);
-  EnableControls(kEPdfControls, globalTab && !(printOutput & kPrintOutputWithoutEPdf) && saveFormatEPdfEnabled &&
+  EnableControls(kEPdfControls, globalTab && !(printOutput & kHostHandlesOutput) && saveFormatEPdfEnabled &&
                                     IsPlainPdf(SelectedVersion()));
   EnableControls(kEngineControls, globalTab && saveConversionEnabled && !RequiresTags(version));
   ApplyOverrides();

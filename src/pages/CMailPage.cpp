@@ -1,12 +1,6 @@
 #include "pages/CMailPage.h"
 
-#include "pages/StartActions.h"
-
-namespace {
-
-constexpr uint16_t kPrintOutputWithoutMail = 1;
-
-}  // namespace
+#include "pages/HostBits.h"
 
 MessageTable CMailPage::Messages() const {
   static constexpr MessageRow kMessages[] = {
@@ -31,7 +25,7 @@ void CMailPage::DoDataExchange(CDataExchange& exchange) {
 void CMailPage::UpdateControls() {
   if (globalTab) EnableAll(true);
   OnMailCheck();
-  Lock(printOutput & kPrintOutputWithoutMail,
+  Lock(printOutput & kHostHandlesOutput,
        {IDC_MAIL_SEND, IDC_MAIL_IMMEDIATELY, IDC_MAIL_RECIPIENT_LABEL, IDC_MAIL_SUBJECT_LABEL, IDC_MAIL_NOTE_LABEL,
         IDC_MAIL_RECIPIENT, IDC_MAIL_SUBJECT, IDC_MAIL_NOTE});
   if (!globalTab) EnableAll(false);

@@ -5,11 +5,9 @@
 #include "environment/DefaultPaper.h"
 #include "environment/FindRow.h"
 #include "MessageIds.h"
+#include "pages/HostBits.h"
 
 namespace {
-
-constexpr uint16_t kHostSetsLayout = 2;  // of internalUse
-constexpr uint16_t kShowsOther = 2;      // of printOutput
 
 // Hundredths of a point.
 constexpr ValueRow kBorders[] = {
@@ -140,7 +138,7 @@ void CPaperPage::ExchangeCockpitValues(const CockpitExchange& exchange, PaperCoc
 
 BOOL CPaperPage::OnInitDialog() {
   if (!FillLists() || !CTrackedPage::OnInitDialog()) return FALSE;
-  if (!(printOutput & kShowsOther)) ShowControls(kOtherControls, false);
+  if (!(printOutput & kShowsDuplexAndBins)) ShowControls(kOtherControls, false);
   AttachPictures(*this, pictures_, kPagePictures);
   return TRUE;
 }
@@ -352,7 +350,7 @@ void CPaperPage::ShowScaledHeight() {
   ShowNumber(*this, IDC_PAPER_SCALED_HEIGHT, height);
 }
 
-bool CPaperPage::IsLayoutOpen() const { return !isWordHost && !(internalUse & kHostSetsLayout); }
+bool CPaperPage::IsLayoutOpen() const { return !isWordHost && !(internalUse & kHostSetsDocument); }
 
 void CPaperPage::UpdateControls() {
   const bool open = IsLayoutOpen();

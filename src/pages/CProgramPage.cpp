@@ -5,6 +5,7 @@
 #include "environment/FileDialog.h"
 #include "MessageIds.h"
 #include "pages/DestinationPath.h"
+#include "pages/HostBits.h"
 #include "window/CActivationContext.h"
 
 namespace {
@@ -45,16 +46,9 @@ constexpr int kSuffixLimit = 9;
 constexpr int kCheckedCharacters = 1024;
 constexpr size_t kChosenPathRoom = 512;
 
-constexpr uint16_t kPrintOutputWithoutTarget = 1;
-
 // Bits of registryDevmode.
 constexpr uint32_t kAllApplications = 1;
 constexpr uint32_t kAllInstances = 2;
-
-// Bits of internalUse.
-constexpr uint16_t kScopeLocked = 1;
-constexpr uint16_t kInstancesHidden = 4;
-constexpr uint16_t kNotByApplication = 16;
 
 constexpr uint16_t kStorePermanently = 1;
 constexpr uint16_t kFromPrinterSetup = 2;
@@ -237,7 +231,7 @@ void CProgramPage::UpdateControls() {
   OnSuffixClicked();
   // The added characters have a meaning for e.pdf documents only.
   Lock(!saveFormatEPdfEnabled, {IDC_SAVING_SUFFIX_CHECK, IDC_SAVING_SUFFIX});
-  Lock(printOutput & kPrintOutputWithoutTarget,
+  Lock(printOutput & kHostHandlesOutput,
        {IDC_SAVING_TYPE, IDC_SAVING_LOCATION, IDC_SAVING_FOLDER_LABEL, IDC_SAVING_FOLDER, IDC_SAVING_FILE_LABEL,
         IDC_SAVING_FILE, IDC_SAVING_BROWSE, IDC_SAVING_FILE_EXISTS_LABEL, IDC_SAVING_FILE_EXISTS,
         IDC_SAVING_SUFFIX_CHECK, IDC_SAVING_SUFFIX});
