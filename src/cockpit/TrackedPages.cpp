@@ -1,5 +1,7 @@
 #include "cockpit/TrackedPages.h"
 
+#include "sheet/PageNumbers.h"
+
 namespace {
 
 template <auto Group>
@@ -22,16 +24,24 @@ constexpr TrackedPage Track(int pageId) {
 }
 
 constexpr TrackedPage kPages[] = {
-    Track<&CCockpitSettings::graphic>(108),         Track<&CCockpitSettings::paper>(100),
-    Track<&CCockpitSettings::appearance>(109),      Track<&CCockpitSettings::fonts>(110),
-    Track<&CCockpitSettings::watermark>(101),       Track<&CCockpitSettings::links>(113),
-    Track<&CCockpitSettings::attachments>(114),     Track<&CCockpitSettings::zugferd>(112),
-    Track<&CCockpitSettings::bookmark>(119),        Track<&CCockpitSettings::saving>(103),
-    Track<&CCockpitSettings::format>(118),          Track<&CCockpitSettings::action>(102),
-    Track<&CCockpitSettings::action>(104),  // mail: its bits of the same set
-    Track<&CCockpitSettings::colors>(111),          Track<&CCockpitSettings::formFields>(115),
-    Track<&CCockpitSettings::formFieldsColor>(116), Track<&CCockpitSettings::security>(117),
-    Track<&CCockpitSettings::docInfo>(105),
+    Track<&CCockpitSettings::graphic>(kGraphicPage),
+    Track<&CCockpitSettings::paper>(kPaperPage),
+    Track<&CCockpitSettings::appearance>(kAppearancePage),
+    Track<&CCockpitSettings::fonts>(kFontsPage),
+    Track<&CCockpitSettings::watermark>(kWatermarkPage),
+    Track<&CCockpitSettings::links>(kLinksPage),
+    Track<&CCockpitSettings::attachments>(kAttachmentsPage),
+    Track<&CCockpitSettings::zugferd>(kZugferdPage),
+    Track<&CCockpitSettings::bookmark>(kBookmarkPage),
+    Track<&CCockpitSettings::saving>(kSavingPage),
+    Track<&CCockpitSettings::format>(kFormatPage),
+    Track<&CCockpitSettings::action>(kActionPage),
+    Track<&CCockpitSettings::action>(kMailPage),  // mail: its bits of the same set
+    Track<&CCockpitSettings::colors>(kColorsPage),
+    Track<&CCockpitSettings::formFields>(kFormFieldsPage),
+    Track<&CCockpitSettings::formFieldsColor>(kFormFieldsColorPage),
+    Track<&CCockpitSettings::security>(kSecurityPage),
+    Track<&CCockpitSettings::docInfo>(kDocInfoPage),
 };
 
 }  // namespace

@@ -1,8 +1,7 @@
 // What other pages ask of the attachments page and of the links page: both hold the switch for file attachments.
 #pragma once
 
-constexpr int kLinksPage = 113;
-constexpr int kAttachmentsPage = 114;
+#include "sheet/PageNumbers.h"
 
 class EmbedFilenamesAccess {
  public:

@@ -2,8 +2,7 @@
 #pragma once
 
 #include "pages/FindPageAs.h"
-
-constexpr int kFormatPage = 118;
+#include "sheet/PageNumbers.h"
 
 class FormatAccess {
  public:
@@ -11,7 +10,7 @@ class FormatAccess {
   virtual int GetPdfVersion() = 0;
   // Takes a version as if it had been loaded: page, list and property of the page's settings set have it.
   virtual void SetPdfVersion(int version) = 0;
-  // The save format, normalised (pages/SaveFormat.h).
+  // The save format, normalised (pages/SaveFormat.h). No page of this library asks for it yet.
   virtual int GetSaveFormat() = 0;
 
  protected:

@@ -1,7 +1,7 @@
 // What other pages ask of the security page, whether it has been shown or not.
 #pragma once
 
-constexpr int kSecurityPage = 117;
+#include "sheet/PageNumbers.h"
 
 class SecurityAccess {
  public:

@@ -1,7 +1,7 @@
 // What other pages ask of the watermark page, whether it has been shown or not.
 #pragma once
 
-constexpr int kWatermarkPage = 101;
+#include "sheet/PageNumbers.h"
 
 class StationeryAccess {
  public:

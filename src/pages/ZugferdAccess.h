@@ -1,7 +1,7 @@
 // What other pages ask of the ZUGFeRD page, whether it has been shown or not.
 #pragma once
 
-constexpr int kZugferdPage = 112;
+#include "sheet/PageNumbers.h"
 
 class ZugferdAccess {
  public:

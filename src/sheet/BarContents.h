@@ -22,7 +22,3 @@ std::span<const BarFolderRow> BarFolders();
 
 // Page numbers in the order in which the tab control holds the pages; the first that exists is shown first.
 std::span<const int> TabOrder();
-
-// The commands of the bar are the page numbers of this range.
-constexpr int kFirstPageId = 100;
-constexpr int kLastPageId = 123;

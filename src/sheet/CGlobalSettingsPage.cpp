@@ -3,6 +3,7 @@
 #include "DriverLIB/MessageText.h"
 #include "resources/ResourceIds.h"
 #include "sheet/BarContents.h"
+#include "sheet/PageNumbers.h"
 
 namespace {
 

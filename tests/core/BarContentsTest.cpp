@@ -9,6 +9,7 @@
 #include <vector>
 
 #include "MessageIds.h"
+#include "sheet/PageNumbers.h"
 
 namespace {
 

@@ -16,7 +16,7 @@ const std::wstring k49(49, L'x');
 
 const PageTable kTable = {
     .name = "Action",
-    .pageId = 102,
+    .pageId = kActionPage,
     .helpLink = IDC_ACTION_HELP_LINK,
     .rows =
         {
@@ -72,7 +72,7 @@ class ActionPage : public testing::Test {
   const std::vector<int> kWithoutProgram{IDC_ACTION_VIEWER, IDC_ACTION_PROGRAM_CHECK, IDC_ACTION_PARAMETERS_LABEL};
   CActivationScope look_;
   Popups popups_;
-  PageUnderTest test_{102};
+  PageUnderTest test_{kActionPage};
 };
 
 TEST_F(ActionPage, ShowsTheCaptionOfTheViewer) {
@@ -106,7 +106,7 @@ TEST_F(ActionPage, TheProgramsFieldsAreClosedAtFirstWithoutIt) {
 TEST_F(ActionPage, AFixedCheckClosesItAndTheFieldsWhateverItShows) {
   for (const int32_t fixed : {0, 1, kUnsetNumber}) {
     for (const int32_t actions : {0, 4}) {
-      PageUnderTest test(102);
+      PageUnderTest test(kActionPage);
       test.Set(L"StartAction", actions);
       test.Admin().StartActionProgramCheck_Override = fixed;
       ASSERT_TRUE(test.Open());
@@ -132,7 +132,7 @@ TEST_F(ActionPage, WhatIsFixedStaysClosedWhenTheProgramIsChecked) {
 
 TEST_F(ActionPage, WithoutAFileThereIsNothingToStart) {
   for (const int32_t output : {1, 3, 0x10001}) {
-    PageUnderTest test(102);
+    PageUnderTest test(kActionPage);
     test.Set(L"PrintOutput", output);
     test.Set(L"StartAction", 7);
     const auto before = test.AllValues();
@@ -201,7 +201,7 @@ TEST_F(ActionPage, AnEmptyProgramOfAPageThatIsNotSeenIsLetPass) {
 TEST_F(ActionPage, TextsThatAreTooLongKeepTheUserWithoutABox) {
   const std::wstring program = k209 + L"q", parameters = k49 + L"y";
   for (const bool both : {false, true}) {
-    PageUnderTest test(102);
+    PageUnderTest test(kActionPage);
     test.Set(L"StartAction", 5);
     test.Set(L"StartProgram", both ? program : k209);
     test.Set(L"StartProgramParameters", parameters);
@@ -232,7 +232,7 @@ TEST_F(ActionPage, TheCockpitGetsTheBitsOfThisPageAlone) {
 TEST_F(ActionPage, TheCockpitSetsWhatIsNotFixed) {
   for (const bool viewerFixed : {false, true}) {
     for (const bool programFixed : {false, true}) {
-      PageUnderTest test(102);
+      PageUnderTest test(kActionPage);
       test.Set(L"StartAction", 2);
       test.Set(L"StartProgram", kProgram);
       if (viewerFixed) test.Admin().StartActionViewerCheck_Override = 0;

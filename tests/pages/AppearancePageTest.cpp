@@ -9,7 +9,7 @@ using Values = AppearanceCockpitValues;
 
 const PageTable kTable = {
     .name = "Appearance",
-    .pageId = 109,
+    .pageId = kAppearancePage,
     .helpLink = IDC_APPEARANCE_HELP_LINK,
     .rows =
         {
@@ -67,12 +67,12 @@ class AppearancePage : public testing::Test {
  protected:
   bool FullScreenModeIsEnabled() { return test_.Control(IDC_APPEARANCE_FULL_SCREEN).IsEnabled(); }
 
-  PageUnderTest test_{109};
+  PageUnderTest test_{kAppearancePage};
 };
 
 TEST_F(AppearancePage, FullScreenModeIsOpenForFullScreenAlone) {
   for (int mode = 0; mode <= 4; ++mode) {
-    PageUnderTest test(109);
+    PageUnderTest test(kAppearancePage);
     test.Set(L"OpenMode", mode);
     ASSERT_TRUE(test.Open());
     EXPECT_EQ(mode == 3, test.Control(IDC_APPEARANCE_FULL_SCREEN).IsEnabled()) << mode;

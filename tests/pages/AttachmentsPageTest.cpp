@@ -19,7 +19,7 @@ constexpr wchar_t kMissing[] = L"C:\\not there\\a.doc";
 
 const PageTable kTable = {
     .name = "Attachments",
-    .pageId = 114,
+    .pageId = kAttachmentsPage,
     .rows = {CheckBox(L"EmbedFilenamesEnabled", IDC_ATTACHMENTS_USE)
                  .Given({{L"EmbedFilenames", L"\"C:\\not there\\a.doc\""}})
                  .Tracked<&AttachmentsCockpitValues::embedFilenamesEnabled>()},
@@ -66,8 +66,8 @@ class AttachmentsPage : public testing::Test {
   // The format page of the same tab, with this version.
   void AddFormatPage(int version) {
     test.Set(L"PdfVersion", version);
-    format_ = MakeCataloguePage(&test.Sheet(), 118, 0);
-    test.Sheet().pages[118] = format_.get();
+    format_ = MakeCataloguePage(&test.Sheet(), kFormatPage, 0);
+    test.Sheet().pages[kFormatPage] = format_.get();
   }
   // A double click as the mouse makes it, at a point of the list.
   void DoubleClick(POINT point) {
@@ -90,7 +90,7 @@ class AttachmentsPage : public testing::Test {
   const std::wstring path1_ = FullPath(first_), path2_ = FullPath(second_);
   Popups popups_;
   std::unique_ptr<CNemUIPage> format_;
-  PageUnderTest test{114};
+  PageUnderTest test{kAttachmentsPage};
 };
 
 }  // namespace
@@ -212,7 +212,7 @@ TEST_F(AttachmentsPage, ConfirmationIsChosenFromItsRows) {
 TEST_F(AttachmentsPage, StoredConfirmationIsShownAndAnUnknownOneIsTheFirst) {
   const std::pair<int, int> rows[] = {{0, 0}, {1, 1}, {2, 2}, {3, 0}, {-1, 0}, {65537, 0}};
   for (const auto& [stored, row] : rows) {
-    PageUnderTest page(114);
+    PageUnderTest page(kAttachmentsPage);
     page.Set(L"EmbedfilenamesConfirmed", stored);
     ASSERT_TRUE(page.Open());
     EXPECT_EQ(row, page.Control(IDC_ATTACHMENTS_CONFIRM).SelectedRow()) << stored;
@@ -235,7 +235,7 @@ TEST_F(AttachmentsPage, WithoutAConfirmationSavingFailsAndGoesOn) {
 
 TEST_F(AttachmentsPage, OpeningIsAnyNumberAndSavedAsOneOrNone) {
   for (const int stored : {0, 1, 7}) {
-    PageUnderTest page(114);
+    PageUnderTest page(kAttachmentsPage);
     page.Set(L"EmbedfilenamesOpen", stored);
     ASSERT_TRUE(page.Open());
     EXPECT_EQ(stored != 0, page.Control(IDC_ATTACHMENTS_SHOW).IsChecked());
@@ -248,7 +248,7 @@ TEST_F(AttachmentsPage, OpeningIsAnyNumberAndSavedAsOneOrNone) {
 }
 
 TEST_F(AttachmentsPage, TheDocumentShowsThemAsTheBasicSettingsHaveThemAndLeavesThemAlone) {
-  PageUnderTest page(114, 1);
+  PageUnderTest page(kAttachmentsPage, 1);
   CDialogProperties& properties = page.Sheet().properties;
   properties.EmbedfilenamesConfirmed[1].SetLong(1);
   properties.EmbedfilenamesConfirmed[0].SetLong(2);
@@ -287,11 +287,11 @@ TEST_F(AttachmentsPage, TheSwitchOpensTheList) {
 
 TEST_F(AttachmentsPage, VersionsThatAllowNoAttachmentsCloseEverything) {
   for (const int version : {0, 13, 14, 18, 99, 100, 101, 102, 103, 104, 105, 106, 107, 200}) {
-    PageUnderTest page(114);
+    PageUnderTest page(kAttachmentsPage);
     page.Set(L"PdfVersion", version);
     page.Set(L"EmbedFilenamesEnabled", 1);
-    const auto format = MakeCataloguePage(&page.Sheet(), 118, 0);
-    page.Sheet().pages[118] = format.get();
+    const auto format = MakeCataloguePage(&page.Sheet(), kFormatPage, 0);
+    page.Sheet().pages[kFormatPage] = format.get();
     ASSERT_TRUE(page.Open());
     const bool allowed = version < 100 || version > 104;
     for (const int id : {IDC_ATTACHMENTS_USE, IDC_ATTACHMENTS_LIST, IDC_ATTACHMENTS_ADD, IDC_ATTACHMENTS_REMOVE})
@@ -408,7 +408,7 @@ TEST_F(AttachmentsPage, FilesAreAcceptedFromTheStart) {
 
 TEST_F(AttachmentsPage, DroppedFilesAreAddedInOrder) {
   for (const int target : {IDC_ATTACHMENTS_LIST, IDC_ATTACHMENTS_GROUP}) {
-    PageUnderTest page(114);
+    PageUnderTest page(kAttachmentsPage);
     page.Set(L"EmbedFilenamesEnabled", 1);
     ASSERT_TRUE(page.Open());
     DropOn(page.Page().Handle(), target, {path2_, L"C:\\b.pdf", path1_});
@@ -546,9 +546,9 @@ TEST_F(AttachmentsPage, ASwitchSetLaterIsShownWithItsRules) {
 
 TEST_F(AttachmentsPage, TheFormatPageSwitchesBothPagesOff) {
   AddFormatPage(17);
-  const auto links = MakeCataloguePage(&test.Sheet(), 113, 0);
-  test.Sheet().pages[113] = links.get();
-  test.Sheet().pages[114] = &test.Page();
+  const auto links = MakeCataloguePage(&test.Sheet(), kLinksPage, 0);
+  test.Sheet().pages[kLinksPage] = links.get();
+  test.Sheet().pages[kAttachmentsPage] = &test.Page();
   Open(Quoted(path1_));
   links->ReadProperties();
   test.Set(L"PdfVersion", 102);
@@ -560,8 +560,8 @@ TEST_F(AttachmentsPage, TheFormatPageSwitchesBothPagesOff) {
 }
 
 TEST_F(AttachmentsPage, TheLinksPageHearsOfTheSwitch) {
-  const auto links = MakeCataloguePage(&test.Sheet(), 113, 0);
-  test.Sheet().pages[113] = links.get();
+  const auto links = MakeCataloguePage(&test.Sheet(), kLinksPage, 0);
+  test.Sheet().pages[kLinksPage] = links.get();
   const auto& switchOfLinks = dynamic_cast<CLinksPage&>(*links).embedFilenamesEnabled;
   Open(Quoted(path1_));
   links->ReadProperties();
@@ -576,8 +576,8 @@ TEST_F(AttachmentsPage, TheLinksPageHearsOfTheSwitch) {
 }
 
 TEST_F(AttachmentsPage, TheLinksPageHearsWhatTheCockpitRestores) {
-  const auto links = MakeCataloguePage(&test.Sheet(), 113, 0);
-  test.Sheet().pages[113] = links.get();
+  const auto links = MakeCataloguePage(&test.Sheet(), kLinksPage, 0);
+  test.Sheet().pages[kLinksPage] = links.get();
   test.Set(L"EmbedFilenamesEnabled", 1);
   links->ReadProperties();
   Page().SetCockpitValues({.embedFilenamesEnabled = 0});

@@ -8,7 +8,7 @@
 
 namespace {
 
-constexpr int kPageId = 119;
+constexpr int kPageId = kBookmarkPage;
 
 // Three headings, which no host has to give.
 constexpr wchar_t kHeadings[] =

@@ -6,7 +6,7 @@ namespace {
 
 const PageTable kTable = {
     .name = "Colors",
-    .pageId = 111,
+    .pageId = kColorsPage,
     .helpLink = IDC_COLORS_HELP_LINK,
     .rows = {Radios(L"Colorspace", {IDC_COLORS_RGB, IDC_COLORS_CMYK})
                  .Stores({{2, L"", 1}, {-1, L"", 1}, {65536, L"0", 0}})
@@ -17,7 +17,7 @@ const PageTableEntry entry(kTable);
 
 TEST(ColorsPage, EveryValueOfTheOverrideLocks) {
   for (const auto& [value, open] : {std::pair{kUnsetNumber, true}, {0, false}, {1, false}, {kUnsetBoolean, false}}) {
-    PageUnderTest test(111);
+    PageUnderTest test(kColorsPage);
     test.Admin().Colorspace_Override = value;
     ASSERT_TRUE(test.Open());
     EXPECT_EQ(open, test.Control(IDC_COLORS_RGB).IsEnabled()) << value;
@@ -26,7 +26,7 @@ TEST(ColorsPage, EveryValueOfTheOverrideLocks) {
 }
 
 TEST(ColorsPage, AValueOfNeitherKindIsStoredAsCmykUnderAnOverrideToo) {
-  PageUnderTest test(111);
+  PageUnderTest test(kColorsPage);
   test.Set(L"Colorspace", 2);
   test.Admin().Colorspace_Override = 0;
   ASSERT_TRUE(test.Open());
@@ -38,7 +38,7 @@ TEST(ColorsPage, AValueOfNeitherKindIsStoredAsCmykUnderAnOverrideToo) {
 
 // A radio that gets the keyboard may take itself for chosen.
 TEST(ColorsPage, TheKeyboardAloneChoosesNothing) {
-  PageUnderTest test(111);
+  PageUnderTest test(kColorsPage);
   test.Set(L"Colorspace", 1);
   ASSERT_TRUE(test.Open());
   test.Control(IDC_COLORS_HELP_LINK).Focus();

@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kPageId = 105;
+constexpr int kPageId = kDocInfoPage;
 
 using Values = DocInfoCockpitValues;
 

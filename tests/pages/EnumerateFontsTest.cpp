@@ -137,7 +137,7 @@ TEST_F(EnumerateFontsTest, TheFontOfTheDeviceContextStays) {
 }
 
 TEST_F(EnumerateFontsTest, ThePageListsThem) {
-  PageUnderTest test(110);
+  PageUnderTest test(kFontsPage);
   test.Set(L"FontsEmbedded", 2);
   ASSERT_TRUE(test.Open());
   const auto ours = [&](int list) {

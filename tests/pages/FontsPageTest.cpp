@@ -16,7 +16,7 @@ namespace {
 
 using Names = std::vector<std::wstring>;
 
-constexpr int kPageId = 110;
+constexpr int kPageId = kFontsPage;
 constexpr int kRadioIds[] = {1054, 1055, 1056, 1057};
 constexpr int kAllControls[] = {1054, 1055, 1056, 1057, 1277, 1032, 1278, 1053, 1178, 1051, 1052, 1179};
 

@@ -11,7 +11,7 @@
 namespace {
 
 // A switch and its colour depend on each other and are tested below.
-const PageTable kTable = {.name = "FormFieldsColor", .pageId = 116};
+const PageTable kTable = {.name = "FormFieldsColor", .pageId = kFormFieldsColorPage};
 const PageTableEntry entry(kTable);
 
 constexpr int32_t kNone = static_cast<int32_t>(0xFF000000);
@@ -252,8 +252,8 @@ TEST(FormFieldsColorPage, IsOpenWithTheAddInAlone) {
 
 TEST(FormFieldsColorPage, PdfADoesNotConcernIt) {
   FormColors test;
-  const auto format = MakeCataloguePage(&test.page.Sheet(), 118, 0);
-  test.page.Sheet().pages[118] = format.get();
+  const auto format = MakeCataloguePage(&test.page.Sheet(), kFormatPage, 0);
+  test.page.Sheet().pages[kFormatPage] = format.get();
   test.page.Set(L"PdfVersion", 100);
   ASSERT_TRUE(test.page.Open());
   EXPECT_TRUE(test.page.Control(1211).IsEnabled());

@@ -15,7 +15,7 @@ using Values = FormFieldsCockpitValues;
 
 const PageTable kTable = {
     .name = "FormFields",
-    .pageId = 115,
+    .pageId = kFormFieldsPage,
     .helpLink = IDC_FORM_FIELDS_HELP_LINK,
     .rows =
         {
@@ -81,8 +81,8 @@ class FormFieldsTest {
  public:
   explicit FormFieldsTest(int version = 14, int set = 0) : page(115, set) {
     page.Sheet().properties.MsgBoxTitle.SetString(L"Title");
-    format_ = MakeCataloguePage(&page.Sheet(), 118, set);
-    page.Sheet().pages[118] = format_.get();
+    format_ = MakeCataloguePage(&page.Sheet(), kFormatPage, set);
+    page.Sheet().pages[kFormatPage] = format_.get();
     page.Set(L"PdfVersion", version);
     page.Set(L"FormFieldsEnabled", 1);
     page.Set(L"FormfieldInternalCharCount", 20);
@@ -138,7 +138,7 @@ TEST(FormFieldsPage, OpensWhatItsSwitchesAndTheVersionSay) {
 }
 
 TEST(FormFieldsPage, WithoutAFormatPageNoVersionForbidsTheConversion) {
-  PageUnderTest test(115);
+  PageUnderTest test(kFormFieldsPage);
   test.Set(L"FormFieldsEnabled", 1);
   test.Set(L"PdfVersion", 100);
   ASSERT_TRUE(test.Open());
@@ -342,7 +342,7 @@ TEST(FormFieldsPage, TheNumberHasANameForScreenReaders) {
 }
 
 TEST(FormFieldsPage, IsNotReadBeforeItIsAsked) {
-  PageUnderTest test(115);
+  PageUnderTest test(kFormFieldsPage);
   EXPECT_EQ(0xFFFFFFFFu, test.As<CFormFieldsPage>().convert);
   EXPECT_EQ(0u, test.As<CFormFieldsPage>().characters);
   EXPECT_EQ(1u, test.As<CFormFieldsPage>().formFieldsEnabled);

@@ -21,7 +21,7 @@ namespace {
 constexpr PageDescription kDescription{IDD_FORMAT_PAGE, 0, MSG_PAGE_OUTPUT_FORMAT, 118, 284, 285};
 
 // The values depend on each other and are tested below.
-const PageTable kTable = {.name = "Format", .pageId = 118, .helpLink = IDC_FORMAT_MANUAL_LINK};
+const PageTable kTable = {.name = "Format", .pageId = kFormatPage, .helpLink = IDC_FORMAT_MANUAL_LINK};
 const PageTableEntry entry(kTable);
 
 // In the order of the list.
@@ -429,7 +429,7 @@ TEST_F(FormatPage, StationeryOfTheOtherSetCountsForNothing) {
 // What the user has switched on the watermark page since this page read its properties.
 TEST_F(FormatPage, StationeryOfTheWatermarkPageIsTheOneThatCounts) {
   FakeWatermarkPage watermark(log_);
-  sheet_.pages[101] = &watermark;
+  sheet_.pages[kWatermarkPage] = &watermark;
   for (const bool on : {false, true}) {
     properties().StationeryEnabled[0].SetLong(on ? 0 : 1);
     watermark.on = !on;
@@ -476,7 +476,7 @@ TEST_F(FormatPage, WithoutTheAddInNoVersionWithTagsIsTaken) {
 // --- Invoice -------------------------------------------------------------------------------------------------------
 
 TEST_F(FormatPage, AnInvoiceThatIsKeptBringsTheVersionBack) {
-  sheet_.pages[112] = &zugferd_;
+  sheet_.pages[kZugferdPage] = &zugferd_;
   OpenWith(106);
   ExpectQuestion(IDCANCEL);
   Choose(17);
@@ -489,7 +489,7 @@ TEST_F(FormatPage, AnInvoiceThatIsKeptBringsTheVersionBack) {
 }
 
 TEST_F(FormatPage, AVersionWithoutARowSurvivesTheQuestion) {
-  sheet_.pages[112] = &zugferd_;
+  sheet_.pages[kZugferdPage] = &zugferd_;
   OpenWith(99);
   ExpectQuestion(IDCANCEL);
   Choose(17);
@@ -499,7 +499,7 @@ TEST_F(FormatPage, AVersionWithoutARowSurvivesTheQuestion) {
 }
 
 TEST_F(FormatPage, AnInvoiceThatIsGivenUpIsSwitchedOffWithWhatFixedIt) {
-  sheet_.pages[112] = &zugferd_;
+  sheet_.pages[kZugferdPage] = &zugferd_;
   OpenWith(106);
   ExpectQuestion(IDOK);
   Choose(17);
@@ -510,7 +510,7 @@ TEST_F(FormatPage, AnInvoiceThatIsGivenUpIsSwitchedOffWithWhatFixedIt) {
 }
 
 TEST_F(FormatPage, TheQuestionComesBeforeTheNotice) {
-  sheet_.pages[112] = &zugferd_;
+  sheet_.pages[kZugferdPage] = &zugferd_;
   OpenWith(106);
   ExpectQuestion(IDOK);
   ExpectNotice(kDefaultsA1);
@@ -519,7 +519,7 @@ TEST_F(FormatPage, TheQuestionComesBeforeTheNotice) {
 }
 
 TEST_F(FormatPage, OnlyPdfA3LeavesAnInvoiceAlone) {
-  sheet_.pages[112] = &zugferd_;
+  sheet_.pages[kZugferdPage] = &zugferd_;
   for (const int version : kVersions) {
     const bool allowed = version >= 105 && version <= 107;
     OpenWith(version == 106 ? 105 : 106);
@@ -531,7 +531,7 @@ TEST_F(FormatPage, OnlyPdfA3LeavesAnInvoiceAlone) {
 }
 
 TEST_F(FormatPage, WithoutAnInvoiceNothingIsAsked) {
-  sheet_.pages[112] = &zugferd_;
+  sheet_.pages[kZugferdPage] = &zugferd_;
   zugferd_.on = false;
   OpenWith(106);
   Choose(17);
@@ -541,7 +541,7 @@ TEST_F(FormatPage, WithoutAnInvoiceNothingIsAsked) {
 }
 
 TEST_F(FormatPage, APageUnderTheBoxOfTheQuestionMayEnd) {
-  sheet_.pages[112] = &zugferd_;
+  sheet_.pages[kZugferdPage] = &zugferd_;
   properties().PdfVersion[0].SetLong(106);
   auto parent = std::make_unique<PageParent>();
   PageUnderTest page(&sheet_, kDescription, 0);
@@ -556,7 +556,7 @@ TEST_F(FormatPage, APageUnderTheBoxOfTheQuestionMayEnd) {
 }
 
 TEST_F(FormatPage, SavingLetsTheInvoicePageWriteWhatItHasRead) {
-  sheet_.pages[112] = &zugferd_;
+  sheet_.pages[kZugferdPage] = &zugferd_;
   Open();
   ASSERT_TRUE(page_->UpdateData(true));
   EXPECT_EQ(Log{}, TakeLog()) << "it has read nothing, and would write over what the host has set";
@@ -881,7 +881,7 @@ TEST_F(FormatPage, AdministratorsPdfAHasNoEffectHere) {
 // --- Document settings ---------------------------------------------------------------------------------------------
 
 TEST_F(FormatPage, DocumentSettingsTakeNoSpecialVersion) {
-  sheet_.pages[112] = &zugferd_;
+  sheet_.pages[kZugferdPage] = &zugferd_;
   for (const int version : {101, 102, 103, 104, 105, 106, 107, 200}) {
     OpenWith(100, 1);
     EXPECT_EQ(100, Shown());
@@ -1122,9 +1122,9 @@ TEST_F(FormatPage, TheKindOfFileOfAShownPageIsAPdfWithoutEPdf) {
 TEST_F(FormatPage, OtherPagesFindTheVersionByTheNumberOfThePage) {
   CNemUIFormatPage format(&sheet_, kDescription, 0), asking(&sheet_, kDescription, 0);
   EXPECT_EQ(0, PdfVersionFor(asking)) << "there is no such page";
-  sheet_.pages[118] = &security_;
+  sheet_.pages[kFormatPage] = &security_;
   EXPECT_EQ(0, PdfVersionFor(asking)) << "a page that does not offer it";
-  sheet_.pages[118] = &format;
+  sheet_.pages[kFormatPage] = &format;
   EXPECT_EQ(14, PdfVersionFor(asking));
 }
 

@@ -23,7 +23,7 @@
 
 namespace {
 
-constexpr int kPage = 106;
+constexpr int kPage = kInfoPage;
 constexpr int kLogo = 1111, kNotice = 1132, kVersions = 1183, kVideo = 1171;
 
 constexpr wchar_t kDefaultFolder[] = L"C:\\NEMpdfVonderTrace";

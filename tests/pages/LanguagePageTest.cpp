@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int kPage = 107;
+constexpr int kPage = kLanguagePage;
 constexpr int kSystem = 1381, kEnglishRow = 1382, kGermanRow = 1383, kArabicRow = 1384, kFrenchRow = 1385;
 constexpr int kRows[] = {kSystem, kEnglishRow, kGermanRow, kArabicRow, kFrenchRow};
 

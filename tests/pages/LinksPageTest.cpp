@@ -9,7 +9,7 @@ namespace {
 
 const PageTable kTable = {
     .name = "Links",
-    .pageId = 113,
+    .pageId = kLinksPage,
     .rows = {CheckBox(L"UseHyperlinkRecognition", IDC_LINKS_RECOGNIZE)
                  .Tracked<&LinksCockpitValues::useHyperlinkRecognition>(),
              Choice(L"HyperlinkBorder", IDC_LINKS_BORDER,
@@ -56,7 +56,7 @@ class LinksPage : public testing::Test {
   CNemUILinksPage& Page() { return test.As<CNemUILinksPage>(); }
 
   const std::vector<int> kNone, kBorder{IDC_LINKS_BORDER}, kAll{IDC_LINKS_BORDER, IDC_LINKS_WIDTH, IDC_LINKS_COLOR};
-  PageUnderTest test{113};
+  PageUnderTest test{kLinksPage};
 };
 
 }  // namespace
@@ -137,7 +137,7 @@ TEST_F(LinksPage, TheColourMayBeMixedAndNotLeftOut) {
 
 TEST_F(LinksPage, WritesTheAttachmentsOfItsSetBackAsTheyWere) {
   for (const int set : {0, 1}) {
-    PageUnderTest page(113, set);
+    PageUnderTest page(kLinksPage, set);
     page.Set(L"HyperlinkBorderWidth", 100);
     page.Set(L"EmbedFilenames", L"a;\"b\"");
     page.Set(L"EmbedFilenamesEnabled", 1);
@@ -153,7 +153,7 @@ TEST_F(LinksPage, WritesTheAttachmentsOfItsSetBackAsTheyWere) {
 // It belongs to both tabs: the page that edits it may have written it meanwhile.
 TEST_F(LinksPage, LeavesTheConfirmationAsItStands) {
   for (const int set : {0, 1}) {
-    PageUnderTest page(113, set);
+    PageUnderTest page(kLinksPage, set);
     page.Set(L"HyperlinkBorderWidth", 100);
     ASSERT_TRUE(page.Open());
     CDialogProperties& properties = page.Sheet().properties;
@@ -166,7 +166,7 @@ TEST_F(LinksPage, LeavesTheConfirmationAsItStands) {
 }
 
 TEST_F(LinksPage, ReadsTheConfirmationOfTheBasicSettings) {
-  PageUnderTest page(113, 1);
+  PageUnderTest page(kLinksPage, 1);
   CDialogProperties& properties = page.Sheet().properties;
   properties.EmbedfilenamesConfirmed[0].SetLong(2);
   properties.EmbedfilenamesOpen[0].SetLong(1);

@@ -23,7 +23,7 @@ PropertyRow MailText(const wchar_t* property, int edit) {
 
 const PageTable kTable = {
     .name = "Mail",
-    .pageId = 104,
+    .pageId = kMailPage,
     .rows =
         {
             CheckBoxOfBit(L"StartAction", IDC_MAIL_SEND, 2)
@@ -56,7 +56,7 @@ class MailPage : public testing::Test {
   }
 
   Popups popups_;
-  PageUnderTest test_{104};
+  PageUnderTest test_{kMailPage};
 };
 
 TEST_F(MailPage, TheFieldsAreOpenWhileTheMailIsSent) {
@@ -97,7 +97,7 @@ TEST_F(MailPage, AFixedCheckLeavesTheFieldsToWhatItShows) {
 
 TEST_F(MailPage, WithoutAFileThereIsNothingToSend) {
   for (const int32_t output : {1, 3, 0x10001}) {
-    PageUnderTest test(104);
+    PageUnderTest test(kMailPage);
     test.Set(L"PrintOutput", output);
     test.Set(L"StartAction", 2);
     test.Set(L"MailSubject", L"kept");
@@ -160,7 +160,7 @@ TEST_F(MailPage, BothPagesStoreTheirBits) {
   for (const bool mailFirst : {false, true}) {
     FakeSheet sheet;
     sheet.properties.StartAction[0].SetLong(16);
-    const auto action = MakeCataloguePage(&sheet, 102, 0), mail = MakeCataloguePage(&sheet, 104, 0);
+    const auto action = MakeCataloguePage(&sheet, kActionPage, 0), mail = MakeCataloguePage(&sheet, kMailPage, 0);
     action->ReadProperties();
     mail->ReadProperties();
     dynamic_cast<CActionPage&>(*action).SetCockpitValues({.startAction = 15});

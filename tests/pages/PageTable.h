@@ -3,7 +3,7 @@
 //
 //   const PageTable kTable = {
 //       .name = "Colors",
-//       .pageId = 111,
+//       .pageId = kColorsPage,
 //       .helpLink = IDC_COLORS_HELP_LINK,
 //       .rows = {Radios(L"Colorspace", {IDC_COLORS_RGB, IDC_COLORS_CMYK})
 //                    .Stores({{2, L"", 1}})

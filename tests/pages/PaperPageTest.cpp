@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kPageId = 100;
+constexpr int kPageId = kPaperPage;
 
 using Values = PaperCockpitValues;
 

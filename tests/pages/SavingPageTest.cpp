@@ -16,7 +16,7 @@ constexpr int kPredefined = 0x158;  // name and folder
 
 const PageTable kTable = {
     .name = "Saving",
-    .pageId = 103,
+    .pageId = kSavingPage,
     .helpLink = IDC_SAVING_HELP_LINK,
     .rows =
         {
@@ -137,7 +137,7 @@ class SavingPage : public testing::Test {
 
   CActivationScope look_;
   Popups popups_;
-  PageUnderTest test_{103};
+  PageUnderTest test_{kSavingPage};
 };
 
 // --- Name and folder -------------------------------------------------------------------------------------------------
@@ -158,7 +158,7 @@ TEST_F(SavingPage, EveryChoiceOfBothIsOpenedAndSaved) {
       SCOPED_TRACE(std::to_string(type) + " " + std::to_string(location));
       const int action = kTypes[type] | kLocations[location];
       const auto expected = EnabledTargets(kTypes[type] == 0x18, kLocations[location] == 0x140);
-      PageUnderTest chosen(103), loaded(103);
+      PageUnderTest chosen(kSavingPage), loaded(kSavingPage);
       for (PageUnderTest* test : {&chosen, &loaded}) Prepare(*test);
       ASSERT_TRUE(chosen.Open());
       chosen.Control(IDC_SAVING_TYPE).Select(type);
@@ -176,7 +176,7 @@ TEST_F(SavingPage, EveryChoiceOfBothIsOpenedAndSaved) {
 
 TEST_F(SavingPage, ListsWithoutASelectionFailTheSaveWhichGoesOn) {
   for (const auto& [list, saved] : {std::pair{IDC_SAVING_TYPE, 0x148}, {IDC_SAVING_LOCATION, 0x98}}) {
-    PageUnderTest test(103);
+    PageUnderTest test(kSavingPage);
     Prepare(test);
     test.Set(L"SaveAction", kPredefined);
     ASSERT_TRUE(test.Open());
@@ -193,7 +193,7 @@ TEST_F(SavingPage, ListsWithoutASelectionFailTheSaveWhichGoesOn) {
 
 TEST_F(SavingPage, ATargetThatIsNotEditedComesBackAsItWas) {
   for (const wchar_t* target : {L"", L"a.pdf", L"C:\\Out\\", L"C:\\Out", L"C:\\", L"\\\\server\\share\\x"}) {
-    PageUnderTest test(103);
+    PageUnderTest test(kSavingPage);
     Prepare(test);
     test.Set(L"DestinationDirectoryOrFilename", target);
     const Values before = test.AllValues();
@@ -386,7 +386,7 @@ TEST_F(SavingPage, WithoutAFileThereIsNoTarget) {
       IDC_SAVING_FILE_LABEL,  IDC_SAVING_FILE,         IDC_SAVING_BROWSE,       IDC_SAVING_FILE_EXISTS_LABEL,
       IDC_SAVING_FILE_EXISTS, IDC_SAVING_SUFFIX_CHECK, IDC_SAVING_SUFFIX};
   for (const auto& [output, open] : {std::pair{0, true}, {2, true}, {1, false}, {3, false}, {0x10001, false}}) {
-    PageUnderTest test(103);
+    PageUnderTest test(kSavingPage);
     Prepare(test);
     test.Set(L"PrintOutput", output);
     test.Set(L"SaveAction", kPredefined);
@@ -431,7 +431,7 @@ constexpr int kScope[] = {IDC_SAVING_ALL_APPLICATIONS, IDC_SAVING_THIS_APPLICATI
 
 TEST_F(SavingPage, TheScopeIsShownAndItsOtherBitsAreLost) {
   for (const int32_t devmode : {0, 1, 2, 3, 4, 7, -1}) {
-    PageUnderTest test(103);
+    PageUnderTest test(kSavingPage);
     Prepare(test);
     test.Set(L"RegistryDevmode", devmode);
     ASSERT_TRUE(test.Open());
@@ -460,7 +460,7 @@ TEST_F(SavingPage, TheUserChoosesTheScope) {
 TEST_F(SavingPage, InternalUseClosesPartsOfTheScope) {
   for (const int32_t use : {0, 1, 2, 4, 16, 17, 20}) {
     for (const bool instances : {false, true}) {
-      PageUnderTest test(103);
+      PageUnderTest test(kSavingPage);
       Prepare(test);
       test.Set(L"InternalUse", use);
       test.Set(L"RegistryDevmode", instances ? 2 : 0);
@@ -479,7 +479,7 @@ TEST_F(SavingPage, InternalUseClosesPartsOfTheScope) {
 
 TEST_F(SavingPage, AClickOnTheInstancesBringsTheStoredScopeBack) {
   for (const int32_t devmode : {0, 1}) {
-    PageUnderTest test(103);
+    PageUnderTest test(kSavingPage);
     Prepare(test);
     test.Set(L"RegistryDevmode", devmode);
     ASSERT_TRUE(test.Open());
@@ -510,7 +510,7 @@ TEST_F(SavingPage, WhereTheApplicationMayNotManageThemAllApplicationsDo) {
 
 TEST_F(SavingPage, AFixedScopeIsClosed) {
   for (const auto& [value, open] : {std::pair{kUnsetNumber, true}, {0, false}, {2, false}, {kUnsetBoolean, false}}) {
-    PageUnderTest test(103);
+    PageUnderTest test(kSavingPage);
     Prepare(test);
     test.Admin().Settings_Override = value;
     ASSERT_TRUE(test.Open());
@@ -524,7 +524,7 @@ TEST_F(SavingPage, AFixedScopeIsClosed) {
 TEST_F(SavingPage, WithTheAddInTheApplicationsStartIsAskedForInPlaceOfTheInstances) {
   for (const int32_t startup : {0, 1, 2, 3}) {
     for (const int32_t use : {0, 4}) {
-      PageUnderTest test(103);
+      PageUnderTest test(kSavingPage);
       Prepare(test);
       test.Set(L"ApplicationDevmodeStartup", startup);
       test.Set(L"InternalUse", use);

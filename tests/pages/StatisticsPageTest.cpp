@@ -10,7 +10,7 @@
 
 namespace {
 
-constexpr int kPage = 123;
+constexpr int kPage = kStatisticsPage;
 
 const std::wstring kProduct = kProductKey;
 

@@ -12,7 +12,7 @@
 
 namespace {
 
-constexpr int kPage = 121;
+constexpr int kPage = kUpdatePage;
 constexpr int kAutomatic = 1455, kManual = 1456, kDownload = 1452, kInstall = 1454, kBeta = 1457, kSearch = 1453;
 constexpr int kControls[] = {kAutomatic, kManual, kDownload, kInstall, kBeta, kSearch};
 

@@ -14,7 +14,7 @@
 
 namespace {
 
-constexpr int kPageId = 101;
+constexpr int kPageId = kWatermarkPage;
 using Values = WatermarkCockpitValues;
 
 const std::wstring kLetter = L"{NAME:\"Letter\";FILE:\"C:\\\\Paper\\\\z.pdf\";P:\"secret\";TYPE:\"2\"}";
@@ -316,12 +316,12 @@ TEST_F(WatermarkPage, StationeryControlsFollowTheirSwitch) {
 
 TEST_F(WatermarkPage, PdfUaClosesTheGroupAndKeepsTheChoice) {
   CNemUIFormatPage format(&test_.Sheet(), PageDescription{}, 0);
-  test_.Sheet().pages[118] = &format;
+  test_.Sheet().pages[kFormatPage] = &format;
   for (const int version : {13, 107, 199, 200, 201}) {
     test_.Set(L"PdfVersion", version);
     PageUnderTest test(kPageId);
     Fill(test);
-    test.Sheet().pages[118] = &format;
+    test.Sheet().pages[kFormatPage] = &format;
     ASSERT_TRUE(test.Open());
     EXPECT_EQ(version != 200, test.Control(1068).IsEnabled()) << version;
     for (const int id : kStationeryControls) EXPECT_EQ(version != 200, test.Control(id).IsEnabled()) << version;

@@ -18,7 +18,7 @@ const std::wstring kPath260 = L"C:\\" + std::wstring(257, L'x');
 
 const PageTable kTable = {
     .name = "Zugferd",
-    .pageId = 112,
+    .pageId = kZugferdPage,
     .rows = {CheckBox(L"ZUGFeRD", IDC_ZUGFERD_CREATE)
                  .LockedBy<&AdminSettings::ZUGFeRD_Override>({})
                  .Tracked<&ZugferdCockpitValues::zugferd>(),
@@ -59,7 +59,7 @@ class ZugferdPage : public testing::Test {
   ControlRef XmlFile() { return test.Control(IDC_ZUGFERD_XML_FILE); }
   void AddFormatPage(int version) {
     test.Set(L"PdfVersion", version);
-    format_ = MakeCataloguePage(&test.Sheet(), 118, 0);
+    format_ = MakeCataloguePage(&test.Sheet(), kFormatPage, 0);
     test.Sheet().pages = {{112, &test.Page()}, {118, format_.get()}};
   }
   int Version() { return dynamic_cast<FormatAccess&>(*format_).GetPdfVersion(); }
@@ -94,7 +94,7 @@ TEST_F(ZugferdPage, WhatIsOpenFollowsSwitchAndMethod) {
   } rows[] = {{0, 0, kOff},  {0, 1, kOff},      {1, 0, kFile}, {1, 1, kContent},
               {7, 0, kFile}, {1, 2, kNoMethod}, {0, 2, kOff},  {1, 0xFFFF, kNoMethod}};
   for (const auto& row : rows) {
-    PageUnderTest page(112);
+    PageUnderTest page(kZugferdPage);
     page.Set(L"ZUGFeRD", row.zugferd);
     page.Set(L"ZUGFeRDCreationMethod", row.method);
     ASSERT_TRUE(page.Open());
@@ -174,7 +174,7 @@ TEST_F(ZugferdPageOfDocument, TheSwitchStaysClosedAndTheRestFollowsTheValues) {
 
 TEST_F(ZugferdPage, OnlyAnInvoiceThatIsFixedAsOnLocks) {
   for (const auto& [value, locked] : {std::pair{1, true}, {0, false}, {255, false}, {-1, false}, {2, false}}) {
-    PageUnderTest page(112);
+    PageUnderTest page(kZugferdPage);
     page.Admin().ZUGFeRD_Override = value;
     page.Set(L"ZUGFeRD", 1);
     page.Set(L"ZUGFeRDCreationMethod", 0);
@@ -196,7 +196,7 @@ TEST_F(ZugferdPage, ALockedInvoiceShowsWhatItsMethodHas) {
 // An inconsistent configuration leaves the other mark of what is not set.
 TEST_F(ZugferdPage, BothMarksOfAnUnsetBooleanLeaveTheCockpitItsValues) {
   for (const int mark : {255, -1}) {
-    PageUnderTest page(112);
+    PageUnderTest page(kZugferdPage);
     page.Admin().ZUGFeRD_Override = page.Admin().ZUGFeRDDeleteAfterEmbedding_Override = mark;
     auto& zugferd = page.As<CNemUIZugferdPage>();
     zugferd.SetCockpitValues({.zugferd = 1, .xml = L"a.xml", .deleteAfterEmbedding = 1, .creationMethod = 1});
@@ -246,10 +246,10 @@ TEST_F(ZugferdPage, AnInvoiceSetsPdfA3WithoutAWord) {
   const std::pair<int, int> versions[] = {{13, 106},  {14, 106},  {17, 106},  {99, 106},  {100, 106}, {104, 106},
                                           {105, 105}, {106, 106}, {107, 107}, {108, 106}, {200, 106}};
   for (const auto& [before, after] : versions) {
-    PageUnderTest page(112);
+    PageUnderTest page(kZugferdPage);
     page.Set(L"PdfVersion", before);
-    const auto format = MakeCataloguePage(&page.Sheet(), 118, 0);
-    page.Sheet().pages[118] = format.get();
+    const auto format = MakeCataloguePage(&page.Sheet(), kFormatPage, 0);
+    page.Sheet().pages[kFormatPage] = format.get();
     ASSERT_TRUE(page.Open());
     page.Control(IDC_ZUGFERD_CREATE).Click();
     EXPECT_EQ(after, dynamic_cast<FormatAccess&>(*format).GetPdfVersion()) << before;
@@ -477,7 +477,7 @@ TEST_F(ZugferdPage, ADialogThatOutlivesThePageChangesNothing) {
 
 TEST_F(ZugferdPage, ADroppedFileIsTaken) {
   for (const int target : {IDC_ZUGFERD_XML_FILE, IDC_ZUGFERD_XML_FILE_LABEL}) {
-    PageUnderTest page(112);
+    PageUnderTest page(kZugferdPage);
     page.Set(L"ZUGFeRD", 1);
     page.Set(L"ZUGFeRDXml", L"host.xml");
     ASSERT_TRUE(page.Open());

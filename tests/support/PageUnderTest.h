@@ -1,6 +1,6 @@
 // One settings page alone, on a sheet without a window, made as the sheet makes it: by its row of the page catalogue.
 //
-//   PageUnderTest test(109);
+//   PageUnderTest test(kAppearancePage);
 //   test.Set(L"OpenMode", 3);
 //   ASSERT_TRUE(test.Open());
 //   test.Control(IDC_APPEARANCE_MODE).Select(0);
@@ -15,6 +15,7 @@
 #include <string>
 
 #include "driver/ControlRef.h"
+#include "sheet/PageNumbers.h"
 #include "support/FakeSheet.h"
 #include "ui/PageCatalogue.h"
 
