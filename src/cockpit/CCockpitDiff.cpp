@@ -33,7 +33,7 @@ void CCockpitDiff::Draw(HDC dc, const RECT& client) {
   }
   const GdiBrush frame(::CreateSolidBrush(highContrast ? ::GetSysColor(COLOR_WINDOWTEXT) : kFrameColor));
   ::FrameRect(dc, &client, frame.Get());
-  if (!ShowsFocus()) return;
+  if (!ShowsFocus(*this)) return;
   RECT inside = client;
   ::InflateRect(&inside, -Scale(kFocusInset), -Scale(kFocusInset));
   DrawFocus(dc, inside);

@@ -7,11 +7,9 @@
 #include "controls/LabelText.h"
 #include "DriverLIB/MessageText.h"
 #include "MessageIds.h"
+#include "window/HeldKeys.h"
 
 namespace {
-
-// A held key goes on sending WM_KEYDOWN.
-bool IsRepeated(LPARAM keyData) { return (HIWORD(keyData) & KF_REPEAT) != 0; }
 
 // The dialog must not take Enter for its default button.
 bool IsEnter(const MSG* message) {
@@ -23,8 +21,6 @@ bool IsEnter(const MSG* message) {
 void CDrawnButton::Press() const {
   Parent().Send(WM_COMMAND, MAKEWPARAM(Id(), BN_CLICKED), reinterpret_cast<LPARAM>(Handle()));
 }
-
-bool CDrawnButton::ShowsFocus() const { return HasFocus() && !(Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS); }
 
 bool CDrawnButton::OnReflected(WindowMessage& message) {
   return AnswerDrawItem(message, [this](HDC dc, const DRAWITEMSTRUCT& item) { Draw(dc, item.rcItem); });
@@ -40,7 +36,7 @@ bool CDrawnButton::OnWindowMessage(WindowMessage& message) {
       return true;
     case WM_KEYDOWN:
       if (message.wParam != VK_RETURN) return false;
-      if (!IsRepeated(message.lParam)) Press();
+      if (!IsRepeatedKey(message.lParam)) Press();
       return true;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:

@@ -12,8 +12,6 @@ class CDrawnButton : public CAccessibleControl<CButton> {
  protected:
   // Covers the whole client area.
   virtual void Draw(HDC dc, const RECT& client) = 0;
-  // The user works by keyboard and is to see that the button has the focus.
-  bool ShowsFocus() const;
 
   bool OnWindowMessage(WindowMessage& message) override;
   bool OnReflected(WindowMessage& message) override;

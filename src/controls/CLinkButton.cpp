@@ -20,7 +20,7 @@ void CLinkButton::Draw(HDC dc, const RECT& client) {
   const CUString text = Text();
   RECT place = client;
   ::DrawTextW(dc, text.Text(), text.Length(), &place, DT_SINGLELINE | DT_HIDEPREFIX);
-  if (ShowsFocus()) DrawFocus(dc, client);
+  if (ShowsFocus(*this)) DrawFocus(dc, client);
 }
 
 bool CLinkButton::OnWindowMessage(WindowMessage& message) {

@@ -10,6 +10,7 @@
 #include "DriverLIB/MessageText.h"
 #include "environment/Shell.h"
 #include "MessageIds.h"
+#include "window/HeldKeys.h"
 
 namespace {
 
@@ -17,9 +18,6 @@ HCURSOR LinkCursor() {
   const HCURSOR hand = ::LoadCursorW(nullptr, IDC_HAND);
   return hand ? hand : ::LoadCursorW(nullptr, IDC_ARROW);
 }
-
-// A held key goes on sending WM_KEYDOWN.
-bool IsRepeated(LPARAM keyData) { return (HIWORD(keyData) & KF_REPEAT) != 0; }
 
 bool IsFollowKey(WPARAM key) { return key == VK_RETURN || key == VK_SPACE; }
 
@@ -115,7 +113,7 @@ void CMyHyperLink::SetLinkFont(WindowMessage& message) {
 void CMyHyperLink::Draw(HDC dc) {
   DrawPageGround(*this, dc);
   DefaultHandling({Handle(), WM_PRINTCLIENT, reinterpret_cast<WPARAM>(dc), PRF_CLIENT});
-  if (HasFocus() && !(Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS)) DrawFocus(dc, ClientRect());
+  if (ShowsFocus(*this)) DrawFocus(dc, ClientRect());
 }
 
 bool CMyHyperLink::OnReflected(WindowMessage& message) {
@@ -160,7 +158,7 @@ bool CMyHyperLink::OnWindowMessage(WindowMessage& message) {
       return true;
     case WM_KEYDOWN:
       if (!IsFollowKey(message.wParam)) return false;
-      if (!IsRepeated(message.lParam)) Follow();
+      if (!IsRepeatedKey(message.lParam)) Follow();
       return true;
     case WM_SETFOCUS:
     case WM_KILLFOCUS:

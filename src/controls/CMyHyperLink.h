@@ -19,9 +19,9 @@ class CMyHyperLink : public CAccessibleControl<CStatic> {
   void SetUrl(const wchar_t* url) { url_ = url; }
   // A click sends the parent kLinkClickedMessage with the control's id instead of opening an address.
   void SetNotifyParent(bool notify) { notifyParent_ = notify; }
-  // Set by pages together with the above; links are underlined in any case.
+  // Pages ask for the line together with the above. Neither of these two does anything: links are underlined in any
+  // case, and have no tool tip.
   void SetUnderline(bool underline) { underline_ = underline; }
-  // Links have no tool tip.
   void SetToolTip(const wchar_t*) {}
 
   // What a click does. It may end the link, and its object.

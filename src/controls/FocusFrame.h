@@ -1,6 +1,11 @@
 #pragma once
 
-#include "window/Windows.h"
+#include "window/CWnd.h"
+
+// The user works by keyboard and is to see that the control has the focus.
+inline bool ShowsFocus(const CWnd& control) {
+  return control.HasFocus() && !(control.Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS);
+}
 
 // The dotted rectangle that shows the focus. The colours of what it is drawn on do not matter.
 inline void DrawFocus(HDC dc, const RECT& rect) {

@@ -2,6 +2,7 @@
 
 #include <utility>
 
+#include "controls/FocusFrame.h"
 #include "window/COMemDC.h"
 #include "window/MemoryDC.h"
 
@@ -82,8 +83,8 @@ void COutlook2View::Repaint(const IntRect& rect) const {
 
 BarView COutlook2View::View() const {
   const RECT client = ClientRect();
-  const bool showsFocus = HasFocus() && !(Send(WM_QUERYUISTATE) & UISF_HIDEFOCUS);
-  return {model_, colors_, fonts_, {client.right, client.bottom}, hot_, showsFocus ? FocusedElement() : BarTarget()};
+  const BarTarget focused = ShowsFocus(*this) ? FocusedElement() : BarTarget();
+  return {model_, colors_, fonts_, {client.right, client.bottom}, hot_, focused};
 }
 
 void COutlook2View::Draw(HDC dc) {
