@@ -1,5 +1,5 @@
-// The files that are attached to a PDF, with the list that shows them. A page has it for a second base; it is no window
-// of its own.
+// The files that are attached to a PDF, with the list that shows them. A page has it for a second base: in spite of its
+// name, which the trace knows, it is no window of its own.
 #pragma once
 
 #include "controls/CListBoxST.h"
@@ -8,16 +8,16 @@
 
 class CFileAttachmentDialog {
  public:
-  // With `checkFiles` the list marks files that are not there.
+  // With `checkFiles` the list marks files that are not there. Both pages want it.
   explicit CFileAttachmentDialog(bool checkFiles) : checkFiles_(checkFiles) {}
 
   CUString embedFilenames;              // the list of files (pages/EmbedFilenames.h)
   int32_t embedfilenamesConfirmed = 0;  // 0 never, 1 always, 2 when a file is missing
   bool confirmEditable = true;
   int32_t embedfilenamesOpen = 0;
-  bool openEditable = true;
+  bool openEditable = true;  // a switch of its own, though today it goes with the one for the confirmation
 
-  bool anyMissing = false;  // at the last loading; none without `checkFiles`
+  bool anyMissing = false;  // at the last loading; none without `checkFiles`. Offered, nobody asks yet
 
  protected:
   ~CFileAttachmentDialog() = default;

@@ -7,7 +7,8 @@ class CNemUIZugferdPage : public CNemUISettingsPage<CZugferdPage> {
  public:
   using CNemUISettingsPage::CNemUISettingsPage;
 
-  // What another page sets, whether this one has been shown or not.
+  // What another page may set and ask, whether this one has been shown or not. The pages of this library do with what
+  // ZugferdAccess has; the rest is offered, and nobody uses it yet.
   void SetZugferd(int value) override;
   void SetDeleteAfterEmbedding(int value);
   void SetXmlFile(const wchar_t* path);
