@@ -61,8 +61,7 @@ void CInfoPage::DoDataExchange(CDataExchange& exchange) {
     // Anew each time: the language page may have changed what they are.
     for (size_t i = 0; i < std::size(kLinks); ++i) links_[i].SetUrl(WebAddress(kLinks[i].addressId).Text());
   }
-  // The video is offered in Germany: the ids of Austria and others do not have it, though their texts are the same.
-  Item(IDC_INFO_VIDEO_LINK).Show(GetUILanguage() == MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN));
+  Item(IDC_INFO_VIDEO_LINK).Show(OffersVideo());
 }
 
 void CInfoPage::OnVersionsClicked() { CVersionInfoDialog().Run(Handle()); }

@@ -3,6 +3,8 @@
 #include "DriverLIB/MessageText.h"
 #include "DriverLIB/Numbers.h"
 #include "MessageIds.h"
+#include "pages/WebAddress.h"
+#include "Pictures.h"
 
 namespace {
 
@@ -132,17 +134,13 @@ BOOL CPdfGraphicPage::OnInitDialog() {
     return FALSE;
   resolutionBar_.Attach(*this, IDC_GRAPHIC_RESOLUTION_BAR);
   qualityBar_.Attach(*this, IDC_GRAPHIC_QUALITY_BAR);
+  videoLink_.Attach(*this, IDC_GRAPHIC_VIDEO_LINK);
   if (!CTrackedPage::OnInitDialog()) return FALSE;
 
   boldFont_ = DeriveFont(Font(), [](LOGFONTW& font) { font.lfWeight = FW_BOLD; });
   for (const int id : kBoldCaptions) Item(id).SetFont(boldFont_.Get());
   CComboBox(Item(IDC_GRAPHIC_RESOLUTION)).LimitText(kResolutionDigits);
   CComboBox(Item(IDC_GRAPHIC_QUALITY)).LimitText(kQualityDigits);
-
-  videoLink_.Attach(*this, IDC_GRAPHIC_VIDEO_LINK);
-  videoLink_.SetUrl(MessageText(MSG_VIDEO_ADDRESS).Text());
-  // The video is offered in Germany: the ids of Austria and others do not have it, though their texts are the same.
-  videoLink_.Show(GetUILanguage() == MAKELANGID(LANG_GERMAN, SUBLANG_GERMAN));
 
   AttachPictures(*this, pictures_, kPagePictures);
   return TRUE;
@@ -162,6 +160,8 @@ void CPdfGraphicPage::LoadControls(CDataExchange& exchange) {
   qualityField.bar.SetRange(0, kQualityRange, kQualityPage);
   CSliderCtrl slider(Item(IDC_GRAPHIC_SLIDER));
   slider.SetRange(kFirstPreset, kLastPreset);
+  videoLink_.SetUrl(WebAddress(MSG_VIDEO_ADDRESS).Text());
+  videoLink_.Show(OffersVideo());
 
   exchange.Choice(IDC_GRAPHIC_COMPRESSION, kCompressions, compressMethod);
   WriteNumber(qualityField, jpegQuality);

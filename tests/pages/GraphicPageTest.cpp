@@ -13,7 +13,7 @@
 
 namespace {
 
-constexpr int kPageId = 108;
+constexpr int kPageId = kGraphicPage;
 constexpr PageDescription kDescription{IDD_GRAPHIC_PAGE, 0, MSG_PAGE_GRAPHICAL_OPTIMIZATION, kPageId, 251, 252};
 
 constexpr wchar_t kHintReduced[] =
@@ -586,6 +586,9 @@ TEST_F(GraphicPage, VideoLinkShowsInGermanOnly) {
     CNemUIPdfGraphicPage page(&sheet_, kDescription, 0);
     ASSERT_TRUE(page.Create(parent_.Window()));
     EXPECT_EQ(shown, CWnd(page.Handle()).Item(IDC_GRAPHIC_VIDEO_LINK).IsShown()) << language;
+    SetUILanguage(shown ? kEnglish : 0x0407);  // the language page may change it
+    page.UpdateData(false);
+    EXPECT_EQ(!shown, CWnd(page.Handle()).Item(IDC_GRAPHIC_VIDEO_LINK).IsShown()) << language;
   }
 }
 
@@ -595,7 +598,7 @@ TEST_F(GraphicPage, VideoLinkLeadsToTheAddressOfItsText) {
   Open();
   const Accessible link(Control(IDC_GRAPHIC_VIDEO_LINK).Window());
   ASSERT_TRUE(link);
-  EXPECT_EQ(MessageText(0x4001087C).Text(), link.Value(CHILDID_SELF));
+  EXPECT_EQ(L"https://www.nem-software.example/de/video", link.Value(CHILDID_SELF));
 }
 
 TEST_F(GraphicPage, EachPictureStandsInItsControl) {
