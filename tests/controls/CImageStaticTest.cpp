@@ -220,12 +220,7 @@ TEST(CImageStatic, IsGreyWhenItIsDisabled) {
 TEST(CImageStatic, PrintsWhatItPaints) {
   ImagePage test;
   test.image.SetImage(kPlainBitmap, kNoTransparentColor, kPlainMask);
-  const Picture painted = Paint(test.control);
-  const WindowDC dc(test.control.Handle());
-  const RECT client = test.control.ClientRect();
-  ::FillRect(dc, &client, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
-  test.control.Send(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(static_cast<HDC>(dc)), PRF_CLIENT);
-  EXPECT_TRUE(painted.pixels == Capture(test.control.Handle()).pixels);
+  EXPECT_TRUE(PrintsWhatItPaints(test.control));
 }
 
 // --- Place ----------------------------------------------------------------------------------------------------------

@@ -107,6 +107,16 @@ inline Picture Paint(const CWnd& control) {
   return Capture(control.Handle());
 }
 
+// Whether the control draws the same when it is asked to print itself, whatever stood there.
+inline bool PrintsWhatItPaints(const CWnd& control) {
+  const Picture painted = Paint(control);
+  const WindowDC dc(control.Handle());
+  const RECT client = control.ClientRect();
+  ::FillRect(dc, &client, static_cast<HBRUSH>(::GetStockObject(BLACK_BRUSH)));
+  control.Send(WM_PRINTCLIENT, reinterpret_cast<WPARAM>(static_cast<HDC>(dc)), PRF_CLIENT);
+  return painted.pixels == Capture(control.Handle()).pixels;
+}
+
 // The smallest rectangle that holds all pixels of another colour; empty when there are none.
 inline RECT Inked(const Picture& picture, COLORREF ground) {
   RECT inked{picture.width, picture.height, 0, 0};

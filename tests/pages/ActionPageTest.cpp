@@ -57,12 +57,7 @@ class ActionPage : public testing::Test {
   ControlRef Control(int id, ControlRef::Location where = ControlRef::Location::current()) {
     return test_.Control(id, where);
   }
-  std::vector<int> Enabled() {
-    std::vector<int> enabled;
-    for (const int id : kAll)
-      if (Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
-  }
+  std::vector<int> Enabled() { return test_.Enabled(kAll); }
   void ExpectWarning(ControlRef::Location where = ControlRef::Location::current()) {
     popups_.ExpectBox({.title = L"Title", .text = L"The program entered is invalid!", .icon = MB_ICONEXCLAMATION},
                       where);
@@ -153,8 +148,7 @@ TEST_F(ActionPage, NothingCanBeSetForADocument) {
   sheet.properties.StartAction[1].SetLong(5);
   CNemUIActionPage page(&sheet, kDescription, 1);
   ASSERT_TRUE(page.Create(parent.Window()));
-  for (HWND child = GetWindow(page.Handle(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-    EXPECT_FALSE(IsWindowEnabled(child)) << GetDlgCtrlID(child);
+  EXPECT_EQ(std::vector<int>(), EnabledChildren(page.Handle()));
 }
 
 // --- Saving ----------------------------------------------------------------------------------------------------------

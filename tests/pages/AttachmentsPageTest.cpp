@@ -58,10 +58,8 @@ class AttachmentsPage : public testing::Test {
   void ExpectTooMany() { popups_.ExpectBox({.title = L"Error", .text = L"Too many attachments made", .icon = 0}); }
   void Drop(int control, const Texts& paths) { DropOn(test.Page().Handle(), control, paths); }
   std::vector<int> Enabled() {
-    std::vector<int> enabled;
-    for (const int id : {IDC_ATTACHMENTS_USE, IDC_ATTACHMENTS_LIST, IDC_ATTACHMENTS_ADD, IDC_ATTACHMENTS_REMOVE})
-      if (test.Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
+    return test.Enabled(
+        std::vector<int>{IDC_ATTACHMENTS_USE, IDC_ATTACHMENTS_LIST, IDC_ATTACHMENTS_ADD, IDC_ATTACHMENTS_REMOVE});
   }
   // The format page of the same tab, with this version.
   void AddFormatPage(int version) {

@@ -63,12 +63,7 @@ class BookmarkPage : public testing::Test {
       names += std::wstring(row ? L"," : L"") + List().CellText(row, 1).Text();
     return names;
   }
-  std::vector<int> Enabled() {
-    std::vector<int> enabled;
-    for (const int id : kControls)
-      if (Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
-  }
+  std::vector<int> Enabled() { return test_.Enabled(kControls); }
   // What the user types into the cell of the selected row, up to Enter.
   void TypeName(const wchar_t* name) {
     List().Focus();

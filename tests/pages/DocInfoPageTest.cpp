@@ -60,12 +60,7 @@ class DocInfoPage : public testing::Test {
     return test_->Control(id, where);
   }
   bool IsShown(int id) { return CWnd(Control(id).Window()).IsShown(); }
-  std::vector<int> Enabled() {
-    std::vector<int> enabled;
-    for (const int id : kEdits)
-      if (Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
-  }
+  std::vector<int> Enabled() { return test_->Enabled(kEdits); }
 
   std::unique_ptr<PageUnderTest> test_;
 };

@@ -145,12 +145,7 @@ class FontsPage : public testing::Test {
     SendMessageW(window, WM_LBUTTONDBLCLK, MK_LBUTTON, point);
     SendMessageW(window, WM_LBUTTONUP, 0, point);
   }
-  std::vector<int> EnabledControls() {
-    std::vector<int> enabled;
-    for (const int id : kAllControls)
-      if (Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
-  }
+  std::vector<int> EnabledControls() { return test_.Enabled(kAllControls); }
 
   PageUnderTest test_{kPageId};
   FakeFormatPage format_;

@@ -207,10 +207,7 @@ class FormatPage : public testing::Test {
   int EngineRadio() { return CheckedOf({1272, 1273}); }
 
   std::vector<int> Enabled() {
-    std::vector<int> enabled;
-    for (const int id : {1017, 1263, 1270, 1267, 1268, 1269, 1264, 1271, 1272, 1273})
-      if (Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
+    return EnabledAmong(page_->Handle(), std::vector<int>{1017, 1263, 1270, 1267, 1268, 1269, 1264, 1271, 1272, 1273});
   }
 
   // Puts all pages that the format page asks beside it.

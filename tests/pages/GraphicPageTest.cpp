@@ -109,12 +109,10 @@ class GraphicPage : public testing::Test {
     page_.Send(WM_MOUSEMOVE, 0, MAKELPARAM(point.x, point.y));
   }
   std::vector<int> EnabledControls() {
-    std::vector<int> enabled;
-    for (const int id : {IDC_GRAPHIC_BY_FILE_SIZE, IDC_GRAPHIC_USER_DEFINED, IDC_GRAPHIC_SLIDER, IDC_GRAPHIC_RESOLUTION,
-                         IDC_GRAPHIC_RESOLUTION_BAR, IDC_GRAPHIC_COMPRESSION, IDC_GRAPHIC_QUALITY,
-                         IDC_GRAPHIC_QUALITY_BAR, IDC_GRAPHIC_COLOR_DEPTH})
-      if (Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
+    return EnabledAmong(page_.Handle(),
+                        std::vector<int>{IDC_GRAPHIC_BY_FILE_SIZE, IDC_GRAPHIC_USER_DEFINED, IDC_GRAPHIC_SLIDER,
+                                         IDC_GRAPHIC_RESOLUTION, IDC_GRAPHIC_RESOLUTION_BAR, IDC_GRAPHIC_COMPRESSION,
+                                         IDC_GRAPHIC_QUALITY, IDC_GRAPHIC_QUALITY_BAR, IDC_GRAPHIC_COLOR_DEPTH});
   }
 
   LanguageScope english_{kEnglish};

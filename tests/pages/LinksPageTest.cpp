@@ -45,10 +45,7 @@ class LinksPage : public testing::Test {
     ASSERT_TRUE(test.Open());
   }
   std::vector<int> Enabled() {
-    std::vector<int> enabled;
-    for (const int id : {IDC_LINKS_BORDER, IDC_LINKS_WIDTH, IDC_LINKS_COLOR})
-      if (test.Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
+    return test.Enabled(std::vector<int>{IDC_LINKS_BORDER, IDC_LINKS_WIDTH, IDC_LINKS_COLOR});
   }
   CColourPicker& Picker() {
     return dynamic_cast<CColourPicker&>(*CSubclassedControl::FromHandle(test.Control(IDC_LINKS_COLOR).Window()));

@@ -103,8 +103,7 @@ TEST_F(MailPage, WithoutAFileThereIsNothingToSend) {
     test.Set(L"MailSubject", L"kept");
     const auto before = test.AllValues();
     ASSERT_TRUE(test.Open());
-    for (HWND child = GetWindow(test.Page().Handle(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-      EXPECT_FALSE(IsWindowEnabled(child)) << GetDlgCtrlID(child);
+    EXPECT_EQ(std::vector<int>(), EnabledChildren(test.Page().Handle()));
     EXPECT_TRUE(test.Save());
     EXPECT_EQ(PageUnderTest::Values(), test.ChangesSince(before));
   }
@@ -120,8 +119,7 @@ TEST_F(MailPage, NothingCanBeSetForADocument) {
   sheet.properties.StartAction[1].SetLong(2);
   CNemUIMailPage page(&sheet, kDescription, 1);
   ASSERT_TRUE(page.Create(parent.Window()));
-  for (HWND child = GetWindow(page.Handle(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-    EXPECT_FALSE(IsWindowEnabled(child)) << GetDlgCtrlID(child);
+  EXPECT_EQ(std::vector<int>(), EnabledChildren(page.Handle()));
 }
 
 TEST_F(MailPage, AMailWithoutARecipientIsSaved) {

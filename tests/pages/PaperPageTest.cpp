@@ -213,12 +213,7 @@ class PaperPage : public testing::Test {
     test_->TakeFocusAway();
   }
   void TakeChoiceAway(int combo) { SendMessageW(Control(combo).Window(), CB_SETCURSEL, static_cast<WPARAM>(-1), 0); }
-  std::vector<int> Enabled(std::span<const int> controls) {
-    std::vector<int> enabled;
-    for (const int id : controls)
-      if (Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
-  }
+  std::vector<int> Enabled(std::span<const int> controls) { return test_->Enabled(controls); }
   void ExpectPaper(const wchar_t* name, const wchar_t* width, const wchar_t* height) {
     EXPECT_EQ(name, Text(IDC_PAPER_FORMAT));
     EXPECT_EQ(width, Text(IDC_PAPER_WIDTH));

@@ -410,8 +410,7 @@ TEST_F(SavingPage, NothingCanBeSetForADocument) {
     sheet.properties.SaveAction[1].SetLong(kPredefined);
     CNemUIProgramPage page(&sheet, kDescription, 1);
     ASSERT_TRUE(page.Create(parent.Window()));
-    for (HWND child = GetWindow(page.Handle(), GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
-      EXPECT_FALSE(IsWindowEnabled(child)) << GetDlgCtrlID(child);
+    EXPECT_EQ(std::vector<int>(), EnabledChildren(page.Handle()));
   }
 }
 

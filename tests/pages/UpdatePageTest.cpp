@@ -23,12 +23,7 @@ class UpdatePage : public testing::Test {
   UpdatePage() { test.Sheet().properties.MsgBoxTitle.SetString(L"Title"); }
 
   void Open() { ASSERT_TRUE(test.Open()); }
-  Ids Enabled() {
-    Ids ids;
-    for (const int id : kControls)
-      if (test.Control(id).IsEnabled()) ids.push_back(id);
-    return ids;
-  }
+  Ids Enabled() { return test.Enabled(kControls); }
   Ids Checked() {
     Ids ids;
     for (const int id : kControls)

@@ -68,12 +68,7 @@ class WatermarkPage : public testing::Test {
     test.Set(L"WatermarkFilename", L"mark.png");
   }
   ControlRef Control(int id) { return test_.Control(id); }
-  std::vector<int> Enabled(std::span<const int> controls) {
-    std::vector<int> enabled;
-    for (const int id : controls)
-      if (Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
-  }
+  std::vector<int> Enabled(std::span<const int> controls) { return test_.Enabled(controls); }
   std::vector<int> Enabled() {
     std::vector<int> all = Enabled(kWatermarkControls);
     for (const int id : Enabled(kStationeryControls)) all.push_back(id);

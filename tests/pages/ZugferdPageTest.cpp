@@ -64,12 +64,7 @@ class ZugferdPage : public testing::Test {
   }
   int Version() { return dynamic_cast<FormatAccess&>(*format_).GetPdfVersion(); }
   void Drop(int control, const std::vector<std::wstring>& paths) { DropOn(test.Page().Handle(), control, paths); }
-  std::vector<int> Enabled() {
-    std::vector<int> enabled;
-    for (const int id : {1452, 1524, 1525, 1472, 1479, 1474, 1453, 1527})
-      if (test.Control(id).IsEnabled()) enabled.push_back(id);
-    return enabled;
-  }
+  std::vector<int> Enabled() { return test.Enabled(std::vector<int>{1452, 1524, 1525, 1472, 1479, 1474, 1453, 1527}); }
 
   const std::vector<int> kOff{1452}, kNoMethod{1452, 1524, 1525}, kFile{1452, 1524, 1525, 1472, 1479, 1474, 1453},
       kContent{1452, 1524, 1525, 1527};

@@ -13,6 +13,7 @@
 #include <map>
 #include <memory>
 #include <string>
+#include <vector>
 
 #include "driver/ControlRef.h"
 #include "sheet/PageNumbers.h"
@@ -26,6 +27,23 @@ inline std::unique_ptr<CNemUIPage> MakeCataloguePage(SheetServices* sheet, int p
     if (row.description.pageId == pageId && make) return make(sheet, row.description, settingsIndex);
   }
   return nullptr;
+}
+
+// Those of a window's controls that are enabled.
+template <class Ids>
+std::vector<int> EnabledAmong(HWND window, const Ids& ids,
+                              ControlRef::Location where = ControlRef::Location::current()) {
+  std::vector<int> enabled;
+  for (const int id : ids)
+    if (ControlRef(GetDlgItem(window, id), id, where).IsEnabled()) enabled.push_back(id);
+  return enabled;
+}
+
+inline std::vector<int> EnabledChildren(HWND window) {
+  std::vector<int> enabled;
+  for (HWND child = GetWindow(window, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
+    if (IsWindowEnabled(child)) enabled.push_back(GetDlgCtrlID(child));
+  return enabled;
 }
 
 class PageUnderTest {
@@ -78,6 +96,10 @@ class PageUnderTest {
   }
   ControlRef Control(int id, ControlRef::Location where = ControlRef::Location::current()) {
     return {GetDlgItem(Page().Handle(), id), id, where};
+  }
+  template <class Ids>
+  std::vector<int> Enabled(const Ids& ids, ControlRef::Location where = ControlRef::Location::current()) {
+    return EnabledAmong(Page().Handle(), ids, where);
   }
   // The keyboard goes elsewhere, as when the user clicks on the bar.
   void TakeFocusAway() { SetFocus(parent_.Window()); }
