@@ -52,9 +52,9 @@ bool CActionPage::ValidateProgram(CDataExchange& exchange) {
 
 void CActionPage::OnBrowseProgram() {
   const CActivationScope look;
-  const auto chosen = AskForFileToOpen(window_, {.filter = MessageText(MSG_ACTION_PROGRAM_FILTER),
-                                                 .pathRoom = kProgramLimit + 1,
-                                                 .startName = Item(IDC_ACTION_PROGRAM).Text()});
+  const auto chosen = AskForFileToOpen(Handle(), {.filter = MessageText(MSG_ACTION_PROGRAM_FILTER),
+                                                  .pathRoom = kProgramLimit + 1,
+                                                  .startName = Item(IDC_ACTION_PROGRAM).Text()});
   if (chosen) Item(IDC_ACTION_PROGRAM).SetText(chosen->path.Text());
 }
 

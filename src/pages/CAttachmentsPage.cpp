@@ -60,7 +60,7 @@ void CAttachmentsPage::OnUseAttachments() {
 
 void CAttachmentsPage::OnAddAttachment() {
   const CActivationScope look;
-  const auto file = AskForFileToOpen(window_, {.filter = MessageText(MSG_ATTACHMENTS_FILE_FILTER), .startName = {}});
+  const auto file = AskForFileToOpen(Handle(), {.filter = MessageText(MSG_ATTACHMENTS_FILE_FILTER), .startName = {}});
   // The dialog may have ended the page.
   if (file && IsWindow()) AddAttachment(file->path);
 }

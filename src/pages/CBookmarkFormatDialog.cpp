@@ -201,18 +201,18 @@ void CBookmarkFormatDialog::RefreshPreview(const CUString& sizeText) {
 // --- Buttons --------------------------------------------------------------------------------------------------------
 
 void CBookmarkFormatDialog::OnApply() {
-  if (Save()) PostToPage(kAppliedMessage, NewMark());
+  if (Save()) PostToPage(kEntryAppliedMessage, NewEntryMark(isNew));
 }
 
 void CBookmarkFormatDialog::OnOk() {
   if (!Save()) return;
   if (IsModified())
-    PostToPage(kOkMessage, NewMark());
+    PostToPage(kEntryOkMessage, NewEntryMark(isNew));
   else
-    PostToPage(kCancelledMessage);
+    PostToPage(kEntryCancelledMessage);
 }
 
-void CBookmarkFormatDialog::OnCancel() { PostToPage(kCancelledMessage, NewMark()); }
+void CBookmarkFormatDialog::OnCancel() { PostToPage(kEntryCancelledMessage, NewEntryMark(isNew)); }
 
 void CBookmarkFormatDialog::ShowCheckMessage(uint32_t messageId, const CUString& argument) const {
   MsgBoxById(window_, nullptr, messageId, MB_OK | MB_ICONERROR, argument);

@@ -6,16 +6,12 @@
 #include "controls/CFontPreview.h"
 #include "DriverLIB/CUStringArray.h"
 #include "pages/CBookmarkFormat.h"
-#include "window/CModelessDialog.h"
+#include "pages/ListEntryDialog.h"
 
 class CBookmarkFormatDialog final : public CModelessDialog {
  public:
-  // Posted to the page. With the first three comes kNewFormat when the format has just been made, else 0.
-  static constexpr UINT kAppliedMessage = 0x84D;
-  static constexpr UINT kCancelledMessage = 0x84E;
-  static constexpr UINT kOkMessage = 0x84F;
+  // Posted to the page, beside those of any entry.
   static constexpr UINT kModifiedMessage = 0x851;  // at each change, and at the dialog's end
-  static constexpr WPARAM kNewFormat = 2101;
 
   // The entries of a PDF's outline cannot be underlined.
   explicit CBookmarkFormatDialog(bool underlineLocked);
@@ -66,7 +62,6 @@ class CBookmarkFormatDialog final : public CModelessDialog {
   void RefreshPreview(const CUString& sizeText);
   CUString ChosenText(int list) const { return CComboBox(Item(list)).SelectedRowText(); }
   CUString SizeText() const;
-  WPARAM NewMark() const { return isNew ? kNewFormat : 0; }
 
   const bool underlineLocked_;
   bool modified_ = false;

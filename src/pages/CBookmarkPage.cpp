@@ -29,7 +29,6 @@ CUString DefaultFont(const CUStringArray& fonts) {
 }  // namespace
 
 MessageTable CBookmarkPage::Messages() const {
-  using Dialog = CBookmarkFormatDialog;
   static constexpr MessageRow kMessages[] = {
       OnClick<&CBookmarkPage::OnUseBookmarks>(IDC_BOOKMARK_USE),
       OnClick<&CBookmarkPage::OnClickAddBookmarkFormat>(IDC_BOOKMARK_NEW),
@@ -43,10 +42,10 @@ MessageTable CBookmarkPage::Messages() const {
       OnNotify<&CBookmarkPage::OnKeyDown>(IDC_BOOKMARK_LIST, static_cast<UINT>(LVN_KEYDOWN)),
       OnNotify<&CBookmarkPage::OnItemChanged>(IDC_BOOKMARK_LIST, static_cast<UINT>(LVN_ITEMCHANGED)),
       OnMessage<&CBookmarkPage::OnListEdited>(CListCtrlBookmark::kListEditedMessage),
-      OnMessage<&CBookmarkPage::OnDialogApply>(Dialog::kAppliedMessage),
-      OnMessage<&CBookmarkPage::OnDialogCancel>(Dialog::kCancelledMessage),
-      OnMessage<&CBookmarkPage::OnDialogOk>(Dialog::kOkMessage),
-      OnMessage<&CBookmarkPage::UpdateControls>(Dialog::kModifiedMessage),
+      OnMessage<&CBookmarkPage::OnDialogApply>(kEntryAppliedMessage),
+      OnMessage<&CBookmarkPage::OnDialogCancel>(kEntryCancelledMessage),
+      OnMessage<&CBookmarkPage::OnDialogOk>(kEntryOkMessage),
+      OnMessage<&CBookmarkPage::UpdateControls>(CBookmarkFormatDialog::kModifiedMessage),
       OnMessage<&CBookmarkPage::OnDestroy>(WM_DESTROY),
   };
   return kMessages;
@@ -68,7 +67,7 @@ BOOL CBookmarkPage::OnInitDialog() {
 // The same face comes in several character sets.
 void CBookmarkPage::ListFonts() {
   fonts_.RemoveAll();
-  const WindowDC dc(window_);
+  const WindowDC dc(Handle());
   enumerateFonts(dc, [this](const InstalledFont& font) {
     if (IsOffered(font) && fonts_.FindExact(font.name) < 0) fonts_.Add(font.name);
   });
@@ -111,12 +110,12 @@ void CBookmarkPage::SaveFormats() {
   for (int row = 0; row < list_.Count(); ++row) writer.Add(Row(row)->Format());
   outlineStyles = writer.Styles();
   outlineFormats = writer.Formats();
-  if (!writer.AllStylesFit()) MsgBoxById(window_, nullptr, MSG_BOOKMARK_TOO_MANY_USED, MB_OK | MB_ICONEXCLAMATION);
+  if (!writer.AllStylesFit()) MsgBoxById(Handle(), nullptr, MSG_BOOKMARK_TOO_MANY_USED, MB_OK | MB_ICONEXCLAMATION);
 }
 
 // False when there is something that the user has to finish first.
 bool CBookmarkPage::FinishEdits() {
-  if (IsDialogOpen() && formatDialog_->IsModified()) return false;
+  if (dialog_.IsOpen() && dialog_->IsModified()) return false;
   if (!LeaveEditors()) return false;
   CloseDialog();
   return true;
@@ -140,7 +139,7 @@ void CBookmarkPage::UpdateControls() {
       {IDC_BOOKMARK_LIST, use},
       {IDC_BOOKMARK_SELECT_ALL, use && rows > 0},
       {IDC_BOOKMARK_NEW, changeable},
-      {IDC_BOOKMARK_EDIT, use && selected && !IsDialogOpen()},
+      {IDC_BOOKMARK_EDIT, use && selected && !dialog_.IsOpen()},
       {IDC_BOOKMARK_COPY, changeable && selected},
       {IDC_BOOKMARK_REMOVE, deleteAllowed_},
       {IDC_BOOKMARK_REMOVE_ALL, changeable && rows > kStandardRows},
@@ -149,7 +148,7 @@ void CBookmarkPage::UpdateControls() {
 
   CButton(Item(IDC_BOOKMARK_SELECT_ALL)).SetCheck(rows > 0 && AreAllChecked());
   if (!selected) CloseDialog();
-  if (IsDialogOpen()) formatDialog_->UpdateLock();
+  if (dialog_.IsOpen()) dialog_->UpdateLock();
   list_.UpdateHint(use);
   Item(IDC_BOOKMARK_SELECT_ALL).Show(false);
   if (wordMode_) ShowWordMode();
@@ -199,20 +198,18 @@ void CBookmarkPage::OnEditFormat() { ShowBookmarkFormatDialog(false); }
 // By keyboard there is no other way into a dialog that is open already.
 void CBookmarkPage::OnReturn() {
   OnEditFormat();
-  if (IsDialogOpen()) formatDialog_->Activate();
+  if (dialog_.IsOpen()) dialog_->Activate();
 }
 
 void CBookmarkPage::OnDblClk(WindowMessage& message) {
-  const auto& click = reinterpret_cast<const NMITEMACTIVATE&>(message.Notify());
-  const int row = click.iItem >= 0 ? click.iItem : list_.RowAt(click.ptAction);
+  const int row = ClickedRow(list_, message);
   if (row < 0) return;
   list_.SelectRow(row);
   OnEditFormat();
 }
 
 void CBookmarkPage::OnKeyDown(WindowMessage& message) {
-  const WORD key = reinterpret_cast<const NMLVKEYDOWN&>(message.Notify()).wVKey;
-  if (key == VK_DELETE && deleteAllowed_) OnRemoveFormat();
+  if (IsDeleteKey(message) && deleteAllowed_) OnRemoveFormat();
 }
 
 void CBookmarkPage::OnRemoveFormat() {
@@ -260,7 +257,7 @@ void CBookmarkPage::OnItemChanged(WindowMessage& message) {
 
 // What was changed in the dialog and not applied is lost.
 void CBookmarkPage::OnListEdited() {
-  if (IsDialogOpen() && SelectedRow())
+  if (dialog_.IsOpen() && SelectedRow())
     ShowBookmarkFormatDialog(false);
   else
     UpdateControls();
@@ -279,7 +276,7 @@ bool CBookmarkPage::AcceptsName(int row, const CUString& name) {
 }
 
 int CBookmarkPage::Tell(uint32_t messageId, UINT flags, const CUString& argument) {
-  const DialogPause pause(formatDialog_.get());
+  const DialogPause pause(dialog_.Get());
   return CNemUIPage::Tell(messageId, flags, argument);
 }
 
@@ -288,22 +285,21 @@ int CBookmarkPage::Tell(uint32_t messageId, UINT flags, const CUString& argument
 void CBookmarkPage::ShowBookmarkFormatDialog(bool isNew) {
   const BookmarkRow* const row = SelectedRow();
   if (!row) return;
-  const bool isOpen = IsDialogOpen();
+  const bool isOpen = dialog_.IsOpen();
   if (!isOpen) {
-    formatDialog_ = std::make_unique<CBookmarkFormatDialog>(/*underlineLocked=*/!wordMode_);
-    formatDialog_->fonts = fonts_;
+    dialog_.Make(/*underlineLocked=*/!wordMode_).fonts = fonts_;
   }
-  formatDialog_->format = row->Format();
-  formatDialog_->isNew = isNew;
-  formatDialog_->nameEditable = formatDialog_->formatEditable = row->CanRename();
+  dialog_->format = row->Format();
+  dialog_->isNew = isNew;
+  dialog_->nameEditable = dialog_->formatEditable = row->CanRename();
   editedRow_ = row;
   if (isOpen) {
-    formatDialog_->Load();
-    formatDialog_->Show(true);
-  } else if (!formatDialog_->Open(*this)) {
+    dialog_->Load();
+    dialog_->Show(true);
+  } else if (!dialog_->Open(*this)) {
     CloseDialog();
   }
-  if (isNew && IsDialogOpen()) formatDialog_->Activate();
+  if (isNew && dialog_.IsOpen()) dialog_->Activate();
   UpdateControls();
 }
 
@@ -311,9 +307,9 @@ void CBookmarkPage::ShowBookmarkFormatDialog(bool isNew) {
 // dialog its object may end.
 bool CBookmarkPage::CheckFormatDialog(uint32_t& messageId, CUString& argument) const {
   messageId = 0;
-  if (!formatDialog_->Save()) return false;
+  if (!dialog_->Save()) return false;
   if (wordMode_) return true;
-  const CBookmarkFormat& format = formatDialog_->format;
+  const CBookmarkFormat& format = dialog_->format;
   argument = format.displayName;
   argument.TrimBoth();
   if (!IsValidBookmarkName(argument)) {
@@ -338,12 +334,12 @@ bool CBookmarkPage::TakeDialogValues() {
   uint32_t messageId = 0;
   CUString argument;
   if (!CheckFormatDialog(messageId, argument)) {
-    if (messageId) formatDialog_->ShowCheckMessage(messageId, argument);
+    if (messageId) dialog_->ShowCheckMessage(messageId, argument);
     return false;
   }
   if (BookmarkRow* const row = SelectedRow()) {
-    formatDialog_->format.displayName.TrimBoth();
-    row->Take(formatDialog_->format);
+    dialog_->format.displayName.TrimBoth();
+    row->Take(dialog_->format);
     list_.RefreshRow(list_.SelectionMark(), true);
   }
   return true;
@@ -351,20 +347,20 @@ bool CBookmarkPage::TakeDialogValues() {
 
 // A dialog that is gone may have posted more than one message.
 void CBookmarkPage::OnDialogApply() {
-  if (!IsDialogOpen() || !TakeDialogValues()) return;
-  formatDialog_->ClearModified();
+  if (!dialog_.IsOpen() || !TakeDialogValues()) return;
+  dialog_->ClearModified();
   UpdateControls();
 }
 
 void CBookmarkPage::OnDialogOk() {
-  if (!IsDialogOpen() || !TakeDialogValues()) return;
+  if (!dialog_.IsOpen() || !TakeDialogValues()) return;
   CloseDialog();
   UpdateControls();
 }
 
 void CBookmarkPage::OnDialogCancel(WPARAM mark, LPARAM) {
-  if (!IsDialogOpen()) return;
-  if (mark == CBookmarkFormatDialog::kNewFormat) {
+  if (!dialog_.IsOpen()) return;
+  if (mark == kNewListEntry) {
     const FillingScope filling(*this);
     list_.RemoveSelected();
   }
@@ -373,14 +369,11 @@ void CBookmarkPage::OnDialogCancel(WPARAM mark, LPARAM) {
 }
 
 void CBookmarkPage::CloseDialog() {
-  const auto dialog = std::move(formatDialog_);
   editedRow_ = nullptr;
-  if (!dialog || !dialog->IsWindow()) return;
-  dialog->Close();
-  if (::IsWindowVisible(window_)) Focus();
+  dialog_.Close(*this);
 }
 
 void CBookmarkPage::OnDestroy() {
-  formatDialog_.reset();
+  dialog_.Drop();
   noteBox_.reset();
 }

@@ -65,7 +65,6 @@ class CBookmarkPage : public CTrackedPage<BookmarkCockpitValues>, private Bookma
   bool IsNameTaken(const CUString& name, const BookmarkListEntry* except) const;
   void CreateNewBookmarkFormat(bool forceDefault);
 
-  bool IsDialogOpen() const { return formatDialog_ && formatDialog_->IsWindow(); }
   void ShowBookmarkFormatDialog(bool isNew);
   bool CheckFormatDialog(uint32_t& messageId, CUString& argument) const;
   bool TakeDialogValues();
@@ -78,7 +77,7 @@ class CBookmarkPage : public CTrackedPage<BookmarkCockpitValues>, private Bookma
   CUStringArray fonts_;
   bool wordMode_ = false;       // the rows are the styles of the document that is open in Word
   bool deleteAllowed_ = false;  // the Delete key may remove the selected row
-  std::unique_ptr<CBookmarkFormatDialog> formatDialog_;
+  ListEntryDialog<CBookmarkFormatDialog> dialog_;
   const BookmarkListEntry* editedRow_ = nullptr;  // whose format is in the dialog; only to be compared
   std::unique_ptr<CTextBox> noteBox_;
 };

@@ -208,7 +208,7 @@ int CFormatPage::SelectedVersion() const {
 }
 
 void CFormatPage::ShowSaveChoice(SaveChoice choice) {
-  ::CheckRadioButton(window_, IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_ASK, RadioOf(choice));
+  ::CheckRadioButton(Handle(), IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_ASK, RadioOf(choice));
 }
 
 SaveChoice CFormatPage::ShownSaveChoice() const {
@@ -220,7 +220,7 @@ SaveChoice CFormatPage::ShownSaveChoice() const {
 // The engine that a version forces is shown and not stored: the choice comes back with a version that leaves it.
 void CFormatPage::ShowEngine() {
   const bool isRtf = RequiresTags(version) || saveConversion == 1;
-  ::CheckRadioButton(window_, IDC_FORMAT_ENGINE_DRIVER, IDC_FORMAT_ENGINE_RTF,
+  ::CheckRadioButton(Handle(), IDC_FORMAT_ENGINE_DRIVER, IDC_FORMAT_ENGINE_RTF,
                      isRtf ? IDC_FORMAT_ENGINE_RTF : IDC_FORMAT_ENGINE_DRIVER);
 }
 

@@ -69,7 +69,7 @@ void CPdfFontsPage::LoadControls() {
   ListInstalledFonts();
   showsForcedRadio_ = MustEmbedAll();
   radioInForce_ = showsForcedRadio_ ? IDC_FONTS_ALL : RadioOf(mode);
-  ::CheckRadioButton(window_, IDC_FONTS_NONE, IDC_FONTS_SELECTIVE, radioInForce_);
+  ::CheckRadioButton(Handle(), IDC_FONTS_NONE, IDC_FONTS_SELECTIVE, radioInForce_);
   FillLists();
   UpdateControls();
 }
@@ -143,7 +143,7 @@ void CPdfFontsPage::ListInstalledFonts() {
   embedList_.LoadPictures();
   neverList_.LoadPictures();
   const ListRedrawScope redraw(embedList_);
-  const WindowDC dc(window_);
+  const WindowDC dc(Handle());
   enumerateFonts(dc, [this](const InstalledFont& font) { AddFont(font); });
 }
 

@@ -149,7 +149,7 @@ void CPdfSecurityPage::ExchangeValues(CDataExchange& exchange) {
 
 void CPdfSecurityPage::ExchangeEditingMode(CDataExchange& exchange) {
   if (exchange.IsLoading()) {
-    ::CheckRadioButton(window_, IDC_SECURITY_EDITING_NONE, IDC_SECURITY_EDITING_INDEPENDENT, RadioOf(enhancedMode));
+    ::CheckRadioButton(Handle(), IDC_SECURITY_EDITING_NONE, IDC_SECURITY_EDITING_INDEPENDENT, RadioOf(enhancedMode));
     return;
   }
   enhancedMode = kOwnersForEditing;
@@ -175,7 +175,7 @@ void CPdfSecurityPage::ConfirmPasswords(CDataExchange& exchange) {
   CPwdConfirmDialog dialog(GetHelpFilename());
   for (const PasswordKind kind : kPasswordKinds)
     if (IsConfirmed(kind, switches, states[kind].isSet)) dialog.expected[kind] = *passwords[kind];
-  if (dialog.DoModal(window_) == IDOK)
+  if (dialog.DoModal(Handle()) == IDOK)
     ForgetTouches();
   else
     exchange.Fail(EditToCorrect());

@@ -192,12 +192,12 @@ void CProgramPage::OnBrowse() {
 
 void CProgramPage::BrowseForFile() {
   const auto chosen =
-      AskForFileToSave(window_, {.filter = MessageText(MSG_SAVING_FILTER_PDF) + MessageText(MSG_SAVING_FILTER_ALL),
-                                 .flags = OFN_PATHMUSTEXIST,
-                                 .pathRoom = kChosenPathRoom,
-                                 .startName = Item(IDC_SAVING_FILE).Text().Left(kFileLimit),
-                                 .startFolder = Item(IDC_SAVING_FOLDER).Text().Left(kFolderLimit),
-                                 .defaultExtension = L"pdf"});
+      AskForFileToSave(Handle(), {.filter = MessageText(MSG_SAVING_FILTER_PDF) + MessageText(MSG_SAVING_FILTER_ALL),
+                                  .flags = OFN_PATHMUSTEXIST,
+                                  .pathRoom = kChosenPathRoom,
+                                  .startName = Item(IDC_SAVING_FILE).Text().Left(kFileLimit),
+                                  .startFolder = Item(IDC_SAVING_FOLDER).Text().Left(kFolderLimit),
+                                  .defaultExtension = L"pdf"});
   if (!chosen) return;
   const auto target = SplitChosenFile(chosen->path, chosen->title);
   if (!target) return;
@@ -206,7 +206,7 @@ void CProgramPage::BrowseForFile() {
 }
 
 void CProgramPage::BrowseForFolder() {
-  CBrowseForFolder picker(window_);
+  CBrowseForFolder picker(Handle());
   picker.SetTitle(GetMsgBoxTitle().Text());
   if (!picker.SelectFolder()) return;
   Item(IDC_SAVING_FOLDER).SetText(picker.GetFolder().Text());

@@ -82,7 +82,7 @@ void CStationeryPropertiesDialog::OnFieldChanged() {
 void CStationeryPropertiesDialog::OnApply() {
   if (!HasDescription()) return;
   Save();
-  PostToPage(kAppliedMessage, NewMark());
+  PostToPage(kEntryAppliedMessage, NewEntryMark(isNew_));
   modified_ = false;
   Item(IDC_STATIONERY_APPLY).Enable(false);
   PostToPage(kModifiedMessage);
@@ -91,10 +91,10 @@ void CStationeryPropertiesDialog::OnApply() {
 void CStationeryPropertiesDialog::OnOk() {
   if (!HasDescription()) return;
   Save();
-  PostToPage(kOkMessage, NewMark());
+  PostToPage(kEntryOkMessage, NewEntryMark(isNew_));
 }
 
-void CStationeryPropertiesDialog::OnCancel() { PostToPage(kCancelledMessage, NewMark()); }
+void CStationeryPropertiesDialog::OnCancel() { PostToPage(kEntryCancelledMessage, NewEntryMark(isNew_)); }
 
 // With the box up the dialog may come to its end, and this object with it.
 bool CStationeryPropertiesDialog::HasDescription() const {

@@ -4,16 +4,12 @@
 #include <memory>
 
 #include "pages/CStationeryFormat.h"
-#include "window/CModelessDialog.h"
+#include "pages/ListEntryDialog.h"
 
 class CStationeryPropertiesDialog final : public CModelessDialog {
  public:
-  // Posted to the page. With the first three comes kNewEntry when the entry has just been made, else 0.
-  static constexpr UINT kAppliedMessage = 0x84D;
-  static constexpr UINT kCancelledMessage = 0x84E;
-  static constexpr UINT kOkMessage = 0x84F;
+  // Posted to the page, beside those of any entry.
   static constexpr UINT kModifiedMessage = 0x850;
-  static constexpr WPARAM kNewEntry = 2101;
 
   // The entry stays the list's.
   explicit CStationeryPropertiesDialog(std::weak_ptr<CStationeryFormat> format);
@@ -40,7 +36,6 @@ class CStationeryPropertiesDialog final : public CModelessDialog {
   void Fill();
   bool HasDescription() const;
   void Save();
-  WPARAM NewMark() const { return isNew_ ? kNewEntry : 0; }
 
   std::weak_ptr<CStationeryFormat> format_;
   bool isNew_ = false;

@@ -9,6 +9,7 @@
 #include "environment/FileDialog.h"
 #include "environment/Shell.h"
 #include "MessageIds.h"
+#include "pages/DropTargets.h"
 #include "pages/FormatAccess.h"
 #include "pages/PdfVersions.h"
 #include "pages/StationeryList.h"
@@ -36,7 +37,6 @@ CWatermarkPage::~CWatermarkPage() {
 }
 
 MessageTable CWatermarkPage::Messages() const {
-  using Dialog = CStationeryPropertiesDialog;
   static constexpr MessageRow kMessages[] = {
       OnClick<&CWatermarkPage::OnWatermarkCheck>(IDC_WATERMARK_USE),
       OnClick<&CWatermarkPage::OnBrowseWatermark>(IDC_WATERMARK_BROWSE),
@@ -48,10 +48,10 @@ MessageTable CWatermarkPage::Messages() const {
       OnNotify<&CWatermarkPage::OnStationeryDblClk>(IDC_STATIONERY_LIST, static_cast<UINT>(NM_DBLCLK)),
       OnNotify<&CWatermarkPage::OnStationeryProperties>(IDC_STATIONERY_LIST, static_cast<UINT>(NM_RETURN)),
       OnNotify<&CWatermarkPage::OnStationeryKey>(IDC_STATIONERY_LIST, static_cast<UINT>(LVN_KEYDOWN)),
-      OnMessage<&CWatermarkPage::StationeryApplied>(Dialog::kAppliedMessage),
-      OnMessage<&CWatermarkPage::StationeryCancelled>(Dialog::kCancelledMessage),
-      OnMessage<&CWatermarkPage::StationeryOk>(Dialog::kOkMessage),
-      OnMessage<&CWatermarkPage::StationeryModified>(Dialog::kModifiedMessage),
+      OnMessage<&CWatermarkPage::StationeryApplied>(kEntryAppliedMessage),
+      OnMessage<&CWatermarkPage::StationeryCancelled>(kEntryCancelledMessage),
+      OnMessage<&CWatermarkPage::StationeryOk>(kEntryOkMessage),
+      OnMessage<&CWatermarkPage::StationeryModified>(CStationeryPropertiesDialog::kModifiedMessage),
       OnMessage<&CWatermarkPage::OnDropFiles>(WM_DROPFILES),
       OnMessage<&CWatermarkPage::OnDestroy>(WM_DESTROY),
   };
@@ -112,7 +112,7 @@ bool CWatermarkPage::HasWatermarkFile() {
 }
 
 void CWatermarkPage::LoadStationeries() {
-  CloseProperties();
+  dialog_.Close(*this);
   list_.Clear();
   // What can be read of the text is there; nobody is told of the rest.
   StationeryFormats formats;
@@ -129,7 +129,7 @@ void CWatermarkPage::SaveStationeries() {
   if (formats.empty()) stationeryEnabled = 0;
   WipeText(stationeryInfos);
   stationeryInfos = StationeryListText(formats);
-  CloseProperties();
+  dialog_.Close(*this);
 }
 
 // --- What is enabled ------------------------------------------------------------------------------------------------
@@ -168,16 +168,16 @@ void CWatermarkPage::ApplyOverrides() {
 
 // Empty when the user has chosen none, or the page has come to its end meanwhile.
 CUString CWatermarkPage::AskForFile(uint32_t filterId, const CUString& startName) {
-  const DialogPause pause(propertiesDialog_.get());
+  const DialogPause pause(dialog_.Get());
   const CActivationScope look;
   const auto file =
-      AskForFileToOpen(window_, {.filter = CUString(MessageText(filterId).Text()), .startName = startName});
+      AskForFileToOpen(Handle(), {.filter = CUString(MessageText(filterId).Text()), .startName = startName});
   return file && IsWindow() ? file->path : CUString();
 }
 
 void CWatermarkPage::Tell(const wchar_t* title, const CUString& text, UINT icon) {
-  const DialogPause pause(propertiesDialog_.get());
-  MsgBox(window_, title, text.Text(), MB_OK | icon);
+  const DialogPause pause(dialog_.Get());
+  MsgBox(Handle(), title, text.Text(), MB_OK | icon);
 }
 
 void CWatermarkPage::OnBrowseWatermark() {
@@ -197,28 +197,23 @@ void CWatermarkPage::AddStationery(const CUString& file) {
   if (row < 0) return;
   list_.SelectRow(row);
   ShowProperties(format);
-  if (IsPropertiesOpen()) {
-    propertiesDialog_->SetNew();
-    propertiesDialog_->Activate();
-    propertiesDialog_->UpdateLock();
+  if (dialog_.IsOpen()) {
+    dialog_->SetNew();
+    dialog_->Activate();
+    dialog_->UpdateLock();
   }
   EnableStationeryControls(true);
 }
 
-bool CWatermarkPage::IsOver(int control, POINT point) const {
-  const RECT area = Item(control).RectIn(*this);
-  return Item(control).IsShown() && ::PtInRect(&area, point);
-}
-
 // The group boxes lie in front of the controls in them, so what falls on a button falls on its group. Whether the check
 // boxes are on does not matter. What is fixed stays; while the dialog holds changes, all of the page does.
-void CWatermarkPage::OnDropFiles(WPARAM drop, LPARAM) {
-  const DroppedFiles files = TakeDroppedFiles(drop);
-  if (files.paths.Count() != 1 || (IsPropertiesOpen() && propertiesDialog_->IsModified())) return;
-  const CUString& file = files.paths[0];
-  if (IsOver(IDC_WATERMARK_GROUP, files.point)) {
+void CWatermarkPage::OnDropFiles(WPARAM record, LPARAM) {
+  const DroppedFiles dropped = TakeDroppedFiles(record);
+  if (dropped.paths.Count() != 1 || (dialog_.IsOpen() && dialog_->IsModified())) return;
+  const CUString& file = dropped.paths[0];
+  if (IsOnControl(*this, dropped.point, {IDC_WATERMARK_GROUP})) {
     if (!watermarkFilenameOverride.IsSet()) Item(IDC_WATERMARK_FILE).SetText(file.Text());
-  } else if (IsOver(IDC_STATIONERY_GROUP, files.point)) {
+  } else if (IsOnControl(*this, dropped.point, {IDC_STATIONERY_GROUP})) {
     if (!IsListFixed()) DropStationery(file);
   }
 }
@@ -242,26 +237,24 @@ void CWatermarkPage::OnStationeryProperties() {
 }
 
 void CWatermarkPage::OnStationeryDblClk(WindowMessage& message) {
-  const auto& click = reinterpret_cast<const NMITEMACTIVATE&>(message.Notify());
-  const int row = click.iItem >= 0 ? click.iItem : list_.RowAt(click.ptAction);
+  const int row = ClickedRow(list_, message);
   if (row < 0) return;
   list_.SelectRow(row);
   OnStationeryProperties();
 }
 
 void CWatermarkPage::OnStationeryKey(WindowMessage& message) {
-  const WORD key = reinterpret_cast<const NMLVKEYDOWN&>(message.Notify()).wVKey;
-  if (key == VK_DELETE && Item(IDC_STATIONERY_DELETE).IsEnabled()) OnDeleteStationery();
+  if (IsDeleteKey(message) && Item(IDC_STATIONERY_DELETE).IsEnabled()) OnDeleteStationery();
 }
 
 void CWatermarkPage::OnDisplayStationery() {
-  if (const auto format = SelectedStationery()) OpenWithShell(window_, format->GetFile().Text(), SW_SHOWNORMAL);
+  if (const auto format = SelectedStationery()) OpenWithShell(Handle(), format->GetFile().Text(), SW_SHOWNORMAL);
 }
 
 void CWatermarkPage::OnDeleteStationery() {
   const StationeryListEntry* const entry = list_.Entry(list_.SelectionMark());
   if (!entry) return;
-  if (IsPropertiesOpen() && propertiesDialog_->GetFormat() == SelectedStationery()) CloseProperties();
+  if (dialog_.IsOpen() && dialog_->GetFormat() == SelectedStationery()) dialog_.Close(*this);
   list_.RemoveEntry(entry);
   EnableStationeryControls(true);
 }
@@ -269,37 +262,29 @@ void CWatermarkPage::OnDeleteStationery() {
 // --- Properties -----------------------------------------------------------------------------------------------------
 
 void CWatermarkPage::ShowProperties(const std::shared_ptr<CStationeryFormat>& format) {
-  if (IsPropertiesOpen()) {
-    propertiesDialog_->SetFormat(format);
+  if (dialog_.IsOpen()) {
+    dialog_->SetFormat(format);
     return;
   }
-  propertiesDialog_ = std::make_unique<CStationeryPropertiesDialog>(format);
-  if (!propertiesDialog_->Open(*this)) propertiesDialog_.reset();
-}
-
-void CWatermarkPage::CloseProperties() {
-  const auto dialog = std::move(propertiesDialog_);
-  if (!dialog || !dialog->IsWindow()) return;
-  dialog->Close();
-  if (::IsWindowVisible(window_)) Focus();
+  if (!dialog_.Make(format).Open(*this)) dialog_.Drop();
 }
 
 void CWatermarkPage::StationeryApplied() { list_.RefreshRows(); }
 
 void CWatermarkPage::StationeryOk() {
   list_.RefreshRows();
-  CloseProperties();
+  dialog_.Close(*this);
 }
 
 // A dialog that is gone may have been cancelled twice: the second time must not take the next entry.
 void CWatermarkPage::StationeryCancelled(WPARAM mark, LPARAM) {
-  if (!IsPropertiesOpen()) return;
-  if (mark == CStationeryPropertiesDialog::kNewEntry) OnDeleteStationery();
-  CloseProperties();
+  if (!dialog_.IsOpen()) return;
+  if (mark == kNewListEntry) OnDeleteStationery();
+  dialog_.Close(*this);
 }
 
 void CWatermarkPage::StationeryModified() {
-  if (IsPropertiesOpen()) propertiesDialog_->UpdateLock();
+  if (dialog_.IsOpen()) dialog_->UpdateLock();
 }
 
-void CWatermarkPage::OnDestroy() { propertiesDialog_.reset(); }
+void CWatermarkPage::OnDestroy() { dialog_.Drop(); }

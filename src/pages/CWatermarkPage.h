@@ -55,7 +55,7 @@ class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public Stati
   void OnDeleteStationery();
   void OnStationeryDblClk(WindowMessage& message);
   void OnStationeryKey(WindowMessage& message);
-  void OnDropFiles(WPARAM drop, LPARAM);
+  void OnDropFiles(WPARAM record, LPARAM);
   void OnDestroy();
 
   void StationeryApplied();
@@ -68,13 +68,10 @@ class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public Stati
   bool HasWatermarkFile();
   void AddStationery(const CUString& file);
   void DropStationery(const CUString& file);
-  bool IsOver(int control, POINT point) const;
   std::shared_ptr<CStationeryFormat> Stationery(int row) const;
   std::shared_ptr<CStationeryFormat> SelectedStationery() const { return Stationery(list_.SelectionMark()); }
 
-  bool IsPropertiesOpen() const { return propertiesDialog_ && propertiesDialog_->IsWindow(); }
   void ShowProperties(const std::shared_ptr<CStationeryFormat>& format);
-  void CloseProperties();
 
   void EnableStationeryControls(bool enable);
   void ApplyOverrides();
@@ -83,5 +80,5 @@ class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public Stati
   CListCtrlStationery list_;
   CImageStatic picture_;
   CMyHyperLink stationeryLink_;
-  std::unique_ptr<CStationeryPropertiesDialog> propertiesDialog_;
+  ListEntryDialog<CStationeryPropertiesDialog> dialog_;
 };

@@ -62,7 +62,7 @@ LRESULT CZugferdPage::ShowHelpForControl(WPARAM controlId, LPARAM argument) {
   if (controlId != IDC_ZUGFERD_HELP_LINK) return CTrackedPage::ShowHelpForControl(controlId, argument);
   CUString folder;
   GetProductInstallLocation(folder);
-  OpenWithShell(window_, MarkedContentManual(folder).Text(), SW_SHOW, nullptr);
+  OpenWithShell(Handle(), MarkedContentManual(folder).Text(), SW_SHOW, nullptr);
   return 1;
 }
 
@@ -119,10 +119,10 @@ void CZugferdPage::OnCreationMethod() {
 // Cancel forgets the former file, on purpose.
 void CZugferdPage::OnBrowseXml() {
   const CActivationScope look;
-  const auto file = AskForFileToOpen(window_, {.filter = kXmlFilter,
-                                               .flags = OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST,
-                                               .pathRoom = kXmlPathRoom,
-                                               .startName = {}});
+  const auto file = AskForFileToOpen(Handle(), {.filter = kXmlFilter,
+                                                .flags = OFN_FILEMUSTEXIST | OFN_PATHMUSTEXIST,
+                                                .pathRoom = kXmlPathRoom,
+                                                .startName = {}});
   // The dialog may have ended the page.
   if (IsWindow()) TakeXmlFile(file ? file->path : CUString());
 }
@@ -139,7 +139,7 @@ void CZugferdPage::OnDropFiles(WPARAM record, LPARAM) {
   if (IsXmlFilename(dropped.paths[0]))
     TakeXmlFile(dropped.paths[0]);
   else
-    MsgBox(window_, MessageText(MSG_ERROR_TITLE).Text(), kInvalidXmlFile, MB_OK);
+    MsgBox(Handle(), MessageText(MSG_ERROR_TITLE).Text(), kInvalidXmlFile, MB_OK);
 }
 
 void CZugferdPage::UpdateControls() {

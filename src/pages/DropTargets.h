@@ -6,10 +6,10 @@
 
 #include "window/CWnd.h"
 
-// Whether a point of the page lies on one of its controls, which need not be enabled.
+// Whether a point of the page lies on one of its controls that are shown; they need not be enabled.
 inline bool IsOnControl(const CWnd& page, POINT point, std::initializer_list<int> controls) {
   return std::ranges::any_of(controls, [&](int id) {
     const RECT rect = page.Item(id).RectIn(page);
-    return ::PtInRect(&rect, point);
+    return page.Item(id).IsShown() && ::PtInRect(&rect, point);
   });
 }
