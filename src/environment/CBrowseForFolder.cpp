@@ -30,14 +30,14 @@ struct LibraryFreer {
 };
 using Library = std::unique_ptr<std::remove_pointer_t<HMODULE>, LibraryFreer>;
 
-// The new style of the picker needs OLE on its thread. A thread that shares its objects cannot have it; the picker then
-// does what it can.
+// OLE on this thread, which a thread of the multi-threaded apartment cannot have.
 class OleScope {
  public:
   OleScope() : initialized_(SUCCEEDED(::OleInitialize(nullptr))) {}
   ~OleScope() {
     if (initialized_) ::OleUninitialize();
   }
+  bool IsInitialized() const { return initialized_; }
   OleScope(const OleScope&) = delete;
   OleScope& operator=(const OleScope&) = delete;
 
@@ -83,14 +83,17 @@ bool CBrowseForFolder::SelectFolder() {
     TraceError("CBrowseForFolder::SelectFolder: GetProcAddress(\"SHGetMalloc\") failed");
     return false;
   }
-  const OleScope ole;
   const bool selected = RunPicker(shell);
   dialogWindow_ = nullptr;
   return selected;
 }
 
 bool CBrowseForFolder::RunPicker(const ShellFunctions& shell) {
-  const PIDLIST_ABSOLUTE item = shell.browse(&info_);
+  const OleScope ole;
+  BROWSEINFOW info = info_;
+  // The new style needs OLE: the shell shows no picker at all where it cannot have both.
+  if (!ole.IsInitialized()) info.ulFlags &= ~static_cast<UINT>(BIF_NEWDIALOGSTYLE);
+  const PIDLIST_ABSOLUTE item = shell.browse(&info);
   if (!item) return false;
   const bool selected = shell.pathOf(item, path_);
   IMalloc* allocator = nullptr;

@@ -6,7 +6,8 @@
 
 #include "DriverLIB/CUString.h"
 
-// The system's folder picker. It takes the thread's activation context: whoever selects stands in a scope of it.
+// The system's folder picker. It takes the thread's activation context: whoever selects stands in a scope of it. On a
+// thread of the multi-threaded apartment it comes in its older style.
 class CBrowseForFolder {
  public:
   // Both may be null: no owner window, and the desktop as root. The root stays the caller's.

@@ -276,6 +276,19 @@ TEST_F(CBrowseForFolderTest, AsksTheShellForFoldersOfTheFileSystem) {
   EXPECT_EQ(root, shell.info.pidlRoot) << "a root set while the picker was up had no effect";
 }
 
+// There the shell shows no picker of the new style.
+TEST_F(CBrowseForFolderTest, AsksForTheOldStyleInTheMultiThreadedApartment) {
+  ASSERT_TRUE(SUCCEEDED(CoInitializeEx(nullptr, COINIT_MULTITHREADED)));
+  CBrowseForFolder picker;
+  FakeShell shell;
+  shell.whileUp = [](HWND) {};
+  EXPECT_TRUE(SelectIn(shell, picker));
+  EXPECT_EQ(static_cast<UINT>(BIF_RETURNONLYFSDIRS), shell.info.ulFlags);
+  CoUninitialize();
+  EXPECT_TRUE(SelectIn(shell, picker));
+  EXPECT_EQ(65u, shell.info.ulFlags) << "which lasts for that time only";
+}
+
 TEST_F(CBrowseForFolderTest, TurnsOkOffWhenAValidationFailed) {
   CBrowseForFolder picker;
   FakeShell shell;
