@@ -27,6 +27,25 @@ std::wstring PathBuffer(const FileDialogRequest& request) {
   return buffer;
 }
 
+// The dialogs move the current directory of the process to where the user browses, for good. It is the host's: relative
+// paths go by it, and a folder that it stands in cannot be removed. The flag against that is documented as without
+// effect on opening.
+class CurrentDirectoryKeeper {
+ public:
+  CurrentDirectoryKeeper() : directory_(::GetCurrentDirectoryW(0, nullptr), L'\0') {
+    const DWORD length = ::GetCurrentDirectoryW(static_cast<DWORD>(directory_.size()), directory_.data());
+    if (length >= directory_.size()) directory_.clear();  // another thread has just moved it
+  }
+  ~CurrentDirectoryKeeper() {
+    if (!directory_.empty()) ::SetCurrentDirectoryW(directory_.c_str());
+  }
+  CurrentDirectoryKeeper(const CurrentDirectoryKeeper&) = delete;
+  CurrentDirectoryKeeper& operator=(const CurrentDirectoryKeeper&) = delete;
+
+ private:
+  std::wstring directory_;
+};
+
 const wchar_t* TextOrNull(const CUString& text) { return text.IsEmpty() ? nullptr : text.Text(); }
 
 bool WasNameRefused() {
@@ -54,6 +73,7 @@ std::optional<ChosenFile> AskForFile(const char* function, HWND owner, const Fil
   dialog.lpstrDefExt = TextOrNull(request.defaultExtension);
   dialog.Flags = request.flags;
 
+  const CurrentDirectoryKeeper directory;
   bool chosen = ask(&dialog);
   // A start name with characters that no file may have keeps the dialog from coming up at all.
   if (!chosen && WasNameRefused()) {

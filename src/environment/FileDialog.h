@@ -1,5 +1,6 @@
 // The system's dialogs in which the user chooses a file to open or a name to save under, bound at first use. They take
-// the thread's activation context: whoever asks stands in a scope of it. A dialog can end the window that asked.
+// the thread's activation context: whoever asks stands in a scope of it. A dialog can end the window that asked. The
+// process's current directory is the same afterwards as before.
 #pragma once
 
 #include <windows.h>

@@ -10,6 +10,7 @@
 #include "driver/CommonDialogs.h"
 #include "driver/ImportPatch.h"
 #include "driver/Popups.h"
+#include "support/CurrentDirectory.h"
 #include "support/FileDialogSpy.h"
 #include "support/PrintText.h"
 #include "window/CActivationContext.h"
@@ -64,6 +65,22 @@ TEST_F(FileDialogTest, GivesNothingWhenCancelled) {
     popups.ExpectDialog(DismissDialog);
     EXPECT_FALSE(ask(nullptr, {.filter = L"All files(*.*)|*.*|"}));
   }
+}
+
+TEST_F(FileDialogTest, LeavesTheCurrentDirectoryAsItWas) {
+  const CurrentDirectory there(L"C:\\windows");
+  popups.ExpectDialog([](HWND dialog) { ChooseFile(dialog, kLibrary); });
+  EXPECT_TRUE(AskForFileToOpen(nullptr, {.filter = L"All files(*.*)|*.*|"}));
+  EXPECT_EQ(L"C:\\windows", CurrentDirectory::Name());
+
+  FileDialogSpy spy;
+  spy.whileUp = [] { SetCurrentDirectoryW(kFolder); };
+  for (const wchar_t* chosen : {L"", L"C:\\a.pdf"})
+    for (const auto ask : {&AskForFileToOpen, &AskForFileToSave}) {
+      spy.chosen = chosen;
+      ask(nullptr, {.filter = L"All files(*.*)|*.*|"});
+      EXPECT_EQ(L"C:\\windows", CurrentDirectory::Name());
+    }
 }
 
 TEST_F(FileDialogTest, BelongsToItsOwner) {
