@@ -24,6 +24,10 @@ CUString DriverDirectoryOf(const wchar_t* printerName) {
   return {};
 }
 
+// An install location that is not recorded, or without its folder, would lead to the root of the current drive or to a
+// server of the tool's name.
+bool HasFolder(const CUString& location) { return location.Length() > 1; }
+
 bool WaitForEnd(HANDLE process) {
   const bool ended = ::WaitForSingleObject(process, INFINITE) == WAIT_OBJECT_0;
   ::CloseHandle(process);
@@ -52,6 +56,7 @@ CUString GetProductDirectory() { return GetAddInNEMDllPath(); }
 bool RunAdminTool(const wchar_t* parameters) {
   CUString tool;
   GetProductInstallLocation(tool);
+  if (!HasFolder(tool)) return false;
   tool += L"\\";  // a second one, which the system takes as one
   tool += kAdminTool;
   SHELLEXECUTEINFOW info = {};

@@ -14,5 +14,5 @@ CUString GetAddInNEMDllPath();
 CUString GetProductDirectory();
 
 // Runs the administrator's tool from the install location and waits for its end, however long it takes. True when it
-// ran; what it achieved is not known.
+// ran; what it achieved is not known. False when the install location is not known.
 bool RunAdminTool(const wchar_t* parameters);

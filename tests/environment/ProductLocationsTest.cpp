@@ -147,12 +147,23 @@ TEST_F(AdminToolTest, IsOpenedFromTheInstallLocation) {
       << "the caller tells the user of a failure, not the shell";
 }
 
+// It would be looked for in the root of the current drive, or on a server of its name.
+TEST_F(AdminToolTest, IsNotOpenedWithoutAnInstallLocation) {
+  executedFile.clear();
+  EXPECT_FALSE(RunNotedAdminTool(nullptr, ERROR_SUCCESS)) << "the product is not recorded";
+  Install(L"");
+  EXPECT_FALSE(RunNotedAdminTool(nullptr, ERROR_SUCCESS)) << "its folder is not recorded";
+  EXPECT_EQ(L"", executedFile);
+}
+
 TEST_F(AdminToolTest, FailsByTheSystemsErrorWithoutAProcess) {
+  Install(L"C:\\Product");
   EXPECT_TRUE(RunNotedAdminTool(nullptr, ERROR_SUCCESS));
   EXPECT_FALSE(RunNotedAdminTool(nullptr, ERROR_CANCELLED));
 }
 
 TEST_F(AdminToolTest, FailsWhenItsEndCannotBeAwaited) {
+  Install(L"C:\\Product");
   EXPECT_FALSE(RunNotedAdminTool(reinterpret_cast<HANDLE>(static_cast<INT_PTR>(0x7FFC)), ERROR_SUCCESS));
   HANDLE ended = CreateEventW(nullptr, TRUE, TRUE, nullptr);
   EXPECT_TRUE(RunNotedAdminTool(ended, ERROR_CANCELLED)) << "with a process its end alone counts";
