@@ -4,6 +4,30 @@
 #include "DriverLIB/CEString.h"
 #include "environment/QuietErrors.h"
 
+namespace {
+
+bool IsSeparator(wchar_t character) { return character == L'\\' || character == L'/'; }
+
+// With a drive and from its root, or on a server. A null text is none.
+bool IsFullPath(const wchar_t* path) {
+  if (!path || !path[0] || !path[1]) return false;
+  return path[1] == L':' ? IsSeparator(path[2]) : IsSeparator(path[0]) && IsSeparator(path[1]);
+}
+
+// What a library needs in its turn comes from beside it or from the system, never from the host's folder, the current
+// directory or the path of the environment. A name without a folder is left to the platform's own search.
+HMODULE LoadWithItsNeeds(const wchar_t* filename) {
+  if (!IsFullPath(filename)) return ::LoadLibraryW(filename);
+  const HMODULE module =
+      ::LoadLibraryExW(filename, nullptr, LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR | LOAD_LIBRARY_SEARCH_SYSTEM32);
+  // A system that does not know these flags yet looks beside the library first, at least.
+  if (!module && ::GetLastError() == ERROR_INVALID_PARAMETER)
+    return ::LoadLibraryExW(filename, nullptr, LOAD_WITH_ALTERED_SEARCH_PATH);
+  return module;
+}
+
+}  // namespace
+
 HDllBase::~HDllBase() { FreeModule(); }
 
 void HDllBase::Init() {
@@ -16,7 +40,7 @@ bool HDllBase::LoadLibrary(const wchar_t* filename) {
   if (IsLoaded()) return true;
   {
     const QuietErrors quiet;
-    module = ::LoadLibraryW(filename);
+    module = LoadWithItsNeeds(filename);
     if (!module) lastError = ::GetLastError();
   }
   if (!module) return false;

@@ -25,7 +25,8 @@ class HDllBase {
   bool IsLoaded() const { return module != nullptr; }
   HMODULE GetModule() const { return module; }
 
-  // No effect on a loaded object: it never changes to another file.
+  // No effect on a loaded object: it never changes to another file. With a full path the libraries that the file needs
+  // come from its own folder or from the system; a bare name is found where the platform finds it.
   bool LoadLibrary(const wchar_t* filename);
   bool FreeModule();
 

@@ -28,6 +28,11 @@ NemUpdateJob::~NemUpdateJob() {
 
 bool NemUpdateJob::Load(int, const wchar_t* directory, const wchar_t* filename) {
   if (IsLoaded()) return true;
+  // The updater has no place but the product's folder.
+  if (!directory || !*directory) {
+    lastError = ERROR_PATH_NOT_FOUND;
+    return false;
+  }
   return LoadFile(directory, filename, L"NemUpdator64.dll") && BindExports(kNames, exports_) &&
          Call(exports_[Export::kCreate], &job_) && job_;
 }

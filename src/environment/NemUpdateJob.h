@@ -12,7 +12,7 @@ class NemUpdateJob : public HDll {
  public:
   ~NemUpdateJob() override;
 
-  // `flag` has no meaning yet.
+  // `flag` has no meaning yet. Without a directory nothing is loaded.
   bool Load(int flag, const wchar_t* directory, const wchar_t* filename) override;
 
   bool SetProperty(const wchar_t* name, const wchar_t* value);

@@ -6,10 +6,14 @@
 #include <stdint.h>
 #include <stdio.h>
 #include <string.h>
+#include <windows.h>
 
 #define EXPORT __declspec(dllexport)
 
 EXPORT char calls[4096];
+
+/* Throws as code of another compiler does: by an exception of the system, under that compiler's own code. */
+#define RAISE_FOREIGN() RaiseException(0xE06D7363, EXCEPTION_NONCONTINUABLE, 0, NULL)
 
 static inline int Note(const char* name, const char* first, const char* second) {
   char line[256];

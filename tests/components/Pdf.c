@@ -1,6 +1,16 @@
 #include "Component.h"
 
+#ifdef NEEDS_HELPER
+__declspec(dllimport) int NemTestHelp(void);
+#endif
+
 EXPORT int NemPdfGetVersion(uint32_t* version) {
+#ifdef VERSION_RAISES
+  RAISE_FOREIGN();
+#endif
+#ifdef NEEDS_HELPER
+  if (!NemTestHelp()) return 0;
+#endif
 #ifdef VERSION_FAILS
   (void)version;
   return 0;

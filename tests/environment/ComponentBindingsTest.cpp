@@ -15,6 +15,8 @@
 #include "environment/NemUpdateJob.h"
 #include "environment/NemVdApiDll.h"
 #include "support/ComponentFolder.h"
+#include "support/CopiedFile.h"
+#include "support/CurrentDirectory.h"
 
 namespace {
 
@@ -89,6 +91,49 @@ TEST(HDllBase, KeepsTheSystemsErrorOfAFailedLoad) {
   EXPECT_FALSE(dll.LoadLibrary(L"C:\\no such folder\\none.dll"));
   EXPECT_FALSE(dll.IsLoaded());
   EXPECT_TRUE(dll.lastError == ERROR_MOD_NOT_FOUND || dll.lastError == ERROR_PATH_NOT_FOUND) << dll.lastError;
+}
+
+// --- What a library needs in its turn ----------------------------------------------------------------------------
+
+namespace {
+
+constexpr wchar_t kHelper[] = L"NemTestHelper.dll";
+
+std::wstring NeedingFile() { return ComponentFolder(L"needing") + kPdf; }
+
+const auto realLoadLibrary = RealFunction("kernel32.dll", "LoadLibraryExW", &LoadLibraryExW);
+
+// A system from before the flags that name folders.
+HMODULE WINAPI LoadAsOldSystemsDo(const wchar_t* name, HANDLE file, DWORD flags) {
+  if ((flags & LOAD_LIBRARY_SEARCH_DLL_LOAD_DIR) == 0) return realLoadLibrary(name, file, flags);
+  SetLastError(ERROR_INVALID_PARAMETER);
+  return nullptr;
+}
+
+}  // namespace
+
+TEST(HDllBase, FindsWhatAFileNeedsBesideIt) {
+  HDllBase alone;
+  EXPECT_FALSE(alone.LoadLibrary(NeedingFile().c_str()));
+  const CopiedFile helper(ComponentFolder(L"helper") + kHelper, ComponentFolder(L"needing") + kHelper);
+  HDllBase dll;
+  EXPECT_TRUE(dll.LoadLibrary(NeedingFile().c_str())) << dll.lastError;
+}
+
+TEST(HDllBase, FindsItThereOnOldSystemsToo) {
+  const CopiedFile helper(ComponentFolder(L"helper") + kHelper, ComponentFolder(L"needing") + kHelper);
+  HDllBase dll;
+  ASSERT_GT(PatchImport("kernel32.dll", "LoadLibraryExW", reinterpret_cast<void*>(&LoadAsOldSystemsDo)), 0);
+  const bool loaded = dll.LoadLibrary(NeedingFile().c_str());
+  RestoreImport("kernel32.dll", "LoadLibraryExW");
+  EXPECT_TRUE(loaded) << dll.lastError;
+}
+
+TEST(HDllBase, TakesNothingThatAFileNeedsFromTheCurrentDirectory) {
+  const CurrentDirectory there(ComponentFolder(L"helper"));
+  HDllBase dll;
+  EXPECT_FALSE(dll.LoadLibrary(NeedingFile().c_str()));
+  EXPECT_EQ(static_cast<DWORD>(ERROR_MOD_NOT_FOUND), dll.lastError);
 }
 
 TEST(HDllBase, StoresNullForAMissingFunction) {

@@ -46,6 +46,17 @@ TEST(NemUpdateJob, HasAUsualFileAndAddsNoSeparator) {
   EXPECT_FALSE(withoutSeparator.Load(1, folder.substr(0, folder.size() - 1).c_str(), kFile));
 }
 
+TEST(NemUpdateJob, IsNotLookedForWithoutADirectory) {
+  ASSERT_TRUE(SetDllDirectoryW(ComponentFolder(L"newer").c_str()));
+  for (const wchar_t* directory : {static_cast<const wchar_t*>(nullptr), L""}) {
+    NemUpdateJob job;
+    EXPECT_FALSE(job.Load(1, directory, kFile));
+    EXPECT_FALSE(job.IsLoaded());
+    EXPECT_EQ(static_cast<DWORD>(ERROR_PATH_NOT_FOUND), job.lastError);
+  }
+  SetDllDirectoryW(nullptr);
+}
+
 TEST(NemUpdateJob, LoadsOnce) {
   LoadedUpdator updator(L"newer");
   NemUpdateJob job;
