@@ -18,6 +18,11 @@ constexpr int kMode = 1;
 
 template <class Binding>
 CUString VersionOf(const wchar_t* directory, const ComponentQuery& query) {
+  // Where the components lie is not known: the platform's own search would take any file of that name.
+  if (!directory || !*directory) {
+    TraceInfo(query.failure, ERROR_PATH_NOT_FOUND);
+    return {};
+  }
   Binding component;  // outlives the handler: what the component threw is destroyed by its own code
   try {
     if (!component.Load(kMode, directory, query.filename)) {

@@ -1,6 +1,6 @@
 // The versions of the sibling components, such as "2.10.4". Each component is loaded from `directory`, which ends in a
-// separator, for the moment of the question. Empty, with a trace line, when it cannot be loaded; "n/a" when it tells
-// none.
+// separator, for the moment of the question. Empty, with a trace line, when it cannot be loaded, throws, or when no
+// directory is given; "n/a" when it tells none.
 #pragma once
 
 #include "DriverLIB/CUString.h"

@@ -1,6 +1,9 @@
 #pragma once
 
+#include <type_traits>
+
 #include "DriverLIB/CEString.h"
+#include "environment/ComponentCall.h"
 #include "environment/ExportTable.h"
 #include "environment/HDllBase.h"
 
@@ -30,10 +33,19 @@ class HDll : public HDllBase {
     return true;
   }
 
-  // Calls one of the component's functions, all of which answer with an int. 0 when it is not there.
+  // Calls one of the component's functions, all of which answer with an int. 0 when it is not there. Whatever the
+  // component throws can be caught here; the component has to be loaded until that is done.
   template <class... Arguments>
   int Call(void* function, Arguments... arguments) const {
-    if (!IsLoaded() || !function) return 0;
-    return reinterpret_cast<int (*)(Arguments...)>(function)(arguments...);
+    return IsLoaded() && function ? CallComponent(function, {AsArgument(arguments)...}) : 0;
+  }
+
+ private:
+  template <class Argument>
+  static uintptr_t AsArgument(Argument argument) {
+    if constexpr (std::is_pointer_v<Argument>)
+      return reinterpret_cast<uintptr_t>(argument);
+    else
+      return static_cast<uintptr_t>(argument);
   }
 };

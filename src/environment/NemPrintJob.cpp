@@ -2,7 +2,11 @@
 
 NemPrintJob::~NemPrintJob() {
   if (!jobHandle) return;
-  NemPrintJobDll::JobFree(&jobHandle);
+  try {
+    NemPrintJobDll::JobFree(&jobHandle);
+  } catch (...) {
+    // A job that cannot be freed is lost. What was thrown is destroyed here, before the component goes.
+  }
   ForgetExports();
   FreeModule();
 }

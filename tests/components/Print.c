@@ -42,6 +42,9 @@ EXPORT int NemPrJobCreate(void** job) {
 #endif
 }
 EXPORT int NemPrJobFree(void** job) {
+#ifdef JOB_FREE_RAISES
+  RAISE_FOREIGN();
+#endif
   openJobs -= *job == &theJob;
   *job = 0;
   return 1;

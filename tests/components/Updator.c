@@ -2,7 +2,6 @@
 #include "Component.h"
 
 #include <wchar.h>
-#include <windows.h>
 
 static int theJob;
 EXPORT int openJobs; /* created and not yet freed */
@@ -42,6 +41,9 @@ EXPORT int NemUpdatorJobCreate(void** job) {
 EXPORT int NemUpdatorJobFree(void** job) {
   openJobs -= *job == &theJob;
   *job = 0;
+#if defined(FREE_RAISES)
+  RAISE_FOREIGN();
+#endif
   return Note("NemUpdatorJobFree", 0, 0);
 }
 
@@ -78,6 +80,9 @@ EXPORT int NemUpdatorJobGetLastErrorTextW(void* job, wchar_t* buffer, int size) 
 
 EXPORT int NemUpdatorJobSearchForUpdate(void* job, int flag) {
   NoteFlag("NemUpdatorJobSearchForUpdate", job, flag);
+#if defined(SEARCH_RAISES)
+  RAISE_FOREIGN();
+#endif
 #if defined(PUMPS_MESSAGES)
   MSG message;
   while (PeekMessageW(&message, 0, 0, 0, PM_REMOVE)) DispatchMessageW(&message);

@@ -96,6 +96,33 @@ TEST(ComponentVersions, SurviveAComponentThatThrows) {
   EXPECT_NE(std::wstring::npos, lines[0].find(L"UpdateData: Exception gefangen beim Ermitteln der Toolbox-Version"));
 }
 
+// What code of another compiler throws passes our own handlers by.
+TEST(ComponentVersions, SurviveAComponentOfAnotherCompilerThatThrows) {
+  TracedThread thread;
+  EXPECT_TRUE(GetPdfVersion(ComponentFolder(L"foreign").c_str()).IsEmpty());
+  EXPECT_EQ(Lines{L"UpdateData: Exception gefangen beim Ermitteln der Toolbox-Version"}, thread.Lines());
+  EXPECT_EQ(nullptr, GetModuleHandleW(L"NemPdf64.dll"));
+}
+
+TEST(ComponentVersions, SurviveAJobThatThrowsAtItsEnd) {
+  TracedThread thread;
+  EXPECT_STREQ(L"2.10.4", GetPrintVersion(ComponentFolder(L"foreign").c_str()).Text());
+  EXPECT_EQ(Lines{}, thread.Lines());
+  EXPECT_EQ(nullptr, GetModuleHandleW(L"NemPrt64.dll")) << "the component is freed all the same";
+}
+
+// The platform's search would find a file of that name somewhere.
+TEST(ComponentVersions, AreNotLookedForWithoutADirectory) {
+  TracedThread thread;
+  ASSERT_TRUE(SetDllDirectoryW(ComponentFolder(L"complete").c_str()));
+  for (const wchar_t* directory : {static_cast<const wchar_t*>(nullptr), L""})
+    for (const VersionCase& row : kCases) {
+      EXPECT_TRUE(row.query(directory).IsEmpty());
+      EXPECT_EQ(Lines{L"Fehler 3" + row.failure}, thread.Lines());
+    }
+  SetDllDirectoryW(nullptr);
+}
+
 TEST(ComponentVersions, EachTellsOfItsException) {
   TracedThread thread;
   for (const VersionCase& row : kCases) {

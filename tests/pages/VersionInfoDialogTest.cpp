@@ -116,6 +116,16 @@ TEST_F(VersionInfoDialog, AComponentThatTellsNoVersionIsAsGoodAsNone) {
   EXPECT_EQ(L"n/a", Versions()[1237]);
 }
 
+// Their exceptions pass our own handlers by. The job of the print component throws when it is freed.
+TEST_F(VersionInfoDialog, SurvivesComponentsOfAnotherCompilerThatThrow) {
+  const std::wstring foreign = ComponentFolder(L"foreign");
+  const CopiedFile print(foreign + L"NemPrt64.dll", Library(L"NemPrt64.dll"));
+  const CopiedFile pdf(foreign + L"NemPdf64.dll", Library(L"NemPdf64.dll"));
+  Texts versions = Versions();
+  EXPECT_EQ(L"2.10.4", versions[1232]);
+  EXPECT_EQ(L"n/a", versions[1237]);
+}
+
 TEST_F(VersionInfoDialog, TracesWhatCouldNotBeLoadedInTheOrderOfTheQuestions) {
   TracedThread thread;
   Versions();
