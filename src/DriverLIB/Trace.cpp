@@ -3,6 +3,7 @@
 #include <cstdarg>
 
 #include "DriverLIB/CError.h"
+#include "DriverLIB/NEMPrintMemoryException.h"
 
 namespace {
 
@@ -12,16 +13,30 @@ ATraceFile* OpenTraceOf(CError* error) {
   return error && error->trace && error->trace->IsOpen() ? error->trace : nullptr;
 }
 
+// Whoever traces tells of a failure that he has just caught, often at a border that nothing may be thrown over: a line
+// for which there is no memory is left out.
+template <class Step>
+void RunForALine(Step step) noexcept {
+  try {
+    step();
+  } catch (NEMPrintMemoryException* exhausted) {
+    delete exhausted;
+  } catch (...) {
+  }
+}
+
 void WriteNarrow(Writer writer, const char* format, va_list arguments) {
   ATraceFile* trace = OpenTraceOf(CurrentError());
   if (!trace) return;
-  CUString wide;
-  wide.AssignNarrow(format);
-  (trace->*writer)(wide.Text(), arguments);
+  RunForALine([&] {
+    CUString wide;
+    wide.AssignNarrow(format);
+    (trace->*writer)(wide.Text(), arguments);
+  });
 }
 
 void WriteWide(CError* error, Writer writer, const wchar_t* format, va_list arguments) {
-  if (ATraceFile* trace = OpenTraceOf(error)) (trace->*writer)(format, arguments);
+  if (ATraceFile* trace = OpenTraceOf(error)) RunForALine([&] { (trace->*writer)(format, arguments); });
 }
 
 }  // namespace

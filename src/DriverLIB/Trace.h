@@ -1,5 +1,5 @@
 // Lines for the calling thread's trace. All are silent no-ops, and format nothing, while the thread has no error state
-// or no trace is open.
+// or no trace is open. None of them throws: a line that there is no memory for is left out.
 //
 // A narrow format is converted to wide and then acts as a wide one: "%s" in it expects wide text, "%hs" narrow.
 #pragma once

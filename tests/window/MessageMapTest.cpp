@@ -6,6 +6,7 @@
 #include <stdexcept>
 #include <string>
 
+#include "support/FailingMalloc.h"
 #include "support/FakeSheet.h"
 #include "support/TracedThread.h"
 
@@ -131,6 +132,20 @@ TEST_F(MessageMap, GuardTracesWhatIsThrownAndAsksTheTargetForTheAnswer) {
     ASSERT_EQ(1u, lines.size());
     EXPECT_NE(std::wstring::npos, lines[0].find(L"Place: caught throwed exception"));
   }
+}
+
+TEST_F(MessageMap, GuardHoldsWithoutMemoryForItsLine) {
+  TracedThread trace;
+  target_.answersFailure = true;
+  WindowMessage message{parent_.Window(), WM_APP + 50};
+  bool answered = false;
+  {
+    const FailingMalloc noMemory(0);
+    answered = GuardMessage("Place", target_, message);
+  }
+  EXPECT_TRUE(answered);
+  EXPECT_EQ(7, message.result);
+  EXPECT_EQ(std::vector<std::wstring>{}, trace.Lines()) << "the line is left out";
 }
 
 TEST_F(MessageMap, GuardLeavesATargetAloneWhoseWindowIsGone) {
