@@ -175,6 +175,16 @@ TEST_F(Handles, AddressesWithoutMemoryAreRefused) {
     ExpectRefused(reinterpret_cast<NemPdfUIHandle>(address));
 }
 
+// It may be the one below the stack of another thread, which cannot grow without it.
+TEST_F(Handles, AGuardedPageIsRefusedAndKeepsItsGuard) {
+  void* page = VirtualAlloc(nullptr, 4096, MEM_RESERVE | MEM_COMMIT, PAGE_READWRITE | PAGE_GUARD);
+  ExpectRefused(AsHandle(page));
+  MEMORY_BASIC_INFORMATION information = {};
+  VirtualQuery(page, &information, sizeof information);
+  EXPECT_EQ(DWORD{PAGE_READWRITE | PAGE_GUARD}, information.Protect);
+  VirtualFree(page, 0, MEM_RELEASE);
+}
+
 // --- Properties --------------------------------------------------------------------------------------------------
 
 // In both forms: the parameter is true for the wide one.
