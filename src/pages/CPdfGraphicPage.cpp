@@ -5,6 +5,7 @@
 #include "MessageIds.h"
 #include "pages/WebAddress.h"
 #include "Pictures.h"
+#include "window/ValueScope.h"
 
 namespace {
 
@@ -205,7 +206,7 @@ void CPdfGraphicPage::ApplyPreset(bool storeValues) {
     applying_ = false;
     return;
   }
-  applying_ = true;
+  const ValueScope applying(applying_, true);
   const int number = IsUserDefined() ? kUserDefinedPreset : CSliderCtrl(Item(IDC_GRAPHIC_SLIDER)).Position();
   const GraphicPreset& preset = GetGraphicPreset(number);
   ShowPreset(preset);
@@ -213,7 +214,6 @@ void CPdfGraphicPage::ApplyPreset(bool storeValues) {
     SetValues(preset.values);
     UpdateData(false);
   }
-  applying_ = false;
 }
 
 void CPdfGraphicPage::ShowPreset(const GraphicPreset& preset) {

@@ -7,6 +7,7 @@
 #include "MessageIds.h"
 #include "resources/ResourceIds.h"
 #include "window/Controls.h"
+#include "window/ValueScope.h"
 
 namespace {
 
@@ -57,7 +58,7 @@ void CStationeryPropertiesDialog::SetFormat(std::weak_ptr<CStationeryFormat> for
 // The page is told of each change of a control, of those by the dialog itself too.
 void CStationeryPropertiesDialog::Fill() {
   if (const auto format = GetFormat()) {
-    refreshing_ = true;
+    const ValueScope refreshing(refreshing_, true);
     Item(IDC_STATIONERY_FILE).SetText(format->GetFile().Text());
     // Without a description it takes one from its file, and is as good as new.
     if (format->GetName().IsEmpty()) {
@@ -66,7 +67,6 @@ void CStationeryPropertiesDialog::Fill() {
     }
     Item(IDC_STATIONERY_NAME).SetText(format->GetName().Text());
     ::CheckRadioButton(window_, IDC_STATIONERY_FIRST_TWO_PAGES, IDC_STATIONERY_BEHIND_ALL, RadioOf(format->GetType()));
-    refreshing_ = false;
   }
   Item(IDC_STATIONERY_APPLY).Enable(false);
 }
