@@ -55,6 +55,13 @@
  * Any thread may call; the library takes it up on its first call and creates none of its own. Different objects may
  * be used on different threads at the same time. One object must not: the host lets only one thread at a time into
  * the functions with that object. NemPdfUIDoModal runs its message loop on the calling thread.
+ *
+ * That thread is best one without COM or of a single-threaded apartment: in a multi-threaded one the system's folder
+ * picker comes in an older style. The sheet has the dpi awareness that the thread has.
+ *
+ * What the library keeps for a thread is given back when the thread ends. Before FreeLibrary the host ends the threads
+ * that have called it, and sees to it that no sheet is open and no function is running. After a sheet it is best to
+ * keep the library: a screen reader inside of the process may still hold objects of the sheet's controls.
  */
 #ifndef NEMPDFUI_H
 #define NEMPDFUI_H
