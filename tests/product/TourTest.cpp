@@ -79,6 +79,7 @@ const Change kChanges[] = {
      TakeNoColour,
      {{L"FormfieldUseCheckboxBorder", L"0"}, {L"FormfieldCheckboxBorderColor", L"-16777216"}}},
     {118, {0}, Pick<IDC_FORMAT_VERSION, 2>, {{L"PdfVersion", L"15"}}},
+    {119, {0, 1}, Click<IDC_BOOKMARK_USE>, {{L"OutlineStylesEnabled", L"1"}}},
     {105, {0, 1}, TypeTitle, {{L"Title", L"Title"}}},
     {102, {0}, Click<IDC_ACTION_VIEWER>, {{L"StartAction", L"2"}}},
     {104, {0}, Click<IDC_MAIL_SEND>, {{L"StartAction", L"2"}}},
@@ -106,6 +107,9 @@ const Values kWrittenByShowing = {
     {L"FormfieldInternalCharCount", L"15"},
     {L"FormfieldTextfieldBorderColor", L"-16777216"},
     {L"HyperlinkBorderWidth", L"50"},
+    {L"OutlineFormats",  // the headings that a list without formats begins with
+     L"{STYLE:heading 1;1;{FONT:Arial;16;Bold;0.0.0}};{STYLE:heading 2;2;{FONT:Arial;14;Bold;Italic;0.0.0}};"
+     L"{STYLE:heading 3;3;{FONT:Arial;13;Bold;0.0.0}};"},
     {L"StationeryInfos", L"{}"},
 };
 
