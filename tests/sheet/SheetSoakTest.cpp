@@ -1,6 +1,7 @@
 // Many sheets one after the other leave nothing behind.
 #include <gtest/gtest.h>
 
+#include "driver/Pages.h"
 #include "driver/ResourceCounts.h"
 #include "driver/SheetDriver.h"
 #include "resources/ResourceIds.h"
@@ -11,16 +12,18 @@
 
 namespace {
 
-void OpenAndCloseOne(bool ok) {
+// Shows a page of each tab, the next one each time.
+void OpenAndCloseOne(int number) {
+  const PageInfo& page = BarPages()[static_cast<size_t>(number) % BarPages().size()];
   HostDialog host;
   host.Set(1, L"Used", 1);
   RunSheet([&host] { return host.DoModal(); },
-           [ok](Sheet& sheet) -> SheetTask {
-             sheet.SelectPage(108);
+           [&page, number](Sheet& sheet) -> SheetTask {
+             sheet.SelectPage(page.id);
              sheet.SelectTab(0);
-             sheet.SelectPage(108);
+             sheet.SelectPage(page.id);
              co_await sheet.Settled();
-             sheet.Press(ok ? IDOK : IDCANCEL);
+             sheet.Press(number % 2 ? IDOK : IDCANCEL);
            });
 }
 
@@ -57,20 +60,21 @@ void OpenAndCloseBareOne() {
            });
 }
 
-// What `count` sheets leave behind, once the platform's caches are full.
+// What `count` sheets leave behind, once the first ones have filled the platform's caches.
 template <class OpenAndClose>
-ResourceCounts LeftBy(int count, OpenAndClose openAndClose) {
-  for (int i = 0; i < 4; ++i) openAndClose(i);
+ResourceCounts LeftBy(int count, int first, OpenAndClose openAndClose) {
+  for (int i = 0; i < first; ++i) openAndClose(i);
   const ResourceCounts before = Count();
   for (int i = 0; i < count; ++i) openAndClose(i);
   return Count() - before;
 }
 
-TEST(SheetSoak, SheetsLeaveNothingBehind) {
-  constexpr int kSheets = 200, kBareSheets = 40;
+TEST(SheetSoak, AThousandSheetsLeaveNothingBehind) {
+  constexpr int kSheets = 1000, kBareSheets = 40;
   const LanguageScope english(kEnglish);
-  const ResourceCounts bare = LeftBy(kBareSheets, [](int) { OpenAndCloseBareOne(); });
-  const ResourceCounts left = LeftBy(kSheets, [](int i) { OpenAndCloseOne(i % 2); });
+  const ResourceCounts bare = LeftBy(kBareSheets, 4, [](int) { OpenAndCloseBareOne(); });
+  const ResourceCounts left =
+      LeftBy(kSheets, 4 * static_cast<int>(BarPages().size()), [](int i) { OpenAndCloseOne(i); });
   std::printf("bare: %s\nours: %s\n", Describe(bare).c_str(), Describe(left).c_str());
   EXPECT_EQ(0, left.gdiObjects);
   EXPECT_EQ(0, left.windows);
