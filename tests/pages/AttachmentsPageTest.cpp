@@ -435,6 +435,13 @@ TEST_F(AttachmentsPage, TheWholeGroupTakesFilesAndNothingElseDoes) {
   EXPECT_EQ(rows, List().RowCount());
 }
 
+TEST_F(AttachmentsPage, AHiddenControlTakesNoFiles) {
+  Open();
+  for (const int id : {IDC_ATTACHMENTS_LIST, IDC_ATTACHMENTS_GROUP}) Page().Item(id).Show(false);
+  Drop(IDC_ATTACHMENTS_LIST, {path1_});
+  EXPECT_EQ(0, List().RowCount());
+}
+
 TEST_F(AttachmentsPage, ALargeDropAddsWhatFitsAndRefusesEachOtherFile) {
   Open(Quoted(std::wstring(700, L'x')));
   ExpectTooMany();

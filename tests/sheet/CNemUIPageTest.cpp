@@ -35,6 +35,7 @@ class BarePage : public CNemUIPage {
   void DoDataExchange(CDataExchange& data) override { controls(data); }
   UINT IconId() const { return TabIconId(); }
   std::wstring Caption() const { return TabCaption(); }
+  using CNemUIPage::Tell;
 };
 
 using Lines = std::vector<std::wstring>;
@@ -307,6 +308,17 @@ TEST_F(NemUIPage, BoxReadsFromRightToLeftInArabic) {
   }
 }
 
+TEST_F(NemUIPage, TellsUnderTheTitleOfItsBoxesAndNothingOnceItHasEnded) {
+  BarePage page;
+  ASSERT_TRUE(page.Create(parent_.Window()));
+  Popups popups;
+  popups.ExpectBox({.title = L"Title", .text = MessageText(MSG_INVALID_DATA).Text(), .icon = MB_ICONERROR});
+  EXPECT_EQ(IDOK, page.Tell(MSG_INVALID_DATA, MB_OK | MB_ICONERROR));
+  DestroyWindow(page.Handle());
+  EXPECT_EQ(IDCANCEL, page.Tell(MSG_INVALID_DATA, MB_OK | MB_ICONERROR));
+  EXPECT_EQ(1u, popups.Boxes().size());
+}
+
 // --- What all glue classes share -----------------------------------------------------------------------------------
 
 class GlueLogic : public CNemUIPage {
@@ -356,6 +368,11 @@ TEST_F(NemUIPage, GlueForwardsToTheSheet) {
   EXPECT_EQ(nullptr, page.FindPage(121));
   EXPECT_EQ(1, page.SettingsIndex());
   EXPECT_EQ(&sheet, page.Sheet());
+}
+
+TEST_F(NemUIPage, GlueTellsThePageWhichSettingsItStandsFor) {
+  EXPECT_TRUE(GluePage(nullptr, kDescription, 0).globalTab);
+  EXPECT_FALSE(GluePage(nullptr, kDescription, 1).globalTab);
 }
 
 TEST_F(NemUIPage, GlueLooksForPagesOnItsOwnTab) {
