@@ -3,6 +3,18 @@
 #include "window/CAccessibleObject.h"
 #include "window/SystemFunction.h"
 
+namespace {
+
+// Until the end of the process, whatever the host frees. A counted reference would not do: to give it back would be the
+// last act of code that is gone then.
+void KeepLibraryLoaded() {
+  HMODULE module = nullptr;
+  ::GetModuleHandleExW(GET_MODULE_HANDLE_EX_FLAG_PIN | GET_MODULE_HANDLE_EX_FLAG_FROM_ADDRESS,
+                       reinterpret_cast<const wchar_t*>(reinterpret_cast<void*>(&KeepLibraryLoaded)), &module);
+}
+
+}  // namespace
+
 bool CAccessibility::OnMessage(CAccessibleSource& source, WindowMessage& message) {
   switch (message.message) {
     case WM_GETOBJECT:
@@ -13,6 +25,9 @@ bool CAccessibility::OnMessage(CAccessibleSource& source, WindowMessage& message
         source.DoPartAction(part);
       return true;
     }
+    case kAccessibleQuestionMessage:
+      if (object_) object_->AnswerCarried();
+      return true;
     default:
       return false;
   }
@@ -32,7 +47,8 @@ void CAccessibility::Disconnect() {
   // Readers in other processes let go now: the library's code may be gone before they ask again.
   static const auto disconnect = SystemFunction<decltype(::CoDisconnectObject)>(L"ole32.dll", "CoDisconnectObject");
   if (disconnect) disconnect(static_cast<IAccessible*>(object_), 0);
-  object_->Release();
+  // Readers within the host's process may hold on to it.
+  if (object_->Release() > 0) KeepLibraryLoaded();
   object_ = nullptr;
 }
 

@@ -45,7 +45,8 @@ class CAccessibleSource {
 class CAccessibleObject;
 
 // A control's side of the connection: makes the object when one is asked for, and cuts it off in time. A reader may
-// keep the object for longer than the control lives.
+// keep the object for longer than the control lives: then the library stays loaded for good, since the object's code
+// is still to be called.
 class CAccessibility {
  public:
   CAccessibility() = default;
@@ -67,6 +68,9 @@ class CAccessibility {
 // A reader's action, posted to the control's window with the part in the first argument: the reader is not kept waiting
 // while the action shows a box.
 constexpr UINT kAccessibleActionMessage = WM_APP + 2;
+
+// A question of a reader on another thread, sent to the control's window, which answers it by the object.
+constexpr UINT kAccessibleQuestionMessage = WM_APP + 4;
 
 // Tells the system's listeners that something happened to a part (EVENT_OBJECT_FOCUS, ...).
 void NotifyAccessibleEvent(DWORD event, HWND window, int part);

@@ -24,14 +24,34 @@ void SetNumber(VARIANT& value, LONG number) {
 // Nothing that a question throws leaves the object.
 template <class Question>
 HRESULT CAccessibleObject::Ask(Question question) {
-  if (!source_ || !Window()) return CO_E_OBJNOTCONNECTED;
-  try {
-    return question();
-  } catch (const std::bad_alloc&) {
-    return E_OUTOFMEMORY;
-  } catch (...) {
-    return E_FAIL;
-  }
+  const auto guarded = [&]() -> HRESULT {
+    if (!source_ || !Window()) return CO_E_OBJNOTCONNECTED;
+    try {
+      return question();
+    } catch (const std::bad_alloc&) {
+      return E_OUTOFMEMORY;
+    } catch (...) {
+      return E_FAIL;
+    }
+  };
+  return ::GetCurrentThreadId() == thread_ ? guarded() : CarryToWindow(std::cref(guarded));
+}
+
+// One question at a time. The message says only that there is one: any program can send it. A window that is gone
+// takes no message, and the question has its answer.
+HRESULT CAccessibleObject::CarryToWindow(const std::function<HRESULT()>& question) {
+  if (::GetWindowThreadProcessId(window_, nullptr) != thread_) return CO_E_OBJNOTCONNECTED;
+  Carried carried{question, CO_E_OBJNOTCONNECTED};
+  ::AcquireSRWLockExclusive(&carrying_);
+  carried_ = &carried;
+  ::SendMessageW(window_, kAccessibleQuestionMessage, 0, 0);
+  carried_ = nullptr;
+  ::ReleaseSRWLockExclusive(&carrying_);
+  return carried.answer;
+}
+
+void CAccessibleObject::AnswerCarried() {
+  if (Carried* carried = carried_.exchange(nullptr)) carried->answer = carried->question();
 }
 
 template <class Question>
@@ -182,8 +202,13 @@ STDMETHODIMP CAccessibleObject::accSelect(LONG flags, VARIANT child) {
   return AskPart(child, [&](int part) -> HRESULT {
     if (flags & ~(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION)) return E_INVALIDARG;
     if (flags & SELFLAG_TAKEFOCUS) {
+      // Whoever loses the focus, and whoever gets it, may end the control or take the part away.
       ::SetFocus(Window());
+      if (!source_) return CO_E_OBJNOTCONNECTED;
+      if (part > source_->PartCount()) return E_INVALIDARG;
       if (part != CAccessibleSource::kSelf) source_->FocusPart(part);
+      if (!source_) return CO_E_OBJNOTCONNECTED;
+      if (part > source_->PartCount()) return E_INVALIDARG;
     }
     if ((flags & SELFLAG_TAKESELECTION) && source_->HasPartAction(part))
       ::PostMessageW(Window(), kAccessibleActionMessage, static_cast<WPARAM>(part), 0);

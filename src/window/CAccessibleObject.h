@@ -1,8 +1,12 @@
 // The object by which a screen reader asks a control that draws itself. Made and cut off by CAccessibility; readers may
 // keep it for longer than the control lives, and are told then that nobody is there.
+//
+// A reader calls on any thread: in a multithreaded apartment nobody brings its calls to the thread of the window. The
+// control is asked on that thread alone, as its windows and texts demand.
 #pragma once
 
 #include <atomic>
+#include <functional>
 
 #include "window/CAccessibility.h"
 // behind Windows.h
@@ -15,10 +19,13 @@
 class CAccessibleObject final : public IAccessible {
  public:
   // The first reference is the caller's.
-  explicit CAccessibleObject(CAccessibleSource& source) : source_(&source) {}
+  explicit CAccessibleObject(CAccessibleSource& source)
+      : source_(&source), window_(source.AccessibleWindow()), thread_(::GetCurrentThreadId()) {}
 
   // The control is gone, or is about to go.
   void Disconnect() { source_ = nullptr; }
+  // Answers the question that another thread has brought to the control's window, if there is one.
+  void AnswerCarried();
 
   STDMETHODIMP QueryInterface(REFIID id, void** object) override;
   STDMETHODIMP_(ULONG) AddRef() override { return ++references_; }
@@ -58,18 +65,28 @@ class CAccessibleObject final : public IAccessible {
  private:
   ~CAccessibleObject() = default;
 
+  struct Carried {
+    const std::function<HRESULT()>& question;
+    HRESULT answer;
+  };
+
   // Puts a question to the control, unless it is gone; AskPart for a part that the reader names.
   template <class Question>
   HRESULT Ask(Question question);
   template <class Question>
   HRESULT AskPart(const VARIANT& child, Question question);
+  HRESULT CarryToWindow(const std::function<HRESULT()>& question);
   HRESULT Text(const VARIANT& child, BSTR* text, CUString (CAccessibleSource::*get)(int) const);
 
   HWND Window() const { return source_->AccessibleWindow(); }
   RECT ScreenRect(int part) const;
 
   std::atomic<ULONG> references_{1};
-  CAccessibleSource* source_;
+  CAccessibleSource* source_;  // null once the control is gone; for the window's thread only
+  const HWND window_;
+  const DWORD thread_;  // the window's
+  SRWLOCK carrying_ = SRWLOCK_INIT;
+  std::atomic<Carried*> carried_{nullptr};
 };
 
 #pragma GCC diagnostic pop

@@ -2,8 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
+#include <functional>
+#include <memory>
 #include <new>
+#include <thread>
+#include <vector>
 
+#include "driver/ImportPatch.h"
 #include "support/Accessible.h"
 #include "window/CWnd.h"
 
@@ -29,6 +35,7 @@ class TestControl final : public CAccessibleSource {
   HWND AccessibleWindow() const override { return window; }
   int PartCount() const override { return parts; }
   CUString PartName(int part) const override {
+    askedOn = ::GetCurrentThreadId();
     if (throws) throw std::bad_alloc();
     return part == kSelf ? L"whole" : part == 3 ? L"" : L"part";
   }
@@ -40,11 +47,16 @@ class TestControl final : public CAccessibleSource {
   bool HasPartAction(int part) const override { return part == 1 || part == 2; }
   void DoPartAction(int part) override { done = part; }
   int FocusedPart() const override { return focused; }
-  void FocusPart(int part) override { focused = part; }
+  void FocusPart(int part) override {
+    focused = part;
+    if (whenPartFocused) whenPartFocused();
+  }
 
   HWND window;
   int parts = 3, selected = 2, focused = 1, done = 0;
   bool throws = false;
+  std::function<void()> whenFocused, whenPartFocused;
+  mutable DWORD askedOn = 0;
   CAccessibility accessibility;
 
  private:
@@ -53,6 +65,7 @@ class TestControl final : public CAccessibleSource {
     WindowMessage current{window, message, wParam, lParam};
     if (self.accessibility.OnMessage(self, current)) return current.result;
     if (message == WM_DESTROY) self.accessibility.Disconnect();
+    if (message == WM_SETFOCUS && self.whenFocused) self.whenFocused();
     return ::DefSubclassProc(window, message, wParam, lParam);
   }
 };
@@ -237,6 +250,119 @@ TEST_F(CAccessibilityTest, AReaderMayKeepTheObjectOfADeadControl) {
   EXPECT_EQ(CO_E_OBJNOTCONNECTED, kept->get_accChildCount(&count));
   EXPECT_EQ(CO_E_OBJNOTCONNECTED, kept->get_accRole(Accessible::Part(0), &answer));
   EXPECT_EQ(CO_E_OBJNOTCONNECTED, kept->accDoDefaultAction(Accessible::Part(1)));
+}
+
+TEST_F(CAccessibilityTest, TheFocusMayEndTheControlOrItsParts) {
+  for (const bool byPart : {false, true})
+    for (const bool ends : {true, false}) {
+      TestControl other;
+      const Accessible object(other.window);
+      ::SetFocus(nullptr);
+      (byPart ? other.whenPartFocused : other.whenFocused) = [&] { ends ? other.Destroy() : void(other.parts = 1); };
+      other.focused = 0;
+      EXPECT_EQ(ends ? CO_E_OBJNOTCONNECTED : E_INVALIDARG,
+                object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Accessible::Part(2)));
+      EXPECT_EQ(byPart ? 2 : 0, other.focused) << "a part that is gone is not asked for";
+      other.RunPosted();
+      EXPECT_EQ(0, other.done);
+    }
+}
+
+// --- Other threads --------------------------------------------------------------------------------------------------
+
+// What a reader does on a thread of its own, as in a multithreaded apartment, while this one runs its messages.
+void OnReadersThreads(const std::vector<std::function<void()>>& readers) {
+  std::atomic<size_t> ended = 0;
+  std::vector<std::thread> threads;
+  for (const auto& reader : readers)
+    threads.emplace_back([&] {
+      reader();
+      ++ended;
+    });
+  for (MSG message; ended < readers.size();) {
+    ::PeekMessageW(&message, nullptr, 0, 0, PM_NOREMOVE);
+    ::MsgWaitForMultipleObjects(0, nullptr, FALSE, 10, QS_SENDMESSAGE);
+  }
+  for (std::thread& thread : threads) thread.join();
+}
+
+TEST_F(CAccessibilityTest, TheControlIsAskedOnItsOwnThread) {
+  const Accessible object(control.window);
+  ::SetFocus(nullptr);
+  std::wstring name;
+  LONG count = 0, focus = 0;
+  HRESULT selected = E_FAIL;
+  OnReadersThreads({[&] {
+    name = object.Name(1);
+    count = object.Count();
+    selected = object->accSelect(SELFLAG_TAKEFOCUS, Accessible::Part(3));
+    focus = object.Focus();
+  }});
+  EXPECT_EQ(::GetCurrentThreadId(), control.askedOn);
+  EXPECT_EQ(L"part", name);
+  EXPECT_EQ(3, count);
+  EXPECT_EQ(S_OK, selected);
+  EXPECT_EQ(3, focus);
+  EXPECT_EQ(control.window, ::GetFocus());
+}
+
+TEST_F(CAccessibilityTest, ReadersOfSeveralThreadsGetTheirOwnAnswers) {
+  const Accessible object(control.window);
+  std::atomic<int> right = 0;
+  const auto askFor = [&](LONG part, const wchar_t* name) {
+    return [&right, &object, part, name] {
+      for (int i = 0; i < 50; ++i) right += object.Name(part) == name;
+    };
+  };
+  OnReadersThreads({askFor(0, L"whole"), askFor(1, L"part"), askFor(3, L"")});
+  EXPECT_EQ(150, right);
+}
+
+TEST_F(CAccessibilityTest, OtherThreadsTooAreToldThatNobodyIsThere) {
+  const Accessible object(control.window);
+  control.Destroy();
+  LONG count = 7;
+  HRESULT answer = S_OK;
+  OnReadersThreads({[&] { answer = object->get_accChildCount(&count); }});
+  EXPECT_EQ(CO_E_OBJNOTCONNECTED, answer);
+}
+
+TEST_F(CAccessibilityTest, AQuestionThatNobodyAskedIsNone) {
+  const Accessible object(control.window);
+  ::SendMessageW(control.window, kAccessibleQuestionMessage, 1, 1);
+  EXPECT_EQ(0u, control.askedOn);
+}
+
+// --- Lifetime -------------------------------------------------------------------------------------------------------
+
+int pins = 0;
+decltype(&::GetModuleHandleExW) realGetModuleHandle = nullptr;
+
+BOOL WINAPI CountPins(DWORD flags, const wchar_t* module, HMODULE* handle) {
+  if (!(flags & GET_MODULE_HANDLE_EX_FLAG_PIN)) return realGetModuleHandle(flags, module, handle);
+  ++pins;
+  HMODULE found = nullptr;
+  const DWORD unpinned = flags & ~DWORD{GET_MODULE_HANDLE_EX_FLAG_PIN};
+  EXPECT_TRUE(realGetModuleHandle(unpinned | GET_MODULE_HANDLE_EX_FLAG_UNCHANGED_REFCOUNT, module, &found));
+  EXPECT_EQ(::GetModuleHandleW(nullptr), found) << "the module that holds the code";
+  *handle = found;
+  return TRUE;
+}
+
+TEST_F(CAccessibilityTest, AnObjectThatAReaderKeepsKeepsTheLibrary) {
+  realGetModuleHandle = RealFunction("kernel32.dll", "GetModuleHandleExW", &::GetModuleHandleExW);
+  PatchImport("kernel32.dll", "GetModuleHandleExW", reinterpret_cast<void*>(&CountPins));
+  for (const bool keeps : {false, true}) {
+    pins = 0;
+    TestControl other;
+    auto object = std::make_unique<Accessible>(other.window);
+    EXPECT_TRUE(*object);
+    if (!keeps) object.reset();
+    EXPECT_EQ(0, pins);
+    other.Destroy();
+    EXPECT_EQ(keeps ? 1 : 0, pins);
+  }
+  RestoreImport("kernel32.dll", "GetModuleHandleExW");
 }
 
 TEST_F(CAccessibilityTest, EveryReaderGetsTheSameObject) {
