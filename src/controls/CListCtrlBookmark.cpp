@@ -190,17 +190,23 @@ int CListCtrlBookmark::OnEditDone(const CUString& text) {
   CUString name = text;
   name.TrimBoth();
   const bool accepted = !listener_ || listener_->AcceptsName(row, name);
-  // The box that tells of a refusal may have ended the list, or the row.
-  if (FromHandle(list) != this || !Entry(row)) return 0;
-  if (!accepted) {
-    OpenEdit(row, CellRect(row, EditColumn()));
-    return 0;
-  }
+  if (FromHandle(list) != this || !Entry(row) || !accepted) return 0;
   CListCtrlComboEdit::OnEditDone(name);
   Entry(row)->SetDisplayName(name);
   if (sorting_.column == kNameColumn) sorting_.Forget();
   OnEdited();
   return 1;
+}
+
+void CListCtrlBookmark::OnEditRefused(int row, const CUString& text) {
+  const HWND list = Handle();
+  CUString name = text;
+  name.TrimBoth();
+  // A list that is hidden is coming to its end, together with its sheet.
+  if (!listener_ || !Entry(row) || !::IsWindowVisible(list)) return;
+  listener_->TellRefusal(name);
+  // The box may have ended the list, or the row.
+  if (FromHandle(list) == this && Entry(row) && IsEnabled()) OpenEdit(row, CellRect(row, EditColumn()));
 }
 
 void CListCtrlBookmark::OnComboDone(const CUString& text) {

@@ -31,9 +31,10 @@ class BookmarkListEntry {
 // Who decides about names: the page, which has the rules and the boxes.
 class BookmarkListListener {
  public:
-  // The user has typed this name, without blanks at its ends, for the row. False refuses it, after the user has been
-  // told why: then the box is open again, with the old name.
+  // The user has typed this name, without blanks at its ends, for the row. False refuses it. The answer shows nothing.
   virtual bool AcceptsName(int row, const CUString& name) = 0;
+  // Tells the user why a name was refused. Behind that its box is open again, with the old name.
+  virtual void TellRefusal(const CUString& name) = 0;
 
  protected:
   ~BookmarkListListener() = default;
@@ -75,6 +76,7 @@ class CListCtrlBookmark : public CListCtrlComboEdit {
 
   void OnComboDone(const CUString& text) override;
   int OnEditDone(const CUString& text) override;
+  void OnEditRefused(int row, const CUString& text) override;
   void OnUsedChanged(bool checked) override;
   // The selected row goes if the user has made it.
   void RemoveSelected() override;

@@ -61,12 +61,28 @@ int CListCtrlComboEdit::OnEditDone(const CUString& text) {
   return 1;
 }
 
-// The text may bring up a box, in which anything can end: nothing of this object is touched behind it unasked.
+// The derived class may ask others about the text: nothing of this object is touched behind it unasked.
 void CListCtrlComboEdit::ApplyEdit(int row, const CUString& text) {
   const HWND list = Handle();
   editRow_ = row;
-  OnEditDone(text);
-  if (FromHandle(list) == this && !edit_) editRow_ = -1;
+  const bool accepted = OnEditDone(text) != 0;
+  if (FromHandle(list) != this) return;
+  if (!edit_) editRow_ = -1;
+  if (accepted || edit_) return;
+  refusal_ = Refusal{row, text};
+  Post(kRefusedMessage);
+}
+
+void CListCtrlComboEdit::SettleRefusal() {
+  if (const std::optional<Refusal> refusal = std::exchange(refusal_, std::nullopt))
+    OnEditRefused(refusal->row, refusal->text);
+}
+
+void CListCtrlComboEdit::OnRefused() {
+  if (!refusal_) return;
+  // The button that was clicked lets the mouse go, and does nothing.
+  ::ReleaseCapture();
+  SettleRefusal();
 }
 
 void CListCtrlComboEdit::OnEditLeft(const CUString& text, bool accept) {
@@ -82,7 +98,14 @@ void CListCtrlComboEdit::DropEdit() {
   const std::unique_ptr<CListEditBox> edit = std::move(edit_);
 }
 
+// Not for the time in which the focus moves.
 void CListCtrlComboEdit::CloseEdit() {
+  const HWND list = Handle();
+  LeaveEdit();
+  if (FromHandle(list) == this) SettleRefusal();
+}
+
+void CListCtrlComboEdit::LeaveEdit() {
   if (!edit_) return;
   const int row = editRow_;
   const bool apply = edit_->HasFocus() && edit_->Accepts();
@@ -105,10 +128,11 @@ void CListCtrlComboEdit::CloseEditors() {
 void CListCtrlComboEdit::DropEditors() {
   CloseCombo();
   DropEdit();
+  refusal_.reset();
 }
 
 bool CListCtrlComboEdit::MakeWayForMove() {
-  if (!edit_ && !combo_) return true;
+  if (!edit_ && !combo_ && !refusal_) return true;
   const HWND list = Handle();
   CloseEditors();
   return FromHandle(list) == this && !edit_;
@@ -240,7 +264,11 @@ bool CListCtrlComboEdit::OnWindowMessage(WindowMessage& message) {
     case WM_SIZE:
       return !MakeWayForMove();
     case WM_ENABLE:
-      if (!message.wParam) CloseEditors();
+      // Whoever disables the list takes the focus from its box first: a refusal is told behind that.
+      if (!message.wParam) {
+        CloseCombo();
+        LeaveEdit();
+      }
       return false;
     case WM_DESTROY:
     case LVM_DELETEITEM:
@@ -252,6 +280,9 @@ bool CListCtrlComboEdit::OnWindowMessage(WindowMessage& message) {
       return OnChildMessage(message);
     case kCloseEditorsMessage:
       OnCloseEditors(message);
+      return true;
+    case kRefusedMessage:
+      OnRefused();
       return true;
     default:
       return accessible_.OnMessage(message);

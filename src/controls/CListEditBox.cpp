@@ -30,8 +30,11 @@ void CListEditBox::Open() const {
 }
 
 void CListEditBox::Leave(bool accept) {
+  CListCtrlComboEdit& list = list_;
+  const HWND window = list.Handle();
   accept_ = accept;
-  list_.Focus();
+  list.Focus();
+  if (CSubclassedControl::FromHandle(window) == &list) list.SettleRefusal();
 }
 
 void CListEditBox::OnFocusLost(WindowMessage& message) {

@@ -269,10 +269,11 @@ bool CBookmarkPage::IsNameTaken(const CUString& name, const BookmarkListEntry* e
 }
 
 bool CBookmarkPage::AcceptsName(int row, const CUString& name) {
-  const bool valid = IsValidBookmarkName(name);
-  if (valid && !IsNameTaken(name, Row(row))) return true;
-  Tell(valid ? MSG_BOOKMARK_NAME_TAKEN : MSG_BOOKMARK_INVALID_NAME, MB_OK | MB_ICONERROR, name);
-  return false;
+  return IsValidBookmarkName(name) && !IsNameTaken(name, Row(row));
+}
+
+void CBookmarkPage::TellRefusal(const CUString& name) {
+  Tell(IsValidBookmarkName(name) ? MSG_BOOKMARK_NAME_TAKEN : MSG_BOOKMARK_INVALID_NAME, MB_OK | MB_ICONERROR, name);
 }
 
 int CBookmarkPage::Tell(uint32_t messageId, UINT flags, const CUString& argument) {

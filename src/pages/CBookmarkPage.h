@@ -52,6 +52,7 @@ class CBookmarkPage : public CTrackedPage<BookmarkCockpitValues>, private Bookma
   void OnDialogOk();
 
   bool AcceptsName(int row, const CUString& name) override;
+  void TellRefusal(const CUString& name) override;
 
   void ListFonts();
   void LoadFormats();

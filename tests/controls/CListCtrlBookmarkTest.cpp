@@ -94,9 +94,9 @@ class BookmarkPage : public ReportPage, private BookmarkListListener {
   }
 
   int living = 0;
-  std::vector<std::wstring> asked;
+  std::vector<std::wstring> asked, told;
   bool accepts = true;
-  std::function<void()> whileAsked;
+  std::function<void()> whileAsked, whileTold;
   std::unique_ptr<CListCtrlBookmark> list;
 
  private:
@@ -105,6 +105,10 @@ class BookmarkPage : public ReportPage, private BookmarkListListener {
     const bool answer = accepts;
     if (whileAsked) whileAsked();
     return answer;
+  }
+  void TellRefusal(const CUString& name) override {
+    told.push_back((list->Edit() ? L"open " : L"") + std::wstring(name.Text()));
+    if (whileTold) whileTold();
   }
 };
 
@@ -333,6 +337,7 @@ TEST(CListCtrlBookmark, RefusedNameIsBackInTheBox) {
   test.Type(L"a:");
   test.Press(VK_RETURN);
   EXPECT_EQ(L"1 a:", test.asked.back()) << "asked with no box open";
+  EXPECT_EQ(std::vector<std::wstring>{L"a:"}, test.told);
   ASSERT_NE(nullptr, test.list->Edit());
   EXPECT_EQ(1, test.list->EditRow());
   EXPECT_STREQ(L"b", test.list->Edit()->Text().Text());
@@ -350,6 +355,99 @@ TEST(CListCtrlBookmark, RefusedNameIsBackInTheBox) {
   EXPECT_EQ(nullptr, test.list->Edit());
   EXPECT_EQ(L"a,b", test.Names());
   EXPECT_EQ(3u, test.asked.size());
+  EXPECT_EQ((std::vector<std::wstring>{L"a:", L"c:", L"d:"}), test.told);
+}
+
+// A list with a refused name in its box, which has just lost the focus.
+class RefusedName : public testing::Test {
+ protected:
+  RefusedName() {
+    test.Add(L"a");
+    test.Add(L"b");
+    test.accepts = false;
+    test.OpenEdit(1);
+    test.Type(L" x: ");
+  }
+  void IsBackInTheBox() {
+    EXPECT_EQ(std::vector<std::wstring>{L"x:"}, test.told);
+    ASSERT_NE(nullptr, test.list->Edit());
+    EXPECT_TRUE(test.list->Edit()->HasFocus());
+    EXPECT_STREQ(L"b", test.list->Edit()->Text().Text());
+    EXPECT_EQ(1, test.list->EditRow());
+  }
+
+  BookmarkPage test;
+};
+
+TEST_F(RefusedName, IsToldOfWhenTheFocusHasMoved) {
+  test.other.Focus();
+  EXPECT_EQ(std::vector<std::wstring>{L"1 x:"}, test.asked);
+  EXPECT_TRUE(test.told.empty()) << "no box while the focus is on its way";
+  EXPECT_EQ(nullptr, test.list->Edit());
+  EXPECT_TRUE(test.other.HasFocus());
+  test.RunDialog();
+  IsBackInTheBox();
+  EXPECT_EQ(L"a,b", test.Names());
+}
+
+TEST_F(RefusedName, LeavesTheClickedButtonUnpressed) {
+  HWND captured = test.other.Handle();
+  test.whileTold = [&captured] { captured = GetCapture(); };
+  const LPARAM middle = MAKELPARAM(20, 10);
+  test.other.Send(WM_LBUTTONDOWN, MK_LBUTTON, middle);
+  EXPECT_TRUE(test.other.Send(BM_GETSTATE) & BST_PUSHED) << "the click goes on without waiting for a box";
+  EXPECT_TRUE(test.told.empty());
+  test.RunDialog();
+  IsBackInTheBox();
+  EXPECT_EQ(nullptr, captured) << "the box has the mouse";
+  EXPECT_FALSE(test.other.Send(BM_GETSTATE) & BST_PUSHED);
+  test.other.Send(WM_LBUTTONUP, 0, middle);
+  EXPECT_FALSE(test.WasCommanded(kOtherId));
+}
+
+TEST_F(RefusedName, IsToldOfAtOnceBeforeTheRowsAreReadOrMoved) {
+  const std::function<void()> steps[] = {
+      [this] { test.list->CloseEditors(); },
+      [this] { test.list->SortByColumn(1, false); },
+      [this] { test.control.Send(WM_VSCROLL, SB_LINEDOWN); },
+      [this] { test.list->OpenEdit(0, test.control.CellRect(0, 1)); },
+      [this] { test.Click(0, 2); },
+  };
+  for (const auto& step : steps) {
+    test.other.Focus();
+    step();
+    IsBackInTheBox();
+    test.RunDialog();
+    IsBackInTheBox();
+    EXPECT_EQ(L"a,b", test.Names());
+    test.told.clear();
+    test.Type(L" x: ");
+  }
+}
+
+TEST_F(RefusedName, OpensNoBoxInADisabledList) {
+  test.control.Enable(false);
+  EXPECT_TRUE(test.told.empty());
+  test.RunDialog();
+  EXPECT_EQ(std::vector<std::wstring>{L"x:"}, test.told);
+  EXPECT_EQ(nullptr, test.list->Edit());
+}
+
+TEST_F(RefusedName, IsForgottenWithItsRow) {
+  test.other.Focus();
+  test.list->Clear();
+  test.Add(L"c");
+  test.Add(L"d");
+  test.RunDialog();
+  EXPECT_TRUE(test.told.empty());
+  EXPECT_EQ(nullptr, test.list->Edit());
+}
+
+TEST_F(RefusedName, IsNotToldOfInAHiddenList) {
+  test.other.Focus();
+  test.control.Show(false);
+  test.RunDialog();
+  EXPECT_TRUE(test.told.empty());
 }
 
 TEST(CListCtrlBookmark, TheQuestionMayEndListAndRow) {
@@ -358,7 +456,7 @@ TEST(CListCtrlBookmark, TheQuestionMayEndListAndRow) {
       BookmarkPage test;
       test.Add(L"a");
       test.accepts = accepts;
-      test.whileAsked = [&] {
+      (accepts ? test.whileAsked : test.whileTold) = [&] {
         wholeList ? static_cast<void>(::DestroyWindow(test.control.Handle())) : test.list->Clear();
       };
       test.OpenEdit(0);

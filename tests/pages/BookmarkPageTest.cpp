@@ -379,6 +379,27 @@ TEST_F(BookmarkPage, SavingTakesAnOpenEditAlong) {
   List().Edit()->Send(WM_KEYDOWN, VK_ESCAPE, 1);
 }
 
+TEST_F(BookmarkPage, ARefusedNameThatHasLostTheFocusIsToldOfBeforeSaving) {
+  test_.Set(L"OutlineFormats", kOwn);
+  ASSERT_TRUE(test_.Open());
+  Control(1290).Select(3);
+  List().Focus();
+  List().Send(WM_KEYDOWN, VK_F2, 1);
+  ASSERT_NE(nullptr, List().Edit());
+  List().Edit()->SetText(L"plain");
+  Control(1310).Focus();
+  EXPECT_TRUE(popups_.Boxes().empty()) << "no box while the focus is on its way";
+  EXPECT_EQ(nullptr, List().Edit());
+  popups_.ExpectBox({.title = L"Title",
+                     .text = L"The name 'plain' is already used for another bookmark format. Please choose a "
+                             L"unambiguous name.",
+                     .icon = MB_ICONERROR});
+  EXPECT_FALSE(test_.Page().OnKillActive());
+  ASSERT_NE(nullptr, List().Edit());
+  List().Edit()->Send(WM_KEYDOWN, VK_ESCAPE, 1);
+  EXPECT_EQ(L"Heading 1,Heading 2,Heading 3,own,plain", Names());
+}
+
 TEST_F(BookmarkPage, CheckBoxesAreSaved) {
   ASSERT_TRUE(test_.Open());
   List().SelectRow(1);
