@@ -3,6 +3,7 @@
 // behind Windows.h
 #include <oleacc.h>
 
+#include <cstddef>
 #include <iterator>
 #include <utility>
 
@@ -44,17 +45,17 @@ std::optional<TextSize> Measure(HDC dc, const CUString& text) {
 
 // For displays that have a palette: the colours are to be found in it.
 GdiPalette MakePalette() {
+  // As the platform's LOGPALETTE, whose array has one entry in its type and as many as it says in memory.
   struct {
-    LOGPALETTE head;
-    PALETTEENTRY more[kPaletteSize - 1];
-  } description{};
-  description.head.palVersion = 0x300;
-  description.head.palNumEntries = kPaletteSize;
-  PALETTEENTRY* entry = description.head.palPalEntry;
+    WORD version = 0x300, count = kPaletteSize;
+    PALETTEENTRY entries[kPaletteSize] = {};
+  } description;
+  static_assert(offsetof(decltype(description), entries) == offsetof(LOGPALETTE, palPalEntry));
+  PALETTEENTRY* entry = description.entries;
   for (const PaletteRow& row : kPalette)
     *entry++ = {static_cast<BYTE>(RedOf(row.colour)), static_cast<BYTE>(GreenOf(row.colour)),
                 static_cast<BYTE>(BlueOf(row.colour)), 0};
-  return GdiPalette(::CreatePalette(&description.head));
+  return GdiPalette(::CreatePalette(reinterpret_cast<const LOGPALETTE*>(&description)));
 }
 
 }  // namespace
