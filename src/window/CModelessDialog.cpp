@@ -3,6 +3,7 @@
 #include "DriverLIB/WindowThreadState.h"
 #include "window/CenterWindow.h"
 #include "window/HeldKeys.h"
+#include "window/MenuMode.h"
 #include "window/Placement.h"
 
 namespace {
@@ -16,14 +17,6 @@ IntRect WorkArea() {
 }
 
 bool IsKeyMessage(UINT message) { return message >= WM_KEYFIRST && message <= WM_KEYLAST; }
-
-// A menu, or moving by keys: they run in loops of their own, whose keys come to the hook as well.
-bool HasMenuUp() {
-  GUITHREADINFO info{};
-  info.cbSize = sizeof info;
-  constexpr DWORD kOwnLoops = GUI_INMENUMODE | GUI_SYSTEMMENUMODE | GUI_POPUPMENUMODE | GUI_INMOVESIZE;
-  return ::GetGUIThreadInfo(::GetCurrentThreadId(), &info) && (info.flags & kOwnLoops);
-}
 
 }  // namespace
 
@@ -52,7 +45,8 @@ void CModelessDialog::Close() {
   Destroy();
 }
 
-// Left edge to right edge of the sheet, or the other way round; the height is that of centring.
+// Left edge to right edge of the sheet, or the other way round; the height is that of centring. The work area that
+// decides is the primary monitor's, whichever monitor the sheet is on.
 void CModelessDialog::PlaceBesideOwner() const {
   const HWND owner = ::GetWindow(window_, GW_OWNER);
   if (!owner) return;

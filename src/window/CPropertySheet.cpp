@@ -7,6 +7,7 @@
 #include "DriverLIB/WindowThreadState.h"
 #include "window/CActivationContext.h"
 #include "window/DialogTemplate.h"
+#include "window/MenuMode.h"
 #include "window/ValueScope.h"
 
 namespace {
@@ -258,6 +259,7 @@ LRESULT CALLBACK CPropertySheet::KeyHook(int code, WPARAM wParam, LPARAM lParam)
 bool CPropertySheet::TranslateTabKey(const MSG& message) {
   if (!window_ || pages_.size() < 2 || ::GetKeyState(VK_CONTROL) >= 0 || ::GetKeyState(VK_MENU) < 0) return false;
   if (message.hwnd != window_ && !::IsChild(window_, message.hwnd)) return false;
+  if (HasMenuUp()) return false;
   int step = 0;
   if (message.wParam == VK_TAB)
     step = ::GetKeyState(VK_SHIFT) < 0 ? -1 : 1;

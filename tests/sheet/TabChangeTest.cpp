@@ -275,6 +275,32 @@ TEST_F(TabKeys, OtherModifiersAreNotTheSheets) {
   });
 }
 
+// While the sheet's own menu is up, its keys come by as well.
+TEST_F(TabKeys, UnderAMenuTheyAreTheMenus) {
+  test_.Drive([&](Sheet& sheet) -> SheetTask {
+    IdleLoop& loop = sheet.Queue().Loop();
+    bool wasUp = false;
+    PostMessageW(sheet.Window(), WM_SYSCOMMAND, SC_KEYMENU, L' ');
+    sheet.Key(VK_NEXT, {VK_CONTROL});
+    // Behind the key, which is posted by the step before.
+    loop.Post([&] {
+      loop.Post([&] {
+        GUITHREADINFO info{sizeof info, 0, {}, {}, {}, {}, {}, {}, {}};
+        GetGUIThreadInfo(GetCurrentThreadId(), &info);
+        wasUp = (info.flags & GUI_INMENUMODE) != 0;
+        EndMenu();
+      });
+    });
+    co_await sheet.Settled();
+    EXPECT_TRUE(wasUp);
+    EXPECT_EQ(1, sheet.CurrentTab());
+    sheet.Key(VK_NEXT, {VK_CONTROL});
+    co_await sheet.Settled();
+    EXPECT_EQ(0, sheet.CurrentTab());
+    sheet.PressCancel();
+  });
+}
+
 TEST_F(TabKeys, OneTabAlone) {
   TestSheet test;
   test.Drive([&](Sheet& sheet) -> SheetTask {
