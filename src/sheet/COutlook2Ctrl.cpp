@@ -164,11 +164,15 @@ void COutlook2Ctrl::OnMouseMove(WindowMessage& message) {
   const POINT point = PointOf(message);
   const RECT client = ClientRect();
   if (!::PtInRect(&client, point)) {
-    if (::GetCapture() == Handle()) ::ReleaseCapture();
-    SetHot({});
+    OnMouseLeft();
     return;
   }
-  if (::GetCapture() != Handle()) ::SetCapture(Handle());
+  if (::GetCapture() != Handle()) {
+    ::SetCapture(Handle());
+    // A capture without a pressed button ends at another program's window, and nobody tells.
+    TRACKMOUSEEVENT leaving{sizeof leaving, TME_LEAVE, Handle(), 0};
+    ::TrackMouseEvent(&leaving);
+  }
   const BarTarget target = HitTest(point);
   if (target.hit != BarHit::Group) SetHot(target);
   // A window that has captured the mouse is not asked for the cursor.
@@ -188,6 +192,11 @@ void COutlook2Ctrl::OnLeftButtonDown(WindowMessage& message) {
 }
 
 void COutlook2Ctrl::OnMouseGone() { SetHot({}); }
+
+void COutlook2Ctrl::OnMouseLeft() {
+  if (::GetCapture() == Handle()) ::ReleaseCapture();
+  SetHot({});
+}
 
 bool COutlook2Ctrl::OnSetCursor(WindowMessage& message) {
   if (reinterpret_cast<HWND>(message.wParam) != Handle() || LOWORD(message.lParam) != HTCLIENT) return false;
@@ -272,6 +281,7 @@ bool COutlook2Ctrl::OnWindowMessage(WindowMessage& message) {
       OnMessage<&COutlook2Ctrl::OnLeftButtonDown>(WM_LBUTTONDOWN),
       OnMessage<&COutlook2Ctrl::OnLeftButtonDown>(WM_LBUTTONDBLCLK),  // a second click soon after the first
       OnMessage<&COutlook2Ctrl::OnMouseGone>(WM_CAPTURECHANGED),
+      OnMessage<&COutlook2Ctrl::OnMouseLeft>(WM_MOUSELEAVE),
       OnMessage<&COutlook2Ctrl::OnGetDialogCode>(WM_GETDLGCODE),
   };
   if (accessibility_.OnMessage(source_, message)) return true;

@@ -53,6 +53,7 @@ class COutlook2Ctrl : public COutlook2View {
   void OnMouseMove(WindowMessage& message);
   void OnLeftButtonDown(WindowMessage& message);
   void OnMouseGone();
+  void OnMouseLeft();
   bool OnSetCursor(WindowMessage& message);
   bool OnKeyDown(WPARAM key);
   LRESULT OnGetDialogCode(WPARAM, LPARAM lParam) const;

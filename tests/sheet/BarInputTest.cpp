@@ -1,6 +1,7 @@
 // Mouse and keyboard of the navigation bar.
 #include <gtest/gtest.h>
 
+#include "driver/ImportPatch.h"
 #include "sheet/BarOwner.h"
 
 namespace {
@@ -78,6 +79,31 @@ TEST_F(BarMouse, WhoTakesTheCaptureEndsTheHotState) {
   ::SetCapture(owner.button);
   EXPECT_EQ(BarTarget(), Hot());
   EXPECT_EQ(owner.button, ::GetCapture());
+}
+
+std::vector<TRACKMOUSEEVENT> trackings;
+BOOL WINAPI NoteTracking(TRACKMOUSEEVENT* tracking) {
+  trackings.push_back(*tracking);
+  return TRUE;
+}
+
+// A capture without a pressed button does not reach over other programs' windows.
+TEST_F(BarMouse, ThatLeavesForAnotherProgramLeavesNothingHot) {
+  trackings.clear();
+  ASSERT_GT(PatchImport("user32.dll", "TrackMouseEvent", reinterpret_cast<void*>(&NoteTracking)), 0);
+  for (const size_t times : {1u, 2u}) {
+    MoveTo(owner.FolderPoint(2));
+    MoveTo(owner.FolderPoint(0));
+    EXPECT_EQ(times, trackings.size()) << "once for each stay";
+    owner.bar->Send(WM_MOUSELEAVE);
+    EXPECT_EQ(BarTarget(), Hot());
+    EXPECT_EQ(nullptr, ::GetCapture());
+  }
+  RestoreImport("user32.dll", "TrackMouseEvent");
+  for (const TRACKMOUSEEVENT& tracking : trackings) {
+    EXPECT_EQ(DWORD{TME_LEAVE}, tracking.dwFlags);
+    EXPECT_EQ(owner.bar->Handle(), tracking.hwndTrack);
+  }
 }
 
 TEST_F(BarMouse, DrawsTheFolderThatBecomesHotAndNothingElse) {
