@@ -8,6 +8,7 @@
 #include "resources/ResourceIds.h"
 #include "support/Accessible.h"
 #include "support/ControlPictures.h"
+#include "support/FailingMalloc.h"
 #include "support/FakeSheet.h"
 #include "ui/PropertyAccess.h"
 
@@ -274,6 +275,18 @@ TEST_F(GraphicPage, PresetModeTakesTheSlidersPreset) {
   ASSERT_TRUE(Save());
   EXPECT_EQ(300, properties().GraphicResolution[0].GetLong());
   EXPECT_EQ(75, properties().GraphicJpegQuality[0].GetLong());
+}
+
+// Without memory a preset cannot be shown. The next movement counts again.
+TEST_F(GraphicPage, AMovementThatFailsSwallowsNotTheNextOne) {
+  Open();
+  {
+    const FailingMalloc exhausted(0);
+    MoveSlider(1, TB_THUMBTRACK);
+  }
+  EXPECT_EQ(600, page_.resolution);
+  MoveSlider(1, TB_THUMBTRACK);
+  EXPECT_EQ(96, page_.resolution);
 }
 
 TEST_F(GraphicPage, SliderMovedInTheUserDefinedStateChoosesPresets) {

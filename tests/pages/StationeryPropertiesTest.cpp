@@ -5,6 +5,7 @@
 
 #include <functional>
 #include <memory>
+#include <new>
 
 #include "driver/CommonDialogs.h"
 #include "driver/DialogAudit.h"
@@ -12,6 +13,7 @@
 #include "resources/ResourceIds.h"
 #include "sheet/CNemUISheet.h"
 #include "support/DropRecord.h"
+#include "support/FailingMalloc.h"
 #include "support/FakeSheet.h"
 #include "support/FileDialogSpy.h"
 #include "support/PostedMessages.h"
@@ -105,6 +107,31 @@ class StationerySheet : public testing::Test {
 };
 
 // --- The dialog ----------------------------------------------------------------------------------------------------
+
+// Without memory the dialog cannot go over to an entry that has no description yet. What is typed counts all the same.
+TEST(StationeryDialog, AFillingThatFailsIsOver) {
+  const LanguageScope english(kEnglish);
+  const auto first = std::make_shared<CStationeryFormat>(), second = std::make_shared<CStationeryFormat>();
+  first->SetName(L"Letter");
+  PageParent parent;
+  CStationeryPropertiesDialog dialog(first);
+  ASSERT_TRUE(dialog.Create(parent.Window()));
+  second->SetFile(L"C:\\Paper\\plain.pdf");
+  second->SetName(L"");
+  bool failed = false;
+  {
+    const FailingMalloc exhausted(0);
+    try {
+      dialog.SetFormat(second);
+    } catch (const std::bad_alloc&) {
+      failed = true;
+    }
+  }
+  ASSERT_TRUE(failed);
+  EXPECT_FALSE(dialog.IsModified());
+  CWnd(GetDlgItem(dialog.Handle(), IDC_STATIONERY_NAME)).SetText(L"typed");
+  EXPECT_TRUE(dialog.IsModified());
+}
 
 TEST_F(StationerySheet, DialogShowsItsEntryAndIsNotModified) {
   Run([&](Sheet& sheet) -> SheetTask {
