@@ -30,7 +30,7 @@ CPwdConfirmDialog::CPwdConfirmDialog(const CUString& helpFile)
 BOOL CPwdConfirmDialog::OnInitDialog() {
   Item(IDC_CONFIRM_EDITING_LABEL).SetText(MessageText(MSG_CONFIRM_EDITING_PASSWORD).Text());
   if (!CDialog::OnInitDialog()) return FALSE;
-  SetSmallIcon(*this, IDI_PRODUCT);
+  smallIcon_ = SetSmallIcon(*this, IDI_PRODUCT);
   picture_.Attach(*this, IDC_CONFIRM_PICTURE, Pictures::kKey);
   ShowPasswords();
   CWnd first;

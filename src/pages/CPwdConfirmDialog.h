@@ -5,6 +5,7 @@
 #include "DriverLIB/CSecretText.h"
 #include "pages/SecurityRules.h"
 #include "window/CDialog.h"
+#include "window/Gdi.h"
 
 class CPwdConfirmDialog : public CDialog {
  public:
@@ -28,6 +29,7 @@ class CPwdConfirmDialog : public CDialog {
   const CUString helpFile_;
   CSecretText typed_[kPasswordCount];
   uint16_t passwordsVisible_ = 0;
+  GdiIcon smallIcon_;
   CImageStatic picture_;
   CImageStatic good_[kPasswordCount], bad_[kPasswordCount];
 };

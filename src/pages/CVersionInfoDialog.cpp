@@ -57,7 +57,7 @@ BOOL CVersionInfoDialog::OnInitDialog() {
   logo_.Attach(*this, IDC_VERSION_LOGO, Pictures::kLogo);
   for (const auto& [controlId, messageId] : kTexts) Item(controlId).SetText(MessageText(messageId).Text());
   SetText(MessageText(MSG_VERSION_TITLE).Text());
-  SetSmallIcon(*this, IDI_PRODUCT);
+  smallIcon_ = SetSmallIcon(*this, IDI_PRODUCT);
   // Over the program that opened the sheet, whose child the dialog's owner is; on the work area where there is none.
   CenterWindow(*this, Parent().Parent().Handle());
   return TRUE;

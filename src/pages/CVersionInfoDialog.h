@@ -3,6 +3,7 @@
 
 #include "controls/CImageStatic.h"
 #include "window/CDialog.h"
+#include "window/Gdi.h"
 
 class CVersionInfoDialog : public CDialog {
  public:
@@ -17,4 +18,5 @@ class CVersionInfoDialog : public CDialog {
 
  private:
   CImageStatic logo_;
+  GdiIcon smallIcon_;
 };

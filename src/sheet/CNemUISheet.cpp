@@ -41,7 +41,7 @@ BOOL CNemUISheet::OnInitDialog(WindowMessage& message) {
   // Before the first page exists: pages take an administrator's values when they read theirs.
   ReadAdministratorSettings();
   const BOOL result = CNemUISheetBase::OnInitDialog(message);
-  SetSmallIcon(*this, IDI_PRODUCT);
+  smallIcon_ = SetSmallIcon(*this, IDI_PRODUCT);
   if (OffersDocumentProperties()) SetActivePage(documentPage_);
   CenterWindow(*this);
   return result;

@@ -6,6 +6,7 @@
 #include "sheet/CNemUISheetBase.h"
 #include "sheet/SheetServices.h"
 #include "ui/CDialogProperties.h"
+#include "window/Gdi.h"
 
 class CNemUISheet : public CNemUISheetBase, public SheetServices {
  public:
@@ -37,6 +38,7 @@ class CNemUISheet : public CNemUISheetBase, public SheetServices {
   bool OffersDocumentProperties() const { return properties_.Used[1].GetLong() != 0; }
 
   CDialogProperties properties_;
+  GdiIcon smallIcon_;
   CNemUIGlobalSettingsPage globalPage_;
   CNemUIGlobalSettingsPage documentPage_;
 };

@@ -17,6 +17,7 @@ HPROPSHEETPAGE CPropertyPage::CreatePage(CPropertySheet& sheet) {
   page.pfnDlgProc = PageProcedure;
   page.lParam = reinterpret_cast<LPARAM>(this);
   if (TabIconId()) {
+    // The platform's list of the tabs' pictures has this size, whatever the sheet's dpi.
     icon_ =
         static_cast<HICON>(::LoadImageW(page.hInstance, MAKEINTRESOURCEW(TabIconId()), IMAGE_ICON,
                                         ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED));

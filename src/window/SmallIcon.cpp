@@ -1,9 +1,13 @@
 #include "window/SmallIcon.h"
 
 #include "DriverLIB/MessageText.h"
+#include "window/SystemMetrics.h"
 
-void SetSmallIcon(const CWnd& window, UINT iconId) {
-  const HANDLE icon = ::LoadImageW(static_cast<HINSTANCE>(ModuleInstance()), MAKEINTRESOURCEW(iconId), IMAGE_ICON,
-                                   ::GetSystemMetrics(SM_CXSMICON), ::GetSystemMetrics(SM_CYSMICON), LR_SHARED);
-  window.Send(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon));
+GdiIcon SetSmallIcon(const CWnd& window, UINT iconId) {
+  const int dpi = window.Dpi();
+  GdiIcon icon(static_cast<HICON>(::LoadImageW(static_cast<HINSTANCE>(ModuleInstance()), MAKEINTRESOURCEW(iconId),
+                                               IMAGE_ICON, SystemMetric(SM_CXSMICON, dpi),
+                                               SystemMetric(SM_CYSMICON, dpi), LR_DEFAULTCOLOR)));
+  window.Send(WM_SETICON, ICON_SMALL, reinterpret_cast<LPARAM>(icon.Get()));
+  return icon;
 }

@@ -14,6 +14,7 @@
 #include "support/ControlPictures.h"
 #include "support/CopiedFile.h"
 #include "support/FakeSheet.h"
+#include "support/IconPixels.h"
 #include "support/PrintText.h"
 #include "support/TestPrinter.h"
 #include "support/TracedThread.h"
@@ -154,10 +155,10 @@ TEST_F(VersionInfoDialog, GivesTheButtonThatEndedIt) {
 
 TEST_F(VersionInfoDialog, ShowsTheLogoAndTheProductsIcon) {
   Run([](Sheet& sheet) {
-    const auto icon = reinterpret_cast<HICON>(SendMessageW(sheet.Window(), WM_GETICON, ICON_SMALL, 0));
-    EXPECT_EQ(LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(512), IMAGE_ICON, GetSystemMetrics(SM_CXSMICON),
-                         GetSystemMetrics(SM_CYSMICON), LR_SHARED),
-              icon);
+    const HANDLE product = LoadImageW(GetModuleHandleW(nullptr), MAKEINTRESOURCEW(512), IMAGE_ICON,
+                                      GetSystemMetrics(SM_CXSMICON), GetSystemMetrics(SM_CYSMICON), LR_SHARED);
+    ASSERT_NE(nullptr, product);
+    EXPECT_EQ(IconPixels(static_cast<HICON>(product)), SmallIconPixels(sheet.Window()));
     ExpectPictures(CWnd(sheet.Window()), {{1111, Pictures::kLogo}});
   });
 }

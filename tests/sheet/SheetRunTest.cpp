@@ -9,6 +9,7 @@
 #include "pages/CNemUINoDocSettingsPage.h"
 #include "resources/ResourceIds.h"
 #include "support/HelpSpy.h"
+#include "support/IconPixels.h"
 #include "support/PrintText.h"
 #include "TestSheet.h"
 #include "window/Gdi.h"
@@ -215,7 +216,7 @@ TEST(SheetRun, SmallIconIsTheProducts) {
   ASSERT_NE(nullptr, SharedIcon(512));
   TestSheet test;
   test.Drive([](Sheet& sheet) -> SheetTask {
-    EXPECT_EQ(reinterpret_cast<LRESULT>(SharedIcon(512)), SendMessageW(sheet.Window(), WM_GETICON, ICON_SMALL, 0));
+    EXPECT_EQ(IconPixels(SharedIcon(512)), SmallIconPixels(sheet.Window()));
     sheet.PressCancel();
     co_return;
   });
