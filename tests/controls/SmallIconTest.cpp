@@ -27,4 +27,11 @@ TEST(SmallIcon, HasTheSizeOfTheWindowsDpi) {
   ::DestroyWindow(window.Handle());
 }
 
+TEST(SmallIcon, BelongsToOneWindow) {
+  const CWnd window(::CreateWindowExW(0, L"STATIC", L"", WS_POPUP, 0, 0, 10, 10, nullptr, nullptr, nullptr, nullptr));
+  const GdiIcon first = SetSmallIcon(window, IDI_PRODUCT), second = SetSmallIcon(window, IDI_PRODUCT);
+  EXPECT_NE(first.Get(), second.Get()) << "a shared one keeps the size of its first load";
+  ::DestroyWindow(window.Handle());
+}
+
 }  // namespace
