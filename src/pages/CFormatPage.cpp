@@ -10,6 +10,7 @@
 #include "pages/SecurityAccess.h"
 #include "pages/StationeryAccess.h"
 #include "pages/ZugferdAccess.h"
+#include "window/RadioTable.h"
 #include "window/ValueScope.h"
 
 namespace {
@@ -39,16 +40,8 @@ constexpr DefaultsNotice kDefaultsNotices[] = {
     {IsPdfUA, KnowsNothing, MSG_FORMAT_DEFAULTS_PDF_UA},
 };
 
-constexpr int RadioOf(SaveChoice choice) {
-  switch (choice) {
-    case SaveChoice::Ask:
-      return IDC_FORMAT_SAVE_ASK;
-    case SaveChoice::EPdf:
-      return IDC_FORMAT_SAVE_EPDF;
-    default:
-      return IDC_FORMAT_SAVE_PDF;
-  }
-}
+// By SaveChoice.
+constexpr int kSaveRadios[] = {IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_EPDF, IDC_FORMAT_SAVE_ASK};
 
 }  // namespace
 
@@ -207,15 +200,9 @@ int CFormatPage::SelectedVersion() const {
   return kPdfVersions[row < 0 ? 0 : row].value;
 }
 
-void CFormatPage::ShowSaveChoice(SaveChoice choice) {
-  ::CheckRadioButton(Handle(), IDC_FORMAT_SAVE_PDF, IDC_FORMAT_SAVE_ASK, RadioOf(choice));
-}
+void CFormatPage::ShowSaveChoice(SaveChoice choice) { ShowRadio(*this, kSaveRadios, static_cast<unsigned>(choice)); }
 
-SaveChoice CFormatPage::ShownSaveChoice() const {
-  for (const SaveChoice choice : {SaveChoice::Ask, SaveChoice::EPdf})
-    if (IsChecked(RadioOf(choice))) return choice;
-  return SaveChoice::Pdf;
-}
+SaveChoice CFormatPage::ShownSaveChoice() const { return static_cast<SaveChoice>(ShownRadio(*this, kSaveRadios)); }
 
 // The engine that a version forces is shown and not stored: the choice comes back with a version that leaves it.
 void CFormatPage::ShowEngine() {

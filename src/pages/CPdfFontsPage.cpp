@@ -1,23 +1,19 @@
 #include "pages/CPdfFontsPage.h"
 
-#include <algorithm>
-#include <iterator>
+#include <utility>
 
 #include "DriverLIB/Trace.h"
 #include "MessageIds.h"
 #include "pages/FormatAccess.h"
 #include "pages/PdfVersions.h"
+#include "window/RadioTable.h"
 
 namespace {
 
+constexpr uint16_t kAllFonts = 1;
+
 // By mode.
 constexpr int kModeRadios[] = {IDC_FONTS_NONE, IDC_FONTS_ALL, IDC_FONTS_SELECTIVE, IDC_FONTS_NO_STANDARD};
-
-constexpr int RadioOf(unsigned mode) { return mode < std::size(kModeRadios) ? kModeRadios[mode] : IDC_FONTS_NONE; }
-
-constexpr uint16_t ModeOf(int radio) {
-  return static_cast<uint16_t>(std::ranges::find(kModeRadios, radio) - std::begin(kModeRadios));
-}
 
 constexpr int kLists[] = {IDC_FONTS_EMBED_LABEL, IDC_FONTS_EMBED_LIST, IDC_FONTS_NEVER_LABEL, IDC_FONTS_NEVER_LIST};
 constexpr int kButtons[] = {IDC_FONTS_EXCLUDE_ALL, IDC_FONTS_EXCLUDE, IDC_FONTS_EMBED, IDC_FONTS_EMBED_ALL};
@@ -68,8 +64,8 @@ void CPdfFontsPage::DoDataExchange(CDataExchange& exchange) {
 void CPdfFontsPage::LoadControls() {
   ListInstalledFonts();
   showsForcedRadio_ = MustEmbedAll();
-  radioInForce_ = showsForcedRadio_ ? IDC_FONTS_ALL : RadioOf(mode);
-  ::CheckRadioButton(Handle(), IDC_FONTS_NONE, IDC_FONTS_SELECTIVE, radioInForce_);
+  ShowRadio(*this, kModeRadios, showsForcedRadio_ ? kAllFonts : mode);
+  radioInForce_ = ChosenRadio();
   FillLists();
   UpdateControls();
 }
@@ -77,7 +73,7 @@ void CPdfFontsPage::LoadControls() {
 void CPdfFontsPage::SaveControls(CDataExchange& exchange) {
   // The version may have changed on its own page since the controls were filled: a radio that the version chose is not
   // the user's choice, even when the version has gone.
-  if (!MustEmbedAll() && !showsForcedRadio_) mode = ModeOf(ChosenRadio());
+  if (!MustEmbedAll() && !showsForcedRadio_) mode = static_cast<uint16_t>(ShownRadio(*this, kModeRadios));
   if (ChosenRadio() == IDC_FONTS_SELECTIVE) {
     ReadLists();
     if (texts.ExceedTheRecord())
@@ -107,11 +103,7 @@ void CPdfFontsPage::OnModeClicked(WindowMessage& message) {
   UpdateControls();
 }
 
-int CPdfFontsPage::ChosenRadio() const {
-  for (int id = IDC_FONTS_NONE; id <= IDC_FONTS_SELECTIVE; ++id)
-    if (IsChecked(id)) return id;
-  return IDC_FONTS_NONE;
-}
+int CPdfFontsPage::ChosenRadio() const { return kModeRadios[ShownRadio(*this, kModeRadios)]; }
 
 bool CPdfFontsPage::MustEmbedAll() { return RequiresEmbeddedFonts(PdfVersionFor(*this)); }
 

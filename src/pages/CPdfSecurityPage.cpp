@@ -9,10 +9,11 @@
 #include "pages/FormatAccess.h"
 #include "pages/PdfVersions.h"
 #include "window/PasswordEdit.h"
+#include "window/RadioTable.h"
 
 namespace {
 
-constexpr uint16_t kOwnersForEditing = 0, kNoneForEditing = 1, kIndependent = 2;
+constexpr uint16_t kIndependent = 2;  // the mode in which editing has a password of its own
 
 // By the kind of the password.
 struct PasswordRow {
@@ -32,20 +33,9 @@ constexpr int kOwnerControls[] = {
 };
 constexpr int kUserControls[] = {IDC_SECURITY_USER_LABEL, IDC_SECURITY_USER_PASSWORD};
 constexpr int kDetailedRights[] = {IDC_SECURITY_EXTRACT, IDC_SECURITY_FORMS, IDC_SECURITY_ASSEMBLING};
-constexpr int kEditingRadios[] = {IDC_SECURITY_EDITING_NONE, IDC_SECURITY_EDITING_OWNER,
+// By mode: the one in the middle is 0, and stands for all other values.
+constexpr int kEditingRadios[] = {IDC_SECURITY_EDITING_OWNER, IDC_SECURITY_EDITING_NONE,
                                   IDC_SECURITY_EDITING_INDEPENDENT};
-
-// The radios do not stand in the order of their values: the one in the middle is 0, and stands for all other values.
-constexpr int RadioOf(uint16_t mode) {
-  switch (mode) {
-    case kIndependent:
-      return IDC_SECURITY_EDITING_INDEPENDENT;
-    case kNoneForEditing:
-      return IDC_SECURITY_EDITING_NONE;
-    default:
-      return IDC_SECURITY_EDITING_OWNER;
-  }
-}
 
 }  // namespace
 
@@ -148,13 +138,10 @@ void CPdfSecurityPage::ExchangeValues(CDataExchange& exchange) {
 }
 
 void CPdfSecurityPage::ExchangeEditingMode(CDataExchange& exchange) {
-  if (exchange.IsLoading()) {
-    ::CheckRadioButton(Handle(), IDC_SECURITY_EDITING_NONE, IDC_SECURITY_EDITING_INDEPENDENT, RadioOf(enhancedMode));
-    return;
-  }
-  enhancedMode = kOwnersForEditing;
-  for (const uint16_t mode : {kIndependent, kNoneForEditing})
-    if (IsChecked(RadioOf(mode))) enhancedMode = mode;
+  if (exchange.IsLoading())
+    ShowRadio(*this, kEditingRadios, enhancedMode);
+  else
+    enhancedMode = static_cast<uint16_t>(ShownRadio(*this, kEditingRadios));
 }
 
 void CPdfSecurityPage::RefuseEmptyPasswords(CDataExchange& exchange) {

@@ -9,6 +9,7 @@
 #include "support/FakeSheet.h"
 #include "support/PrintText.h"
 #include "window/CSubclassedControl.h"
+#include "window/RadioTable.h"
 
 namespace {
 
@@ -175,6 +176,17 @@ TEST_F(DataExchange, RadioWithNoneOnFailsAndKeepsTheMember) {
   EXPECT_EQ(2, index);
   EXPECT_TRUE(exchange.HasFailed());
   EXPECT_EQ(kRadio, exchange.FailedControl());
+}
+
+TEST_F(DataExchange, RadiosInAnOrderOfTheirOwnStandInATable) {
+  constexpr int kByValue[] = {kRadio + 1, kRadio + 2, kRadio};
+  EXPECT_EQ(0, ShownRadio(dialog_, kByValue)) << "none is on";
+  const std::pair<unsigned, int> values[] = {{0, 1}, {1, 2}, {2, 0}, {3, 1}, {0xFFFF, 1}};
+  for (const auto& [value, on] : values) {
+    ShowRadio(dialog_, kByValue, value);
+    EXPECT_EQ(std::vector<int>{on}, CheckedRadios()) << value;
+    EXPECT_EQ(value < 3 ? static_cast<int>(value) : 0, ShownRadio(dialog_, kByValue)) << value;
+  }
 }
 
 TEST_F(DataExchange, RadioIndexOfNoButtonTurnsAllOff) {
