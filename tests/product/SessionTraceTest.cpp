@@ -90,9 +90,22 @@ std::wstring MissingValue(const std::wstring& name) {
          L" not found, using default : " + SystemText(ERROR_FILE_NOT_FOUND);
 }
 
+// Other threads of the process leave traces too. One that is left would be gone on with by a later thread of its
+// number.
+void DeleteTraces() {
+  WIN32_FIND_DATAW file;
+  const HANDLE search = FindFirstFileW(L"session-AddInUI-t*.log", &file);
+  if (search == INVALID_HANDLE_VALUE) return;
+  do {
+    DeleteFileW(file.cFileName);
+  } while (FindNextFileW(search, &file));
+  FindClose(search);
+}
+
 class SessionTrace : public testing::Test {
  protected:
   SessionTrace() {
+    DeleteTraces();
     for (ProductValue* value : {&machineTrace, &userTrace, &machineLog, &userLog}) {
       value->Set(L"");  // the key is there,
       value->Delete();  // the value is not
