@@ -1,15 +1,15 @@
 #include "Component.h"
 
-#ifdef NEEDS_HELPER
-__declspec(dllimport) int NemTestHelp(void);
+#ifdef NEEDS_ANOTHER
+__declspec(dllimport) int NemTestNeeded(void);
 #endif
 
 EXPORT int NemPdfGetVersion(uint32_t* version) {
 #ifdef VERSION_RAISES
   RAISE_FOREIGN();
 #endif
-#ifdef NEEDS_HELPER
-  if (!NemTestHelp()) return 0;
+#ifdef NEEDS_ANOTHER
+  if (!NemTestNeeded()) return 0;
 #endif
 #ifdef VERSION_FAILS
   (void)version;

@@ -97,7 +97,7 @@ TEST(HDllBase, KeepsTheSystemsErrorOfAFailedLoad) {
 
 namespace {
 
-constexpr wchar_t kHelper[] = L"NemTestHelper.dll";
+constexpr wchar_t kNeeded[] = L"NemTestNeeded.dll";
 
 std::wstring NeedingFile() { return ComponentFolder(L"needing") + kPdf; }
 
@@ -115,13 +115,13 @@ HMODULE WINAPI LoadAsOldSystemsDo(const wchar_t* name, HANDLE file, DWORD flags)
 TEST(HDllBase, FindsWhatAFileNeedsBesideIt) {
   HDllBase alone;
   EXPECT_FALSE(alone.LoadLibrary(NeedingFile().c_str()));
-  const CopiedFile helper(ComponentFolder(L"helper") + kHelper, ComponentFolder(L"needing") + kHelper);
+  const CopiedFile needed(ComponentFolder(L"needed") + kNeeded, ComponentFolder(L"needing") + kNeeded);
   HDllBase dll;
   EXPECT_TRUE(dll.LoadLibrary(NeedingFile().c_str())) << dll.lastError;
 }
 
 TEST(HDllBase, FindsItThereOnOldSystemsToo) {
-  const CopiedFile helper(ComponentFolder(L"helper") + kHelper, ComponentFolder(L"needing") + kHelper);
+  const CopiedFile needed(ComponentFolder(L"needed") + kNeeded, ComponentFolder(L"needing") + kNeeded);
   HDllBase dll;
   ASSERT_GT(PatchImport("kernel32.dll", "LoadLibraryExW", reinterpret_cast<void*>(&LoadAsOldSystemsDo)), 0);
   const bool loaded = dll.LoadLibrary(NeedingFile().c_str());
@@ -130,7 +130,7 @@ TEST(HDllBase, FindsItThereOnOldSystemsToo) {
 }
 
 TEST(HDllBase, TakesNothingThatAFileNeedsFromTheCurrentDirectory) {
-  const CurrentDirectory there(ComponentFolder(L"helper"));
+  const CurrentDirectory there(ComponentFolder(L"needed"));
   HDllBase dll;
   EXPECT_FALSE(dll.LoadLibrary(NeedingFile().c_str()));
   EXPECT_EQ(static_cast<DWORD>(ERROR_MOD_NOT_FOUND), dll.lastError);
