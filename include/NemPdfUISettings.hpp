@@ -68,12 +68,13 @@ namespace settings {
 // In set 1: other than 0 offers the tab "e.pdf Document Properties" and opens the sheet on it. Not read in set 0: the
 // tab "Basic Settings" is always there.
 inline constexpr Setting<Kind::Number> Used{L"Used"};
-// Bit set, input only. 1 locks the target controls of the Saving page and the mail controls, and takes away the choice
-// of the e.pdf format. 2 makes the paper page offer duplex and paper bins.
+// Bit set, input only. 1 locks the target controls of the Saving page, the actions and the mail controls, and takes
+// away the choice of the e.pdf format. 2 makes the paper page offer duplex and paper bins.
 inline constexpr Setting<Kind::Number> PrintOutput{L"PrintOutput"};
 // Bit set, input only. 1 locks the scope of the settings on the Saving page. 2 says that the host sets page layout and
-// document information: their controls are locked. 4 hides the choice for all instances of the application. 16 forbids
-// the choice that the calling application manages the settings.
+// document information: their controls are locked; under Word the bookmark page then shows the styles of the open
+// document. 4 hides the choice for all instances of the application. 16 forbids the choice that the calling application
+// manages the settings.
 inline constexpr Setting<Kind::Number> InternalUse{L"InternalUse"};
 
 // --- Page ---
