@@ -588,7 +588,8 @@ TEST(SecurityPageTemplate, TheRadiosAreAGroupOfTheirOwn) {
   for (auto control = std::ranges::find(controls, DWORD{1258}, &Control::id);
        control != controls.end() && found.size() < 4; ++control)
     found.emplace_back(control->id, (control->style & WS_GROUP) != 0);
-  EXPECT_EQ(found, (std::vector<std::pair<DWORD, bool>>{{1258, true}, {1259, false}, {1260, false}, {1007, true}}));
+  EXPECT_EQ(found, (std::vector<std::pair<DWORD, bool>>{
+                       {1258, true}, {1259, false}, {1260, false}, {IDC_SECURITY_EDITING_LABEL, true}}));
 }
 
 // From their first moment on.
