@@ -1,6 +1,7 @@
 #include "DriverLIB/Numbers.h"
 
 #include <algorithm>
+#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <string>
@@ -55,7 +56,9 @@ double ParseDouble(NarrowView text) {
   std::string_view rest = text;
   while (!rest.empty() && platform::IsNarrowSpace(static_cast<unsigned char>(rest.front()))) rest.remove_prefix(1);
   // Only what is a number everywhere: run-time libraries differ in names of infinity, hexadecimal digits and the like.
-  const std::string number(rest.substr(0, NumberLength(rest)));
+  std::string number(rest.substr(0, NumberLength(rest)));
+  // The run-time library reads by the locale of the process, which it shares with the host.
+  if (const size_t point = number.find('.'); point != number.npos) number[point] = *std::localeconv()->decimal_point;
   return std::atof(number.c_str());
 }
 

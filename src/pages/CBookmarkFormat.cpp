@@ -86,6 +86,7 @@ CUString CBookmarkFormat::GetLevelText() const {
 CUString CBookmarkFormat::GetSizeText() const {
   CUString text;
   text.Format(fontSize == std::floor(fontSize) ? L"%.0f" : L"%.1f", fontSize);
+  text.ReplaceStr(L",", L".");  // the run-time library writes by the locale of the process, which is the host's
   return text;
 }
 

@@ -193,7 +193,9 @@ void CBookmarkPage::CreateNewBookmarkFormat(bool forceDefault) {
   ShowBookmarkFormatDialog(true);
 }
 
-void CBookmarkPage::OnEditFormat() { ShowBookmarkFormatDialog(false); }
+void CBookmarkPage::OnEditFormat() {
+  if (LeaveEditors()) ShowBookmarkFormatDialog(false);
+}
 
 // By keyboard there is no other way into a dialog that is open already.
 void CBookmarkPage::OnReturn() {
@@ -255,10 +257,11 @@ void CBookmarkPage::OnItemChanged(WindowMessage& message) {
   OnListEdited();
 }
 
-// What was changed in the dialog and not applied is lost.
+// What was changed in the dialog and not applied is lost. A format that is still new stays so: what is told here may be
+// an edit that was under way when it was made.
 void CBookmarkPage::OnListEdited() {
   if (dialog_.IsOpen() && SelectedRow())
-    ShowBookmarkFormatDialog(false);
+    ShowBookmarkFormatDialog(dialog_->isNew && SelectedRow() == editedRow_);
   else
     UpdateControls();
 }

@@ -15,5 +15,6 @@ double CorrectNumber(const CWnd& dialog, int id, const NumberRule& rule) {
 void ShowNumber(const CWnd& dialog, int id, double number) {
   CUString text;
   text.Format(L"%g", number);
+  text.ReplaceStr(L",", L".");  // the run-time library writes by the locale of the process, which is the host's
   dialog.Item(id).SetText(text.Text());
 }

@@ -2,12 +2,14 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
 #include <string>
 
 #include "DriverLIB/CUString.h"
+#include "pages/CBookmarkFormat.h"
 
 namespace {
 
@@ -49,6 +51,21 @@ const DecimalSample kDecimals[] = {
     {L"/", 0},
     {L":", 0},
 };
+
+// A host may have chosen the locale of its user, whose decimal sign is a comma, for the run-time library that we share.
+TEST(ParseDouble, TakesThePointForTheDecimalSignUnderEveryLocale) {
+  const std::string before = std::setlocale(LC_NUMERIC, nullptr);
+  if (!std::setlocale(LC_NUMERIC, "German") && !std::setlocale(LC_NUMERIC, "de_DE.UTF-8"))
+    GTEST_SKIP() << "no locale with a decimal comma here";
+  const double number = ParseDouble("10.5"), none = ParseDouble("10,5");
+  CBookmarkFormat format;
+  format.fontSize = 10.5;
+  const CUString size = format.GetSizeText();
+  std::setlocale(LC_NUMERIC, before.c_str());
+  EXPECT_EQ(10.5, number);
+  EXPECT_EQ(10.0, none);
+  EXPECT_STREQ(L"10.5", size.Text());
+}
 
 }  // namespace
 

@@ -296,6 +296,23 @@ TEST_F(BookmarkSheet, ColoursAreChosenFromThePalette) {
   });
 }
 
+// By access key: the edit is told of only when the new format is there already.
+TEST_F(BookmarkSheet, AFormatThatEndsAnEditIsNew) {
+  for (const int button : {1310, 1312})
+    Run([&](Sheet& sheet) -> SheetTask {
+      sheet.Control(1290).Select(3);
+      List(sheet).Focus();
+      sheet.Key(VK_F2);
+      co_await sheet.Settled();
+      co_await Press(sheet, button);
+      EXPECT_TRUE(Item(kApply).IsEnabled()) << button;
+      EXPECT_TRUE(IsLocked(sheet)) << button;
+      EXPECT_EQ(6, List(sheet).Count());
+      co_await PressInDialog(sheet, kCancel);
+      EXPECT_EQ(5, List(sheet).Count()) << button;
+    });
+}
+
 TEST_F(BookmarkSheet, PreviewCutsTheSizeThatIsStored) {
   Run([&](Sheet& sheet) -> SheetTask {
     co_await Edit(sheet);

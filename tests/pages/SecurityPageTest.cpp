@@ -202,6 +202,16 @@ TEST_F(SecurityPage, SavingObeysAVersionThatHasComeSince) {
   EXPECT_EQ(L"0", test_->Value(L"EncryptOwnerPasswordEnabled"));
 }
 
+// What a new version closes is still asked for: the user has left it so.
+TEST_F(SecurityPage, PasswordsAreLookedAtBeforeAVersionThatHasComeSinceCounts) {
+  OpenWith(14);
+  Control(1003).SetText(L"");
+  format_.version = 100;
+  ExpectWarning(L"The entered password for the security settings is invalid!");
+  EXPECT_FALSE(Leave());
+  EXPECT_TRUE(Control(1022).IsChecked());
+}
+
 TEST_F(SecurityPage, Pdf13HasNoDetailedRightsAndTheyKeepTheirState) {
   test_->Set(L"EncryptEnableForms", 1);
   OpenWith(13);
