@@ -51,7 +51,7 @@ void CLinksPage::DoDataExchange(CDataExchange& exchange) {
 void CLinksPage::ExchangeWidth(CDataExchange& exchange) {
   const CComboBox widths(Item(IDC_LINKS_WIDTH));
   if (exchange.IsLoading() && (!FillWidths(widths) || !widths.Select(RowOfLinkBorderWidth(hyperlinkBorderWidth))))
-    exchange.Fail(IDC_LINKS_WIDTH);
+    exchange.FailAndGoOn(IDC_LINKS_WIDTH);
   if (!exchange.IsSaving()) return;
   const int row = widths.Selection();
   hyperlinkBorderWidth = static_cast<uint16_t>(kLinkBorderWidths[std::max(row, 0)].width);

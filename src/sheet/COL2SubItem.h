@@ -29,6 +29,6 @@ class COL2SubItem {
 
   bool IsSeen() const { return rect.Width() > 0 && rect.Height() > 0; }
   bool HasCommand() const { return !window; }
-  // Plain, radio and check entries show how they stand, and ask for it.
+  // Plain, radio and check entries ask how they stand while nothing happens; a link asks when it is painted only.
   bool IsProbed() const { return HasCommand() && kind != BarEntryKind::Link; }
 };

@@ -139,14 +139,14 @@ void COutlook2Ctrl::OpenFolder(int folder, bool animate) {
 void COutlook2Ctrl::UpdateEntries() {
   for (const BarTarget& target : model_.EntriesOf(model_.OpenFolder())) {
     COL2SubItem& entry = *model_.Entry(target);
-    if (!Probe(entry)) continue;
+    if (!entry.IsProbed() || !Probe(entry)) continue;
     Repaint(entry.rect);
     NotifyAccessibleEvent(EVENT_OBJECT_STATECHANGE, Handle(), source_.PartOf(target));
   }
 }
 
 bool COutlook2Ctrl::Probe(COL2SubItem& entry) {
-  if (!entry.IsProbed()) return false;
+  if (!entry.HasCommand()) return false;
   const int bits = Ask(entry);
   return std::exchange(entry.probeBits, bits) != bits;
 }

@@ -227,6 +227,16 @@ TEST_F(COutlook2CtrlTest, PaintingAsksForEachEntryOfTheOpenFolder) {
   EXPECT_EQ((Commands{110, 111, 112}), owner.probes);
 }
 
+TEST_F(COutlook2CtrlTest, PaintingAsksForALinkToo) {
+  owner.onProbe = [](CCmdUI& probe) {
+    if (probe.Id() == 200) probe.SetText(L"new");
+  };
+  owner.bar->OpenFolder(2, false);
+  owner.Add(200, BarEntryKind::Link);
+  ::UpdateWindow(owner.bar->Handle());
+  EXPECT_EQ((Commands{120, 200}), owner.probes);
+}
+
 TEST_F(COutlook2CtrlTest, PaintingKeepsTheBits) {
   owner.onProbe = [](CCmdUI& probe) {
     probe.Enable(true);
