@@ -78,8 +78,6 @@ static_assert(std::size(kProperties) == std::size(kFields));
 
 const Field& FieldOf(int number) { return kFields[number - 1]; }
 
-// The pages that the sheet does not have: they, and nothing else, may leave their row unmarked.
-const std::set<int> kNotBuilt = {119};
 // The document's tab has placeholders in their places.
 const std::set<int> kOfBasicSettingsAlone = {102, 103, 104};
 
@@ -101,7 +99,6 @@ class CockpitAndPages : public CockpitRestore {
   }
   bool IsTracked(int category, int set = 0) {
     const int pageId = kRows[category - 1].pageId;
-    if (kNotBuilt.contains(pageId)) return realPages_[pageId] != nullptr;
     return set == 0 || !kOfBasicSettingsAlone.contains(pageId);
   }
 
@@ -136,7 +133,7 @@ class CockpitAndPages : public CockpitRestore {
 TEST_F(CockpitAndPages, ThePagesAreThere) {
   for (const int set : {0, 1}) {
     MakePages(set);
-    for (const auto& [pageId, page] : realPages_) EXPECT_TRUE(page || kNotBuilt.contains(pageId)) << pageId;
+    for (const auto& [pageId, page] : realPages_) EXPECT_TRUE(page) << pageId;
   }
 }
 

@@ -325,7 +325,10 @@ TEST_F(TraceSwitch, OnTakesTheFolderOfThePicker) {
   });
   std::wstring folder = L"C:\\windows\\temp";
   ExpectBox(NowOn(folder), MB_ICONINFORMATION);
+  // Nothing is to be made of a folder that is there: on a network it would be made in the wrong place.
+  PatchImport("kernel32.dll", "CreateDirectoryW", reinterpret_cast<void*>(&CreateNoDirectory));
   ClickLogo();
+  RestoreImport("kernel32.dll", "CreateDirectoryW");
   EXPECT_EQ(folder + L"\\NEMpdfVonder.log", machine.Text());
   EXPECT_EQ(folder + L"\\NEMpdfVonder.log", user.Text());
   EXPECT_TRUE(WasSpoolerRestarted());
