@@ -22,7 +22,10 @@ bool OpenWithShell(HWND owner, const wchar_t* target, int show, const wchar_t* v
 }
 
 bool ExecuteShell(SHELLEXECUTEINFOW& info) {
-  if (const auto executeEx = ShellFunction<decltype(::ShellExecuteExW)>("ShellExecuteExW")) return executeEx(&info);
+  if (const auto executeEx = ShellFunction<decltype(::ShellExecuteExW)>("ShellExecuteExW")) {
+    ::SetLastError(ERROR_SUCCESS);  // whatever the search for the function has left
+    return executeEx(&info);
+  }
   const auto execute = ShellFunction<decltype(::ShellExecuteW)>("ShellExecuteW");
   if (!execute) return false;
   const HINSTANCE result = execute(nullptr, L"open", info.lpFile, info.lpParameters, info.lpDirectory, SW_HIDE);

@@ -105,8 +105,8 @@ void CUpdatePage::UpdateUpdateControls() {
 
 void CUpdatePage::CheckUpdaterPresent() {
   const CUString folder = InstallLocation();
-  // A second separator does no harm.
-  isUpdaterMissing_ = folder.IsEmpty() || !FileExists((folder + L"\\" + kUpdator).Text());
+  // A second separator does no harm, but two alone would name a server.
+  isUpdaterMissing_ = folder.Length() <= 1 || !FileExists((folder + L"\\" + kUpdator).Text());
 }
 
 void CUpdatePage::ApplyUpdateOverrides() {

@@ -217,6 +217,7 @@ TEST(CColourPicker, PassesCancellingOn) {
   ColourPage test;
   test.Open(kForeign);
   test.Press(VK_DOWN);
+  EXPECT_EQ(kForeign, test.picker->GetColour()) << "it tracks only when it is told to";
   test.page.received.clear();
   test.Press(VK_ESCAPE);
   test.ExpectTold({kCloseUp, kCancel}, kForeign);
@@ -439,6 +440,15 @@ TEST(CColourPickerLook, LabelIsTheDefaultTextOrTheParts) {
     const RECT inked = Inked(text, ::GetSysColor(COLOR_BTNFACE));
     EXPECT_EQ(*row.label != 0, inked.right > 20) << "and it is there";
   }
+}
+
+TEST(CColourPickerLook, ShowsTheColourAsTextUnlessToldOtherwise) {
+  ColourPage test;
+  test.picker->SetColour(kRed);
+  const TextSpy spy;
+  TextPart(test.control);
+  ASSERT_EQ(1u, spy.Drawn().size());
+  EXPECT_EQ(L"R:255 G:0 B:0", spy.Drawn()[0].text);
 }
 
 TEST(CColourPickerLook, GreyWhenDisabled) {

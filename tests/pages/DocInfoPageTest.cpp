@@ -4,6 +4,7 @@
 #include "pages/CDocInfoPage.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
+#include "support/ControlPictures.h"
 #include "support/HostProgramScope.h"
 #include "support/PrintText.h"
 #include "support/WordHost.h"
@@ -155,6 +156,7 @@ TEST_F(DocInfoPage, TextsThatTheHostSetsAreClosedAndThePageSaysSo) {
   EXPECT_EQ(L"Change the document properties via application (pages_tests.exe)", Control(1096).Text());
   auto* const sign = dynamic_cast<CImageStatic*>(CSubclassedControl::FromHandle(Control(1162).Window()));
   EXPECT_TRUE(sign && sign->IsLoaded());
+  ExpectPictures(test_->Page(), {{1162, Pictures::kSignWarning16}});
 }
 
 TEST_F(DocInfoPage, TextsThatTheHostSetsAreShownAndGoBack) {

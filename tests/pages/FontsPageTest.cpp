@@ -856,4 +856,6 @@ TEST_F(FontsPage, AThousandFontsMoveTogether) {
   EXPECT_TRUE(std::ranges::is_sorted(Embedded()));
 }
 
+TEST_F(FontsPage, IsNotReadBeforeItIsAsked) { EXPECT_EQ(0xFFFF, Page().mode); }
+
 }  // namespace

@@ -369,4 +369,9 @@ TEST(FormFieldsColorPage, AColourThatIsNoLongerUsedMarksItsKind) {
   }
 }
 
+TEST(FormFieldsColorPageAlone, TakesTheHostForOneWithFormFieldsUntilItIsAsked) {
+  PageUnderTest test(kFormFieldsColorPage);
+  EXPECT_EQ(1, test.As<CFormFieldsColorPage>().formFieldsEnabled);
+}
+
 }  // namespace

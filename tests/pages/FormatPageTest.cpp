@@ -439,6 +439,32 @@ TEST_F(FormatPage, StationeryOfTheWatermarkPageIsTheOneThatCounts) {
   }
 }
 
+TEST_F(FormatPage, StationeryPaperIsRemindedOfOnceForAllFamilies) {
+  properties().StationeryEnabled[0].SetLong(1);
+  OpenWith(14);
+  ExpectNotice(kDefaultsA1);
+  ExpectNotice(kStationeryReminder);
+  Choose(101);
+  ExpectNotice(kDefaultsA2);
+  Choose(102);
+  ExpectNotice(kDefaultsA3);
+  Choose(105);
+  EXPECT_EQ(4u, BoxCount());
+}
+
+TEST_F(FormatPage, TheReminderWaitsForStationery) {
+  FakeWatermarkPage watermark(log_);
+  sheet_.pages[kWatermarkPage] = &watermark;
+  watermark.on = false;
+  OpenWith(101);
+  Choose(100);
+  EXPECT_EQ(0u, BoxCount());
+  watermark.on = true;
+  ExpectNotice(kStationeryReminder);
+  Choose(101);
+  EXPECT_EQ(1u, BoxCount());
+}
+
 // The owner of the sheet may go away under a box.
 TEST_F(FormatPage, ABoxThatEndsThePageIsTheLast) {
   AddOtherPages();
@@ -690,6 +716,18 @@ TEST_F(FormatPage, SpecialVersionsShowPdfAndPlainOnesWhatWasChosen) {
     ASSERT_TRUE(Save());
     EXPECT_EQ(0x102, StoredFormat()) << version;
   }
+}
+
+// Whether there is something to tell or not.
+TEST_F(FormatPage, AFamilyThatIsKnownAlreadyShowsPdfToo) {
+  properties().SaveFormat[0].SetLong(0x102);
+  OpenWith(101);
+  EXPECT_EQ(1269, SaveRadio());
+  Choose(100);
+  EXPECT_EQ(0u, BoxCount());
+  EXPECT_EQ(1267, SaveRadio());
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(1, StoredFormat());
 }
 
 TEST_F(FormatPage, ASpecialVersionThatIsSavedLeavesAPdf) {

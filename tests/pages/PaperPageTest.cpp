@@ -7,6 +7,7 @@
 #include "pages/CPaperPage.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
+#include "support/ControlPictures.h"
 #include "support/PrintText.h"
 #include "support/RegistryValue.h"
 #include "support/WordHost.h"
@@ -731,6 +732,7 @@ TEST_F(PaperPage, AListThatCannotBeFilledEndsTheStart) {
 TEST_F(PaperPage, PicturesAreThere) {
   ASSERT_TRUE(Open());
   for (const int id : {1162, 1246, 1247}) EXPECT_TRUE(IsPictureLoaded(id)) << id;
+  ExpectPictures(test_->Page(), {{1162, Pictures::kSignWarning16}});
 }
 
 TEST_F(PaperPage, PicturesStandAsTheirPaper) {

@@ -1,6 +1,7 @@
 #include <gtest/gtest.h>
 
 #include "driver/Popups.h"
+#include "pages/CPdfSecurityPage.h"
 #include "pages/SecurityAccess.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
@@ -706,6 +707,15 @@ TEST_F(SecurityPage, EachPasswordHasANameForScreenReaders) {
 TEST_F(SecurityPage, PasswordsHaveTheirLimit) {
   OpenWith(14);
   for (const int id : kEdits) EXPECT_EQ(31, SendMessageW(Control(id).Window(), EM_GETLIMITTEXT, 0, 0)) << id;
+}
+
+TEST_F(SecurityPage, IsNotReadBeforeItIsAsked) {
+  PageUnderTest fresh(kSecurityPage);
+  const auto& page = fresh.As<CPdfSecurityPage>();
+  EXPECT_EQ(0xFFFF, page.userEnabled);
+  EXPECT_EQ(0xFFFF, page.ownerEnabled);
+  EXPECT_EQ(0xFFFF, page.enhancedMode);
+  EXPECT_EQ(1, page.saveFormatEPdfEnabled);
 }
 
 }  // namespace
