@@ -21,7 +21,7 @@ target_compile_definitions(NemPdfFlags INTERFACE $<$<CONFIG:RelWithDebInfo,Debug
 if(WIN32)
   target_compile_definitions(NemPdfFlags INTERFACE UNICODE _UNICODE STRICT NOMINMAX WINVER=0x0A00
                                                    _WIN32_WINNT=0x0A00 NTDDI_VERSION=0x0A000000 _WIN32_IE=0x0A00)
-  target_compile_options(NemPdfFlags INTERFACE -ffunction-sections -fdata-sections -Wno-cast-function-type)
+  target_compile_options(NemPdfFlags INTERFACE -Wno-cast-function-type)
   # What -fstack-protector-strong calls, in place of the tool chain's own library.
   add_library(NemPdfStackProtector STATIC ${PROJECT_SOURCE_DIR}/src/DriverLIB/StackProtector.cpp)
   target_link_libraries(NemPdfFlags INTERFACE NemPdfStackProtector)
@@ -40,7 +40,10 @@ endif()
 add_library(NemPdfCore STATIC)
 target_link_libraries(NemPdfCore PUBLIC NemPdfFlags)
 if(WIN32)
+  # What the library does not use of its own code is left out.
+  target_compile_options(NemPdfCore PRIVATE -ffunction-sections -fdata-sections)
   add_library(NemPdfWindows STATIC)
+  target_compile_options(NemPdfWindows PRIVATE -ffunction-sections -fdata-sections)
   target_link_libraries(NemPdfWindows PUBLIC NemPdfCore)
   target_precompile_headers(NemPdfWindows PRIVATE ${PROJECT_SOURCE_DIR}/src/window/Windows.h)
 endif()

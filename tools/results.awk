@@ -1,12 +1,12 @@
 # Reads the output of a GoogleTest program. Prints "passed failed skipped ran-to-its-end" as four numbers; what the
 # failed tests printed goes to the file `failures`, at most 80 lines a test. A test in which the program died counts as
-# failed.
+# failed. What a running test tells of another program's tests is its own text, and counts for nothing.
 {
   sub(/\r$/, "")
 }
 
-/^\[ RUN      \] / {
-  name = substr($0, 14)
+name == "" && match($0, /\[ RUN      \] /) {
+  name = substr($0, RSTART + RLENGTH)
   count = 0
 }
 
@@ -14,27 +14,27 @@ name != "" && count < 80 {
   lines[count++] = $0
 }
 
-/\[       OK \] .* \([0-9]+ ms\)$/ {
+ends_with("[       OK ] ") {
   passed++
   name = ""
 }
 
-/\[  SKIPPED \] .* \([0-9]+ ms\)$/ {
+ends_with("[  SKIPPED ] ") {
   skipped++
   name = ""
 }
 
-/\[  FAILED  \] .* \([0-9]+ ms\)$/ {
+ends_with("[  FAILED  ] ") {
   failed++
   tell_failure()
 }
 
 # The end. The numbers that the program tells must be those that were seen.
-/^\[==========\] [0-9]+ tests? from [0-9]+ test suites? ran\./ {
+name == "" && /^\[==========\] [0-9]+ tests? from [0-9]+ test suites? ran\./ {
   complete = $2 == passed + failed + skipped
 }
 
-/^  YOU HAVE [0-9]+ DISABLED TEST/ {
+name == "" && /^  YOU HAVE [0-9]+ DISABLED TEST/ {
   skipped += $3
 }
 
@@ -44,6 +44,12 @@ END {
     tell_failure()
   }
   print passed + 0, failed + 0, skipped + 0, complete + 0
+}
+
+# Whether the line gives the result of the running test. What the test printed last may stand before it.
+function ends_with(mark, place) {
+  place = index($0, mark name)
+  return name != "" && place && substr($0, place + length(mark name)) ~ /^(, where .*)? \([0-9]+ ms\)$/
 }
 
 function tell_failure(i) {
