@@ -81,6 +81,11 @@ void Report(const std::string& page, const Findings& findings) {
   ADD_FAILURE() << text;
 }
 
+void AuditDialog(const std::string& name, HWND dialog, const AuditOptions& options) {
+  Report(name, AuditPage(dialog, options));
+  std::printf("%s%s\n%s\n", kInventoryMark, name.c_str(), InventoryOf(dialog).c_str());
+}
+
 // --- In the process of its own ----------------------------------------------------------------------------------
 
 // Goes through the commands of the navigation bar and audits each page that they bring up.
@@ -103,9 +108,8 @@ SheetTask AuditPages(Sheet& sheet, const Language& language, int dpi, int& count
       const PageInfo* page = FindPageByHelpId(GetWindowContextHelpId(sheet.Page()));
       const std::string name = NameOf(page, tab);
       const AuditOptions options = OptionsFor(language, dpi, page);
-      Report(name, AuditPage(sheet.Page(), options));
+      AuditDialog(name, sheet.Page(), options);
       Report(name, AuditSheet(sheet.Window(), sheet.HostPage(), sheet.Page(), options));
-      std::printf("%s%s\n%s\n", kInventoryMark, name.c_str(), InventoryOf(sheet.Page()).c_str());
       ++count;
     }
   }
@@ -119,28 +123,17 @@ SheetTask AuditRowDialogs(Sheet& sheet, const Language& language, int dpi) {
     HWND dialog = nullptr;
     co_await OpenRowDialog(sheet, row, dialog);
     CO_ASSERT_TRUE(IsWindow(dialog));
-    AuditOptions options;
-    options.mirrored = language.mirrored;
-    options.dpi = dpi;
-    options.size = row.size;
-    const std::string name = std::string(row.name) + " dialog";
-    Report(name, AuditPage(dialog, options));
-    std::printf("%s%s\n%s\n", kInventoryMark, name.c_str(), InventoryOf(dialog).c_str());
+    AuditDialog(std::string(row.name) + " dialog", dialog, {language.mirrored, dpi, row.size});
     co_await CancelRowDialog(sheet, row, dialog);
   }
 }
 
 void AuditVersionDialog(const Language& language, int dpi) {
-  AuditOptions options;
-  options.mirrored = language.mirrored;
-  options.dpi = dpi;
-  options.size = {205, 143};
   SheetDriver(kTimeoutSeconds)
       .Run([] { return NemPdfUIShowVersion(); },
            [&](Sheet& dialog) -> SheetTask {
              co_await dialog.Settled();
-             Report("version dialog", AuditPage(dialog.Window(), options));
-             std::printf("%sversion dialog\n%s\n", kInventoryMark, InventoryOf(dialog.Window()).c_str());
+             AuditDialog("version dialog", dialog.Window(), {language.mirrored, dpi, {205, 143}});
              dialog.PressOk();
            });
 }

@@ -267,11 +267,8 @@ TEST_F(CockpitLook, IsSoundWithAllRowsMarkedInEveryLanguage) {
     const LanguageScope scope(language.id);
     CNemUICockpitPage page(&sheet_, kCockpit, 0);
     Open(page);
-    AuditOptions options;
-    options.mirrored = language.id == 0x0401;
-    options.dpi = page.Dpi();
-    options.size = {275, 257};
-    EXPECT_EQ(Findings(), AuditPage(page.Handle(), options)) << language.id;
+    EXPECT_EQ(Findings(), AuditPage(page.Handle(), {.mirrored = language.id == 0x0401, .size = {275, 257}}))
+        << language.id;
   }
 }
 

@@ -27,6 +27,30 @@ static inline int Answer(char* buffer, int size, const char* text) {
   return 1;
 }
 
+static int theJob;
+EXPORT int openJobs; /* created and not yet freed */
+
+static inline const char* JobName(const void* job) { return job == &theJob ? "job" : "none"; }
+
+static inline int CreateJob(void** job) {
+#if defined(CREATE_FAILS)
+  *job = 0;
+  return 0;
+#elif defined(CREATE_GIVES_NO_HANDLE)
+  *job = 0;
+  return 1;
+#else
+  *job = &theJob;
+  ++openJobs;
+  return 1;
+#endif
+}
+
+static inline void FreeJob(void** job) {
+  openJobs -= *job == &theJob;
+  *job = 0;
+}
+
 /* An exported function that takes one text, or two and perhaps more behind them. */
 #define NOTED_ONE(name) \
   EXPORT int name(const char* text) { return Note(#name, text, 0); }

@@ -1,8 +1,5 @@
 #include "Component.h"
 
-static int theJob;
-EXPORT int openJobs; /* created and not yet freed */
-
 EXPORT int NemPrGetVersion(uint32_t* version) {
 #ifdef MINOR_0
   *version = 0x2000004;
@@ -28,32 +25,17 @@ EXPORT int NemPrShowPrintSetupDialog(void* owner) { return Note("NemPrShowPrintS
 NOTED_ONE(NemMailSend)
 #endif
 
-EXPORT int NemPrJobCreate(void** job) {
-#if defined(CREATE_FAILS)
-  *job = 0;
-  return 0;
-#elif defined(CREATE_GIVES_NO_HANDLE)
-  *job = 0;
-  return 1;
-#else
-  *job = &theJob;
-  ++openJobs;
-  return 1;
-#endif
-}
+EXPORT int NemPrJobCreate(void** job) { return CreateJob(job); }
 EXPORT int NemPrJobFree(void** job) {
 #ifdef JOB_FREE_RAISES
   RAISE_FOREIGN();
 #endif
-  openJobs -= *job == &theJob;
-  *job = 0;
+  FreeJob(job);
   return 1;
 }
 
-static const char* Name(void* job) { return job == &theJob ? "job" : "none"; }
-
 #define JOB_FUNCTION(name) \
-  EXPORT int name(void* job, const char* filename) { return Note(#name, Name(job), filename); }
+  EXPORT int name(void* job, const char* filename) { return Note(#name, JobName(job), filename); }
 JOB_FUNCTION(NemPrJobLoad)
 JOB_FUNCTION(NemPrJobSave)
 JOB_FUNCTION(NemPrJobPrint)
@@ -62,7 +44,7 @@ JOB_FUNCTION(NemPrJobMailSend)
 
 EXPORT int NemPrJobSetProperty(void* job, const char* name, const char* value) {
   (void)name;
-  return Note("NemPrJobSetProperty", Name(job), value);
+  return Note("NemPrJobSetProperty", JobName(job), value);
 }
 EXPORT int NemPrJobGetProperty(void* job, const char* name, char* buffer, int size) {
   (void)name;

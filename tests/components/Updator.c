@@ -3,17 +3,14 @@
 
 #include <wchar.h>
 
-static int theJob;
-EXPORT int openJobs; /* created and not yet freed */
-
 static int NoteWide(const char* name, void* job, const wchar_t* first, const wchar_t* second) {
   char line[256];
   snprintf(line, sizeof line, "%ls=%ls", first, second);
-  return Note(name, job == &theJob ? "job" : "none", line);
+  return Note(name, JobName(job), line);
 }
 
 static int NoteFlag(const char* name, void* job, int flag) {
-  return Note(name, job == &theJob ? "job" : "none", flag == 1 ? "1" : "another");
+  return Note(name, JobName(job), flag == 1 ? "1" : "another");
 }
 
 static int AnswerWide(wchar_t* buffer, int size, const wchar_t* text) {
@@ -24,23 +21,10 @@ static int AnswerWide(wchar_t* buffer, int size, const wchar_t* text) {
   return 1; /* too long: no terminator */
 }
 
-EXPORT int NemUpdatorJobCreate(void** job) {
-#if defined(CREATE_FAILS)
-  *job = 0;
-  return 0;
-#elif defined(CREATE_GIVES_NO_HANDLE)
-  *job = 0;
-  return 1;
-#else
-  *job = &theJob;
-  ++openJobs;
-  return 1;
-#endif
-}
+EXPORT int NemUpdatorJobCreate(void** job) { return CreateJob(job); }
 
 EXPORT int NemUpdatorJobFree(void** job) {
-  openJobs -= *job == &theJob;
-  *job = 0;
+  FreeJob(job);
 #if defined(FREE_RAISES)
   RAISE_FOREIGN();
 #endif

@@ -109,16 +109,17 @@ TEST_F(FileDialogTest, GivesNothingOnASystemWithoutTheDialogs) {
 TEST_F(FileDialogTest, AsksForAnExistingFileUnlessToldOtherwise) {
   FileDialogSpy spy;
   EXPECT_FALSE(AskForFileToOpen(GetDesktopWindow(), {.filter = L"Programs(*.exe)|*.exe|All files(*.*)|*.*||"}));
-  ASSERT_EQ(1u, spy.calls.size());
-  const FileDialogSpy::Call& call = spy.calls[0];
-  EXPECT_FALSE(call.save);
-  EXPECT_EQ(GetDesktopWindow(), call.owner);
-  EXPECT_EQ(L"Programs(*.exe)|*.exe|All files(*.*)|*.*|", call.filter);
-  EXPECT_EQ(1u, call.firstRow);
-  EXPECT_EQ(0x1804u, call.flags);
-  EXPECT_EQ(DWORD{MAX_PATH}, call.pathRoom);
-  EXPECT_EQ(257u, call.titleRoom);
-  EXPECT_EQ(L"", call.startName + call.startFolder + call.extension);
+  EXPECT_EQ((FileDialogSpy::Calls{{.save = false,
+                                   .owner = GetDesktopWindow(),
+                                   .filter = L"Programs(*.exe)|*.exe|All files(*.*)|*.*|",
+                                   .firstRow = 1,
+                                   .startName = L"",
+                                   .startFolder = L"",
+                                   .extension = L"",
+                                   .pathRoom = MAX_PATH,
+                                   .titleRoom = 257,
+                                   .flags = 0x1804}}),
+            spy.calls);
 }
 
 TEST_F(FileDialogTest, GivesThePathThatFitsTheRoom) {

@@ -248,15 +248,12 @@ TEST_F(ActionPage, BrowsingAsksForAProgram) {
   FileDialogSpy spy;
   spy.chosen = L"D:\\apps\\reader.exe";
   Control(IDC_ACTION_BROWSE).Click();
-  ASSERT_EQ(1u, spy.calls.size());
-  const FileDialogSpy::Call& call = spy.calls[0];
-  EXPECT_FALSE(call.save);
-  EXPECT_EQ(test_.Page().Handle(), call.owner);
-  EXPECT_EQ(L"Programs(*.exe)|*.exe|All files(*.*)|*.*|", call.filter);
-  EXPECT_EQ(kProgram, call.startName);
-  EXPECT_EQ(L"", call.startFolder + call.extension);
-  EXPECT_EQ(210u, call.pathRoom);
-  EXPECT_EQ(0x1804u, call.flags);
+  EXPECT_EQ((FileDialogSpy::Calls{{.owner = test_.Page().Handle(),
+                                   .filter = L"Programs(*.exe)|*.exe|All files(*.*)|*.*|",
+                                   .startName = kProgram,
+                                   .pathRoom = 210,
+                                   .flags = 0x1804}}),
+            spy.calls);
   EXPECT_EQ(L"D:\\apps\\reader.exe", Control(IDC_ACTION_PROGRAM).Text());
   ASSERT_TRUE(test_.Save());
   EXPECT_EQ(L"D:\\apps\\reader.exe", test_.Value(L"StartProgram"));

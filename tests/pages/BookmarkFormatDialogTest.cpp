@@ -933,10 +933,7 @@ TEST_F(BookmarkSheet, DialogIsSoundInEveryLanguage) {
     const LanguageScope scope(language);
     Run([&](Sheet& sheet) -> SheetTask {
       co_await Edit(sheet);
-      AuditOptions options;
-      options.mirrored = language == 0x401;
-      options.size = {236, 194};
-      EXPECT_EQ(Findings(), AuditPage(dialog_, options));
+      EXPECT_EQ(Findings(), AuditPage(dialog_, {.mirrored = language == 0x401, .size = {236, 194}}));
     });
   }
 }

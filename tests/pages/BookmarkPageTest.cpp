@@ -64,12 +64,15 @@ class BookmarkPage : public testing::Test {
     return names;
   }
   std::vector<int> Enabled() { return test_.Enabled(kControls); }
-  // What the user types into the cell of the selected row, up to Enter.
-  void TypeName(const wchar_t* name) {
+  // What the user types into the cell of the selected row; the edit stays open.
+  void StartTyping(const wchar_t* name) {
     List().Focus();
     List().Send(WM_KEYDOWN, VK_F2, 1);
     ASSERT_NE(nullptr, List().Edit());
     List().Edit()->SetText(name);
+  }
+  void TypeName(const wchar_t* name) {
+    ASSERT_NO_FATAL_FAILURE(StartTyping(name));
     List().Edit()->Send(WM_KEYDOWN, VK_RETURN, 1);
   }
   void Command(int id) {
@@ -361,15 +364,10 @@ TEST_F(BookmarkPage, SavingTakesAnOpenEditAlong) {
   test_.Set(L"OutlineFormats", kOwn);
   ASSERT_TRUE(test_.Open());
   Control(1290).Select(3);
-  List().Focus();
-  List().Send(WM_KEYDOWN, VK_F2, 1);
-  ASSERT_NE(nullptr, List().Edit());
-  List().Edit()->SetText(L"typed");
+  ASSERT_NO_FATAL_FAILURE(StartTyping(L"typed"));
   EXPECT_NE(std::wstring::npos, Saved(L"OutlineFormats").find(L"{STYLE:typed;"));
 
-  List().Send(WM_KEYDOWN, VK_F2, 1);
-  ASSERT_NE(nullptr, List().Edit());
-  List().Edit()->SetText(L"a:b");
+  ASSERT_NO_FATAL_FAILURE(StartTyping(L"a:b"));
   popups_.ExpectBox({.title = L"Title",
                      .text = L"'a:b' is not a valid name. Please choose a nonempty string, which contains none of "
                              L"following characters ',;.:{}()'",
@@ -383,10 +381,7 @@ TEST_F(BookmarkPage, ARefusedNameThatHasLostTheFocusIsToldOfBeforeSaving) {
   test_.Set(L"OutlineFormats", kOwn);
   ASSERT_TRUE(test_.Open());
   Control(1290).Select(3);
-  List().Focus();
-  List().Send(WM_KEYDOWN, VK_F2, 1);
-  ASSERT_NE(nullptr, List().Edit());
-  List().Edit()->SetText(L"plain");
+  ASSERT_NO_FATAL_FAILURE(StartTyping(L"plain"));
   Control(1310).Focus();
   EXPECT_TRUE(popups_.Boxes().empty()) << "no box while the focus is on its way";
   EXPECT_EQ(nullptr, List().Edit());

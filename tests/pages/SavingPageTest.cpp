@@ -588,17 +588,16 @@ TEST_F(SavingPage, WithANameTheSaveDialogIsAsked) {
   FileDialogSpy spy;
   spy.chosen = L"D:\\Docs\\Docs\\b.pdf";
   Control(IDC_SAVING_BROWSE).Click();
-  ASSERT_EQ(1u, spy.calls.size());
-  const FileDialogSpy::Call& call = spy.calls[0];
-  EXPECT_TRUE(call.save);
-  EXPECT_EQ(test_.Page().Handle(), call.owner);
-  EXPECT_EQ(L"Pdf files(*.pdf)|*.pdf|All Files(*.*)|*.*|", call.filter);
-  EXPECT_EQ(L"a.pdf", call.startName);
-  EXPECT_EQ(L"C:\\Out\\", call.startFolder);
-  EXPECT_EQ(L"pdf", call.extension);
-  EXPECT_EQ(512u, call.pathRoom);
-  EXPECT_EQ(257u, call.titleRoom);
-  EXPECT_EQ(0x800u, call.flags);
+  EXPECT_EQ((FileDialogSpy::Calls{{.save = true,
+                                   .owner = test_.Page().Handle(),
+                                   .filter = L"Pdf files(*.pdf)|*.pdf|All Files(*.*)|*.*|",
+                                   .startName = L"a.pdf",
+                                   .startFolder = L"C:\\Out\\",
+                                   .extension = L"pdf",
+                                   .pathRoom = 512,
+                                   .titleRoom = 257,
+                                   .flags = 0x800}}),
+            spy.calls);
   EXPECT_EQ(L"D:\\Docs\\Docs", Control(IDC_SAVING_FOLDER).Text());
   EXPECT_EQ(L"b.pdf", Control(IDC_SAVING_FILE).Text());
   ASSERT_TRUE(test_.Save());

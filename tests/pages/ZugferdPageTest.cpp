@@ -416,15 +416,9 @@ TEST_F(ZugferdPage, BrowsingAsksForAnXmlFileThatIsThere) {
   FileDialogSpy spy;
   spy.chosen = path;
   test.Control(IDC_ZUGFERD_BROWSE).Click();
-  ASSERT_EQ(1u, spy.calls.size());
-  const FileDialogSpy::Call& call = spy.calls[0];
-  EXPECT_FALSE(call.save);
-  EXPECT_EQ(test.Page().Handle(), call.owner);
-  EXPECT_EQ(L"xml|*.xml|", call.filter);
-  EXPECT_EQ(1u, call.firstRow);
-  EXPECT_EQ(L"", call.startName + call.startFolder + call.extension);
-  EXPECT_EQ(520u, call.pathRoom);
-  EXPECT_EQ(0x1800u, call.flags);
+  EXPECT_EQ((FileDialogSpy::Calls{
+                {.owner = test.Page().Handle(), .filter = L"xml|*.xml|", .pathRoom = 520, .flags = 0x1800}}),
+            spy.calls);
   EXPECT_EQ(path, XmlFile().Text());
   EXPECT_EQ(path, Page().xmlFile);
   ASSERT_TRUE(test.Save());

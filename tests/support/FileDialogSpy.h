@@ -3,14 +3,17 @@
 //   FileDialogSpy spy;
 //   spy.chosen = L"C:\\tools\\viewer.exe";
 //   test.Control(IDC_ACTION_BROWSE).Click();
-//   EXPECT_EQ(L"Programs(*.exe)|*.exe|", spy.calls[0].filter);
+//   EXPECT_EQ((FileDialogSpy::Calls{{.owner = page, .filter = L"Programs(*.exe)|*.exe|", .flags = 0x1804}}), spy.calls);
 #pragma once
 
 #include <windows.h>
 // behind windows.h
 #include <commdlg.h>
 
+#include <gtest/gtest.h>
+
 #include <functional>
+#include <ostream>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -19,16 +22,21 @@
 
 class FileDialogSpy {
  public:
+  // What a dialog was asked. The values here are those of a page that asks for a file without more ado.
   struct Call {
     bool save = false;
     HWND owner = nullptr;
-    std::wstring filter;  // with bars in place of the zeros
-    DWORD firstRow = 0;
-    std::wstring startName, startFolder, extension;
-    DWORD pathRoom = 0, titleRoom = 0, flags = 0;
+    std::wstring filter = {};  // with bars in place of the zeros
+    DWORD firstRow = 1;
+    std::wstring startName = {}, startFolder = {}, extension = {};
+    DWORD pathRoom = 260, titleRoom = 257, flags = 0x1804;
+
+    bool operator==(const Call&) const = default;
   };
 
-  std::vector<Call> calls;
+  using Calls = std::vector<Call>;
+
+  Calls calls;
   std::wstring chosen;  // empty: the user cancels
   DWORD refusal = 0;    // with a start name the dialog does not come up, for this reason
   std::function<void()> whileUp = [] {};
@@ -90,3 +98,10 @@ class FileDialogSpy {
 
   DWORD lastError_ = 0;
 };
+
+inline void PrintTo(const FileDialogSpy::Call& call, std::ostream* out) {
+  *out << (call.save ? "save" : "open") << " owner " << call.owner << " filter " << testing::PrintToString(call.filter)
+       << " row " << call.firstRow << " name " << testing::PrintToString(call.startName) << " folder "
+       << testing::PrintToString(call.startFolder) << " extension " << testing::PrintToString(call.extension)
+       << " room " << call.pathRoom << " and " << call.titleRoom << " flags " << call.flags;
+}
