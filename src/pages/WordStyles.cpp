@@ -5,7 +5,7 @@
 
 #include "MessageIds.h"
 
-const WordStyle kWordStyles[kWordStyleCount] = {
+constexpr WordStyle kWordStyles[kWordStyleCount] = {
     {L"normal", MSG_WORD_STYLE_NORMAL},
     {L"envelope address", MSG_WORD_STYLE_ENVELOPE_ADDRESS},
     {L"envelope return", MSG_WORD_STYLE_ENVELOPE_RETURN},

@@ -74,6 +74,29 @@ TEST(Library, IsForSixtyFourBitWindowsAndHardened) {
   EXPECT_EQ(wanted, image.Headers().OptionalHeader.DllCharacteristics & wanted);
 }
 
+// Of the resources of one type in the library.
+DWORD SizeOfResources(LPCWSTR type) {
+  DWORD size = 0;
+  const auto add = [](HMODULE module, LPCWSTR type, LPWSTR name, LONG_PTR sum) -> BOOL {
+    *reinterpret_cast<DWORD*>(sum) += SizeofResource(module, FindResourceW(module, name, type));
+    return TRUE;
+  };
+  EnumResourceNamesW(GetModuleHandleA(kLibrary), type, add, reinterpret_cast<LONG_PTR>(&size));
+  return size;
+}
+
+// A host loads it for its print dialog: it stays small.
+TEST(Library, IsBelowOneMegabyteBesideItsPictures) {
+  wchar_t path[MAX_PATH];
+  GetModuleFileNameW(GetModuleHandleA(kLibrary), path, MAX_PATH);
+  WIN32_FILE_ATTRIBUTE_DATA file{};
+  ASSERT_TRUE(GetFileAttributesExW(path, GetFileExInfoStandard, &file));
+  const DWORD bitmaps = SizeOfResources(RT_BITMAP), icons = SizeOfResources(RT_ICON);
+  EXPECT_GT(bitmaps, 0u);
+  EXPECT_GT(icons, 0u);
+  EXPECT_LT(file.nFileSizeLow - bitmaps - icons, 1u << 20);
+}
+
 TEST(Library, ServesAHostWrittenInC) { EXPECT_EQ(0, RunHostInC()); }
 
 // --- Version -----------------------------------------------------------------------------------------------------
