@@ -66,7 +66,6 @@ bool RunAdminTool(const wchar_t* parameters) {
   info.lpFile = tool.Text();
   info.lpParameters = parameters;
   info.nShow = SW_SHOW;
-  ::SetLastError(ERROR_SUCCESS);
   ExecuteShell(info);
   return info.hProcess ? WaitForEnd(info.hProcess) : ::GetLastError() == ERROR_SUCCESS;
 }

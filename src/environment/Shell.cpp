@@ -22,12 +22,14 @@ bool OpenWithShell(HWND owner, const wchar_t* target, int show, const wchar_t* v
 }
 
 bool ExecuteShell(SHELLEXECUTEINFOW& info) {
+  // The error is that of the shell alone, not what the search for its functions has left.
   if (const auto executeEx = ShellFunction<decltype(::ShellExecuteExW)>("ShellExecuteExW")) {
-    ::SetLastError(ERROR_SUCCESS);  // whatever the search for the function has left
+    ::SetLastError(ERROR_SUCCESS);
     return executeEx(&info);
   }
   const auto execute = ShellFunction<decltype(::ShellExecuteW)>("ShellExecuteW");
   if (!execute) return false;
+  ::SetLastError(ERROR_SUCCESS);
   const HINSTANCE result = execute(nullptr, L"open", info.lpFile, info.lpParameters, info.lpDirectory, SW_HIDE);
   return reinterpret_cast<INT_PTR>(result) > kShellErrorLimit;
 }

@@ -10,5 +10,6 @@
 bool OpenWithShell(HWND owner, const wchar_t* target, int show, const wchar_t* verb = L"open");
 
 // ShellExecuteExW. On a shell without it the file, parameters and directory of `info` are opened without a window and
-// without a process handle.
+// without a process handle. The system's last error is that of the shell afterwards, 0 if it has none; without a
+// shell, that of the search for it.
 bool ExecuteShell(SHELLEXECUTEINFOW& info);

@@ -115,10 +115,23 @@ BOOL WINAPI NoteExecution(SHELLEXECUTEINFOW* info) {
   return TRUE;
 }
 
+// That of a system which tells of no process.
+bool isShellOld;
+
+HINSTANCE WINAPI OldExecution(HWND, const wchar_t*, const wchar_t*, const wchar_t*, const wchar_t*, int) {
+  constexpr INT_PTR kStarted = 33;
+  if (shellError) SetLastError(shellError);
+  return reinterpret_cast<HINSTANCE>(kStarted);
+}
+
 FARPROC WINAPI WithNotingShell(HMODULE module, const char* name) {
-  if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF && std::string_view(name) == "ShellExecuteExW")
-    return reinterpret_cast<FARPROC>(&NoteExecution);
-  return realGetProcAddress(module, name);
+  if (reinterpret_cast<ULONG_PTR>(name) <= 0xFFFF) return realGetProcAddress(module, name);
+  const std::string_view wanted(name);
+  if (wanted == "ShellExecuteW") return reinterpret_cast<FARPROC>(&OldExecution);
+  if (wanted != "ShellExecuteExW") return realGetProcAddress(module, name);
+  if (!isShellOld) return reinterpret_cast<FARPROC>(&NoteExecution);
+  SetLastError(ERROR_PROC_NOT_FOUND);
+  return nullptr;
 }
 
 // An error from before counts for nothing.
@@ -158,8 +171,35 @@ TEST_F(AdminToolTest, IsNotOpenedWithoutAnInstallLocation) {
 
 TEST_F(AdminToolTest, FailsByTheSystemsErrorWithoutAProcess) {
   Install(L"C:\\Product");
-  EXPECT_TRUE(RunNotedAdminTool(nullptr, ERROR_SUCCESS));
-  EXPECT_FALSE(RunNotedAdminTool(nullptr, ERROR_CANCELLED));
+  for (const bool old : {true, false}) {
+    isShellOld = old;
+    EXPECT_TRUE(RunNotedAdminTool(nullptr, ERROR_SUCCESS)) << old;
+    EXPECT_FALSE(RunNotedAdminTool(nullptr, ERROR_CANCELLED)) << old;
+  }
+}
+
+namespace {
+
+DWORD awaited, waitResult;
+
+DWORD WINAPI NoteWait(HANDLE, DWORD time) {
+  awaited = time;
+  return waitResult;
+}
+
+}  // namespace
+
+TEST_F(AdminToolTest, IsAwaitedWithoutALimit) {
+  Install(L"C:\\Product");
+  for (const auto& [result, ended] : {std::pair<DWORD, bool>{WAIT_OBJECT_0, true}, {WAIT_TIMEOUT, false}}) {
+    waitResult = result;
+    awaited = 0;
+    ASSERT_GT(PatchImport("kernel32.dll", "WaitForSingleObject", reinterpret_cast<void*>(&NoteWait)), 0);
+    const bool ran = RunNotedAdminTool(CreateEventW(nullptr, TRUE, TRUE, nullptr), ERROR_SUCCESS);
+    RestoreImport("kernel32.dll", "WaitForSingleObject");
+    EXPECT_EQ(ended, ran);
+    EXPECT_EQ(INFINITE, awaited);
+  }
 }
 
 TEST_F(AdminToolTest, FailsWhenItsEndCannotBeAwaited) {
@@ -210,6 +250,11 @@ BOOL WINAPI OpenNone(wchar_t*, HANDLE*, PRINTER_DEFAULTSW*) {
 BOOL WINAPI GetServerPrinter(HANDLE, DWORD, BYTE* buffer, DWORD size, DWORD* needed) {
   return AnswerWith(ServerPrinter(), buffer, size, needed);
 }
+BOOL WINAPI GetPrinterOfEmptyServer(HANDLE, DWORD, BYTE* buffer, DWORD size, DWORD* needed) {
+  PRINTER_INFO_2W info = ServerPrinter();
+  info.pServerName = const_cast<wchar_t*>(L"");
+  return AnswerWith(info, buffer, size, needed);
+}
 BOOL WINAPI GetNoPrinter(HANDLE, DWORD, BYTE*, DWORD, DWORD*) {
   SetLastError(ERROR_INVALID_HANDLE);
   return FALSE;
@@ -228,7 +273,10 @@ DWORD WINAPI GetEmptyData(HANDLE, wchar_t*, DWORD*, BYTE*, DWORD, DWORD* needed)
   *needed = 0;
   return ERROR_SUCCESS;
 }
+std::vector<DWORD> listed;  // the kinds of printers, one for each call
+
 BOOL WINAPI EnumServerPrinters(DWORD flags, wchar_t*, DWORD, BYTE* buffer, DWORD size, DWORD* needed, DWORD* count) {
+  listed.push_back(flags);
   *count = 0;
   *needed = 0;
   if (flags != PRINTER_ENUM_CONNECTIONS) return TRUE;
@@ -267,6 +315,15 @@ TEST(FakeSpooler, DISABLED_ServerPrinter) {
   EXPECT_TRUE(GetPrinterNames(names, kTestDriverName));
   ASSERT_EQ(1, names.Count());
   EXPECT_STREQ(kServerPrinter, names[0].Text());
+  // The last call is that for the records, whose size is known by then.
+  EXPECT_EQ((std::vector<DWORD>{PRINTER_ENUM_LOCAL, PRINTER_ENUM_CONNECTIONS, PRINTER_ENUM_CONNECTIONS}), listed);
+}
+
+TEST(FakeSpooler, DISABLED_PrinterOfAnEmptyServer) {
+  getPrinter = GetPrinterOfEmptyServer;
+  PatchSpooler();
+  EXPECT_FALSE(IsServerPrinter(kServerPrinter));
+  EXPECT_FALSE(IsServerPrinterHandle(nullptr));
 }
 
 TEST(FakeSpooler, DISABLED_PrinterThatCannotBeOpened) {
@@ -325,5 +382,5 @@ TEST_P(FakeSpoolerProcess, Passes) {
 }
 
 INSTANTIATE_TEST_SUITE_P(All, FakeSpoolerProcess,
-                         testing::Values(L"ServerPrinter", L"PrinterThatCannotBeOpened", L"PrinterThatIsNotValid",
-                                         L"PrinterThatNeedsNoBlock", L"SpoolerThatThrows"));
+                         testing::Values(L"ServerPrinter", L"PrinterOfAnEmptyServer", L"PrinterThatCannotBeOpened",
+                                         L"PrinterThatIsNotValid", L"PrinterThatNeedsNoBlock", L"SpoolerThatThrows"));
