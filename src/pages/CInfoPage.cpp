@@ -42,7 +42,6 @@ BOOL CInfoPage::OnInitDialog() {
   if (!CNemUIPage::OnInitDialog()) return FALSE;
 
   Item(IDC_INFO_VERSION_LABEL).SetText(MessageText(MSG_INFO_VERSION_LABEL).Text());
-  Item(IDC_INFO_WEB_LINK).SetText(WebAddress(MSG_INFO_PRODUCT_ADDRESS).Text());
   logo_.Attach(*this, IDC_INFO_LOGO, Pictures::kLogo);
 
   for (size_t i = 0; i < std::size(kLinks); ++i) {
@@ -59,6 +58,7 @@ void CInfoPage::DoDataExchange(CDataExchange& exchange) {
     notice.ReplaceStr(L"\\n", L"\r\n");
     if (!notice.IsEmpty()) Item(IDC_INFO_NOTICE).SetText(notice.Text());
     // Anew each time: the language page may have changed what they are.
+    Item(IDC_INFO_WEB_LINK).SetText(WebAddress(MSG_INFO_PRODUCT_ADDRESS).Text());
     for (size_t i = 0; i < std::size(kLinks); ++i) links_[i].SetUrl(WebAddress(kLinks[i].addressId).Text());
   }
   Item(IDC_INFO_VIDEO_LINK).Show(OffersVideo());

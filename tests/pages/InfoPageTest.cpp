@@ -62,6 +62,10 @@ TEST_F(InfoPage, LinksLeadToTheMakersSite) {
   EXPECT_EQ(L"https://www.nem-software.example/faq", LinkAddress(test.Control(1168)));
   EXPECT_EQ(L"https://www.nem-software.example/forum", LinkAddress(test.Control(1169)));
   EXPECT_EQ(L"https://www.nem-software.example/newsletter", LinkAddress(test.Control(1170)));
+  SetUILanguage(0x0407);
+  test.Page().UpdateData(false);
+  EXPECT_EQ(L"https://www.nem-software.example/de/nem-pdf-vonder", LinkAddress(test.Control(1186)));
+  EXPECT_EQ(LinkAddress(test.Control(1186)), Text(1186)) << "in the language of the moment";
 }
 
 TEST_F(InfoPage, LinksHaveTheAddressesOfTheLanguage) {
@@ -314,7 +318,8 @@ TEST_F(TraceSwitch, AsksFirstAndDoesNothingWithoutAYes) {
 TEST_F(TraceSwitch, OnTakesTheFolderOfThePicker) {
   Open();
   ExpectQuestion(kAskOn);
-  ExpectPicker([](HWND dialog) {
+  ExpectPicker([&](HWND dialog) {
+    EXPECT_EQ(GetAncestor(test.Page().Handle(), GA_ROOT), GetWindow(dialog, GW_OWNER));
     bool titled = false;
     for (HWND child = GetWindow(dialog, GW_CHILD); child; child = GetWindow(child, GW_HWNDNEXT))
       titled |= WindowText(child) ==
