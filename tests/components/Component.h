@@ -51,7 +51,7 @@ static inline void FreeJob(void** job) {
   *job = 0;
 }
 
-/* An exported function that takes one text, or two and perhaps more behind them. */
+/* An exported function that takes one text, or two. */
 #define NOTED_ONE(name) \
   EXPORT int name(const char* text) { return Note(#name, text, 0); }
 #define NOTED_TWO(name) \

@@ -10,7 +10,19 @@ COMMON_FUNCTIONS(NemEpdf)
 NOTED_ONE(NemEpdfIsEPdf)
 NOTED_ONE(NemEpdfIsEncryptedPdf)
 NOTED_TWO(NemEpdfIsPasswordValid)
-NOTED_TWO(NemEpdfGetEPdf)
-NOTED_TWO(NemEpdfGetEmbeddedFile)
-NOTED_TWO(NemEpdfGetEPdfInfo)
-NOTED_TWO(NemEpdfGetEPdfSettings)
+
+#define EXTRACTION(name)                                                            \
+  EXPORT int name(const char* filename, const char* password, const char* target) { \
+    Note(#name, filename, password);                                                \
+    return Note(#name, password, target);                                           \
+  }
+EXTRACTION(NemEpdfGetEPdf)
+EXTRACTION(NemEpdfGetEmbeddedFile)
+
+#define QUESTION(name)                                                                  \
+  EXPORT int name(const char* filename, const char* password, char* buffer, int size) { \
+    Note(#name, filename, password);                                                    \
+    return Answer(buffer, size, "info");                                                \
+  }
+QUESTION(NemEpdfGetEPdfInfo)
+QUESTION(NemEpdfGetEPdfSettings)

@@ -29,10 +29,10 @@ COMMON_FUNCTIONS(NemPdf)
 #endif
 
 EXPORT int NemPdfMerge(const char* first, const char* second, const char* target) {
-  (void)target;
-  return Note("NemPdfMerge", first, second);
+  Note("NemPdfMerge", first, second);
+  return Note("NemPdfMerge", second, target);
 }
 EXPORT int NemPdfJoin(const char* first, const char* second, const char* target) {
-  (void)first;
+  Note("NemPdfJoin", first, second);
   return Note("NemPdfJoin", second, target);
 }

@@ -43,12 +43,11 @@ JOB_FUNCTION(NemPrJobConvert)
 JOB_FUNCTION(NemPrJobMailSend)
 
 EXPORT int NemPrJobSetProperty(void* job, const char* name, const char* value) {
-  (void)name;
-  return Note("NemPrJobSetProperty", JobName(job), value);
+  Note("NemPrJobSetProperty", JobName(job), name);
+  return Note("NemPrJobSetProperty", name, value);
 }
 EXPORT int NemPrJobGetProperty(void* job, const char* name, char* buffer, int size) {
-  (void)name;
-  return Answer(buffer, size, job == &theJob ? "of the job" : "");
+  return Answer(buffer, size, job == &theJob && !strcmp(name, "asked") ? "of the job" : "");
 }
 EXPORT int NemPrJobGetError(void* job, uint32_t* code) {
   *code = job == &theJob ? 77 : 0;

@@ -21,6 +21,13 @@ static int AnswerWide(wchar_t* buffer, int size, const wchar_t* text) {
   return 1; /* too long: no terminator */
 }
 
+/* A text that goes on behind the end of every buffer of the library. */
+static inline int AnswerLong(wchar_t* buffer, int size) {
+  wchar_t text[2 * 1024];
+  for (int i = 0; i < 2 * 1024; ++i) text[i] = L'x';
+  return AnswerWide(buffer, size, text);
+}
+
 EXPORT int NemUpdatorJobCreate(void** job) { return CreateJob(job); }
 
 EXPORT int NemUpdatorJobFree(void** job) {
@@ -32,13 +39,9 @@ EXPORT int NemUpdatorJobFree(void** job) {
 }
 
 EXPORT int NemUpdatorJobGetPropertyW(void* job, const wchar_t* name, wchar_t* buffer, int size) {
-  wchar_t text[2 * 1024];
   NoteWide("NemUpdatorJobGetPropertyW", job, name, L"");
   if (!wcscmp(name, L"missing")) return 0;
-  if (!wcscmp(name, L"long")) {
-    for (int i = 0; i < 2 * 1024; ++i) text[i] = L'x';
-    return AnswerWide(buffer, size, text);
-  }
+  if (!wcscmp(name, L"long")) return AnswerLong(buffer, size);
 #if defined(ANSWERS_NOTHING)
   return 0;
 #elif defined(IS_NEWER)
@@ -57,6 +60,8 @@ EXPORT int NemUpdatorJobGetLastErrorTextW(void* job, wchar_t* buffer, int size) 
 #if defined(HAS_NO_ERROR_TEXT)
   AnswerWide(buffer, size, L"not to be seen");
   return 0;
+#elif defined(HAS_LONG_ERROR_TEXT)
+  return AnswerLong(buffer, size);
 #else
   return AnswerWide(buffer, size, L"no road to the server");
 #endif

@@ -23,6 +23,9 @@ namespace {
 constexpr wchar_t kPdf[] = L"NemPdf64.dll";
 constexpr wchar_t kPrint[] = L"NemPrt64.dll";
 
+// What the print component notes when the property "a" of its job is set to "b".
+constexpr char kJobProperty[] = "NemPrJobSetProperty(job,a)\nNemPrJobSetProperty(a,b)\n";
+
 // The calls that a component of the tests has noted, and forgets then.
 std::string TakeCalls(HDllBase& component) {
   void* calls = nullptr;
@@ -348,13 +351,17 @@ TEST(NemEpdfDll, CallsEachFunctionUnderItsName) {
   EXPECT_EQ(1, epdf.IsPasswordValid("f", "p"));
   EXPECT_EQ("NemEpdfIsPasswordValid(f,p)\n", TakeCalls(epdf));
   EXPECT_EQ(1, epdf.GetEPdf("f", "p", "t"));
-  EXPECT_EQ("NemEpdfGetEPdf(f,p)\n", TakeCalls(epdf));
+  EXPECT_EQ("NemEpdfGetEPdf(f,p)\nNemEpdfGetEPdf(p,t)\n", TakeCalls(epdf));
   EXPECT_EQ(1, epdf.GetEmbeddedFile("f", "p", "t"));
-  EXPECT_EQ("NemEpdfGetEmbeddedFile(f,p)\n", TakeCalls(epdf));
-  EXPECT_EQ(1, epdf.GetEPdfInfo("f", "p", nullptr, 0));
-  EXPECT_EQ("NemEpdfGetEPdfInfo(f,p)\n", TakeCalls(epdf));
-  EXPECT_EQ(1, epdf.GetEPdfSettings("f", "p", nullptr, 0));
-  EXPECT_EQ("NemEpdfGetEPdfSettings(f,p)\n", TakeCalls(epdf));
+  EXPECT_EQ("NemEpdfGetEmbeddedFile(f,p)\nNemEpdfGetEmbeddedFile(p,t)\n", TakeCalls(epdf));
+  for (const auto& [size, info] : {std::pair{64, "info"}, {3, "in"}}) {
+    char buffer[64] = "", settings[64] = "";
+    EXPECT_EQ(1, epdf.GetEPdfInfo("f", "p", buffer, size));
+    EXPECT_STREQ(info, buffer);
+    EXPECT_EQ(1, epdf.GetEPdfSettings("f", "p", settings, size));
+    EXPECT_STREQ(info, settings);
+    EXPECT_EQ("NemEpdfGetEPdfInfo(f,p)\nNemEpdfGetEPdfSettings(f,p)\n", TakeCalls(epdf));
+  }
 }
 
 // --- Look-ups ----------------------------------------------------------------------------------------------------
@@ -466,9 +473,9 @@ TEST(NemPdfmDll, CallsEachFunctionUnderItsName) {
   ASSERT_TRUE(pdf.Load(1, ComponentFolder(L"complete").c_str(), kPdf));
   EXPECT_EQ("2.10.4", VersionText(pdf));
   EXPECT_EQ(1, pdf.Merge("a", "b", "c"));
-  EXPECT_EQ("NemPdfMerge(a,b)\n", TakeCalls(pdf));
+  EXPECT_EQ("NemPdfMerge(a,b)\nNemPdfMerge(b,c)\n", TakeCalls(pdf));
   EXPECT_EQ(1, pdf.Join("a", "b", "c"));
-  EXPECT_EQ("NemPdfJoin(b,c)\n", TakeCalls(pdf));
+  EXPECT_EQ("NemPdfJoin(a,b)\nNemPdfJoin(b,c)\n", TakeCalls(pdf));
 }
 
 TEST(NemPdfmDll, KeepsWhatItFoundInFrontOfAMissingExport) {
@@ -555,7 +562,7 @@ TEST(NemPrintJobDll, RoutesPropertiesToTheJobIfThereIsOne) {
   ASSERT_EQ(1, print.JobCreate(&print.jobHandle));
   EXPECT_EQ("of the job", Property(print, "asked"));
   EXPECT_EQ(1, print.SetProperty("a", "b"));
-  EXPECT_EQ("NemPrJobSetProperty(job,b)\n", TakeCalls(print));
+  EXPECT_EQ(kJobProperty, TakeCalls(print));
   uint32_t code = 0;
   char buffer[64] = "";
   EXPECT_EQ(1, print.GetLastError(&code));
@@ -609,6 +616,8 @@ TEST(NemPrintJob, OwnsItsJob) {
     EXPECT_EQ(1, job.SaveJob("2"));
     EXPECT_EQ(1, job.MailSendJob("3"));
     EXPECT_EQ("NemPrJobLoad(job,1)\nNemPrJobSave(job,2)\nNemPrJobMailSend(job,3)\n", TakeCalls(keep));
+    EXPECT_EQ(1, job.SetProperty("a", "b"));
+    EXPECT_EQ(kJobProperty, TakeCalls(keep));
   }
   EXPECT_EQ(0, OpenJobs(keep.GetModule()));
   keep.FreeModule();

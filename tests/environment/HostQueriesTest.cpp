@@ -190,6 +190,7 @@ TEST_F(DefaultPaperTest, IsLetterWithoutTheKey) {
   const Lines lines = thread.Lines();
   ASSERT_FALSE(lines.empty());
   EXPECT_EQ(L"IsA4PaperDefault: RegOpenKey 'Control Panel\\International' FAILED", lines.back());
+  EXPECT_EQ(static_cast<int32_t>(lines.size()) - 1, thread.Error().trace->errorCount) << "those of the registry";
 }
 
 // --- System ------------------------------------------------------------------------------------------------------

@@ -109,6 +109,9 @@ TEST(NemUpdateJob, CutsATextThatIsTooLong) {
   CUString value;
   EXPECT_TRUE(job.GetProperty(L"long", value));
   EXPECT_EQ(1023, value.Length());
+  NemUpdateJob wordy;
+  ASSERT_TRUE(Load(wordy, L"long"));
+  EXPECT_EQ(1023, wordy.GetLastErrorText().Length());
 }
 
 TEST(NemUpdateJob, SearchesAndDownloads) {

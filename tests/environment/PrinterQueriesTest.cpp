@@ -271,6 +271,11 @@ TEST_F(PrinterQueriesTest, ListThePrinterThatIsNamedLikeItsDriverFirst) {
   EXPECT_EQ((Lines{kTestDriverName, L"Alpha"}), Names(kTestDriverName));
 }
 
+TEST_F(PrinterQueriesTest, APrinterThatIsNamedAlmostLikeItsDriverHasNoPrecedence) {
+  const TestPrinter almost(L"nem PDF vonder");
+  EXPECT_EQ((Lines{L"Alpha", L"nem PDF vonder"}), Names(kTestDriverName));
+}
+
 TEST_F(PrinterQueriesTest, ThatPrinterChangesPlacesWithTheFirst) {
   const TestPrinter second(L"Beta"), like(kTestDriverName);
   ASSERT_EQ((Lines{kTestDriverName, L"Beta", L"Alpha"}), Names(kTestDriverName));
