@@ -51,6 +51,14 @@ LSTATUS WINAPI NoteSetValue(HKEY, const wchar_t*, DWORD, DWORD type, const BYTE*
   return ERROR_SUCCESS;
 }
 
+int closed;  // keys
+const auto realCloseKey = RealFunction("advapi32.dll", "RegCloseKey", &RegCloseKey);
+
+LSTATUS WINAPI CountClosing(HKEY key) {
+  ++closed;
+  return realCloseKey(key);
+}
+
 class CRegistryEntryTest : public testing::Test {
  protected:
   RegistryTree tree{HKEY_CURRENT_USER, kKey};
@@ -229,6 +237,16 @@ TEST_F(CRegistryEntryTest, AnIndexEnumeratesTheValues) {
   std::sort(values.begin(), values.end());
   const decltype(values) expected = {{L"A longer name", L"a longer text"}, {L"First", L"1"}};
   EXPECT_EQ(expected, values);
+}
+
+TEST_F(CRegistryEntryTest, AnIndexSetsBothLengths) {
+  Put(L"Only", REG_SZ, L"ab#", 4);
+  entry.data.Assign(L"something longer");
+  EXPECT_STREQ(L"ab", entry.ReadString(0));
+  EXPECT_EQ(2, entry.data.Length());
+  EXPECT_EQ(4, entry.valueName.Length());
+  entry.Read(nullptr, 0, true);
+  EXPECT_EQ(4, entry.data.Length()) << "in bytes";
 }
 
 TEST_F(CRegistryEntryTest, TheEndOfTheValuesIsNoFailure) {
@@ -549,4 +567,14 @@ TEST_F(CRegistryEntryTest, AFailedOpenForWriteIsTraced) {
   EXPECT_FALSE(unwritable.Open(true));
   EXPECT_EQ(nullptr, unwritable.OpenedKey());
   EXPECT_FALSE(unwritable.OpenedForWrite());
+}
+
+TEST_F(CRegistryEntryTest, ReopeningClosesWhatWasOpen) {
+  PutText(L"Value", L"x");
+  ASSERT_TRUE(entry.Open(true));
+  closed = 0;
+  ASSERT_GT(PatchImport("advapi32.dll", "RegCloseKey", reinterpret_cast<void*>(&CountClosing)), 0);
+  entry.ReadString();
+  RestoreImport("advapi32.dll", "RegCloseKey");
+  EXPECT_EQ(4, closed) << "the key and the user's hive, opened for writing and opened for reading";
 }

@@ -1,10 +1,11 @@
-// What the file class makes of answers that a real disk hardly ever gives.
+// What the file class makes of answers that a real disk hardly ever gives, and what the system is asked for.
 #include <windows.h>
 
 #include <gtest/gtest.h>
 
 #include "driver/ImportPatch.h"
 #include "DriverLIB/AFile.h"
+#include "DriverLIB/MessageText.h"
 #include "support/TempFile.h"
 
 namespace {
@@ -20,6 +21,14 @@ BOOL WINAPI ShortWrite(HANDLE, const void*, DWORD count, DWORD* written, OVERLAP
 BOOL WINAPI HugeSize(HANDLE, LARGE_INTEGER* size) {
   size->QuadPart = (5LL << 32) + 1;
   return TRUE;
+}
+
+DWORD textLanguage;
+
+DWORD WINAPI NoteLanguage(DWORD, const void*, DWORD, DWORD language, wchar_t*, DWORD, va_list*) {
+  textLanguage = language;
+  SetLastError(ERROR_MR_MID_NOT_FOUND);
+  return 0;
 }
 
 }  // namespace
@@ -46,4 +55,13 @@ TEST(FileSystem, ASizeHas64Bits) {
   const uint64_t size = file.GetSize();
   RestoreImport(kKernel, "GetFileSizeEx");
   EXPECT_EQ((uint64_t{5} << 32) + 1, size);
+}
+
+TEST(FileSystem, AnErrorHasItsTextInTheUsersDefaultLanguage) {
+  ASSERT_GT(PatchImport(kKernel, "FormatMessageW", reinterpret_cast<void*>(NoteLanguage)), 0);
+  CUString text;
+  GetSystemErrorText(text, ERROR_FILE_NOT_FOUND);
+  RestoreImport(kKernel, "FormatMessageW");
+  EXPECT_EQ(0x0400u, textLanguage);
+  EXPECT_STREQ(L"Kein Fehlertext", text.Text()) << "it has none in that language";
 }
