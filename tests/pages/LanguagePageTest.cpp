@@ -222,11 +222,15 @@ TEST_F(LanguagePage, WhatIsStoredIsNotStoredAgain) {
 
 // Its row is that of the system, and so the system is what the user leaves the page with.
 TEST_F(LanguagePage, ALanguageWithoutARowGivesWayToTheSystem) {
+  SetUILanguage(0x0407);
   user.Set(L"1040");
   Open();
+  EXPECT_EQ(kGermanTexts, RowTexts());
   ExpectNotice(kReopen);
   EXPECT_TRUE(test.Page().UpdateData(true));
   EXPECT_EQ(L"1", user.Text());
+  EXPECT_EQ(kEnglish, GetUILanguage());
+  EXPECT_EQ(kEnglishTexts, RowTexts()) << "without a click";
 }
 
 TEST_F(LanguagePage, WithoutACheckedRowTheSystemIsStored) {
@@ -246,6 +250,9 @@ TEST_F(LanguagePage, AChoiceThatCannotBeStoredChangesNothing) {
   RestoreImport("advapi32.dll", "RegSetValueExW");
   EXPECT_EQ(std::nullopt, user.Text());
   EXPECT_EQ(kEnglish, GetUILanguage());
+  EXPECT_TRUE(test.Page().UpdateData(false));
+  EXPECT_EQ(kSystem, CheckedRow()) << "when the page is shown again";
+  EXPECT_EQ(kEnglishTexts, RowTexts());
 }
 
 TEST_F(LanguagePage, TouchesNoProperty) {

@@ -87,13 +87,17 @@ TEST_F(StatisticsPage, CountersHave16BitsAndNoSign) {
 }
 
 TEST_F(StatisticsPage, CountersOfOtherKeysAreNotShown) {
-  Counters product(kProduct), machine(kProduct + L"\\YearlyData");
+  const std::wstring totals = kProduct + L"\\TotalData";
+  Counters product(kProduct), year(kProduct + L"\\YearlyData");
+  RegistryValue machine(HKEY_LOCAL_MACHINE, totals.c_str(), L"GeneratedDocumentCount");
   product.Set(L"GeneratedDocumentCount", L"11");
-  machine.Set(L"GeneratedDocumentCount", L"12");
-  ASSERT_TRUE(test.Open());
+  year.Set(L"GeneratedDocumentCount", L"12");
+  machine.Set(L"13");
+  EXPECT_TRUE(test.Open());
   EXPECT_EQ(L"0", Text(1484));
   EXPECT_EQ(L"0", Text(1507));
   RegDeleteKeyW(HKEY_CURRENT_USER, (kProduct + L"\\YearlyData").c_str());
+  RegDeleteKeyW(HKEY_LOCAL_MACHINE, totals.c_str());
 }
 
 // Whenever the page is shown or left.

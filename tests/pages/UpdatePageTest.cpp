@@ -4,11 +4,13 @@
 
 #include <optional>
 
+#include "driver/ImportPatch.h"
 #include "driver/Popups.h"
 #include "support/InstalledProduct.h"
 #include "support/LoadedUpdator.h"
 #include "support/PageUnderTest.h"
 #include "support/RegistryValue.h"
+#include "support/TracedThread.h"
 
 namespace {
 
@@ -17,6 +19,7 @@ constexpr int kAutomatic = 1455, kManual = 1456, kDownload = 1452, kInstall = 14
 constexpr int kControls[] = {kAutomatic, kManual, kDownload, kInstall, kBeta, kSearch};
 
 using Ids = std::vector<int>;
+using Lines = std::vector<std::wstring>;
 
 class UpdatePage : public testing::Test {
  protected:
@@ -40,6 +43,13 @@ class UpdatePage : public testing::Test {
   ProductValue schedule{HKEY_CURRENT_USER, L"UpdateType"};
   PageUnderTest test{kPage};
 };
+
+// What was traced of the updater: the box asks the registry where it is to go, which leaves lines too.
+Lines LinesOfUpdater(TracedThread& thread) {
+  Lines lines = thread.Lines();
+  std::erase_if(lines, [](const std::wstring& line) { return line.starts_with(L"CRegistryEntry::"); });
+  return lines;
+}
 
 struct ScheduleCase {
   const wchar_t* stored;  // null: no value
@@ -90,6 +100,16 @@ TEST_F(UpdatePage, NamesItsControlsInTheLanguageOfTheMoment) {
   SetUILanguage(0x0407);
   test.Page().UpdateData(false);
   EXPECT_EQ(L"Jetzt nach einem Update suchen", test.Control(kSearch).Text());
+}
+
+TEST_F(UpdatePage, TheMachineHasNoSchedule) {
+  ProductValue machine(HKEY_LOCAL_MACHINE, L"UpdateType");
+  machine.Set(L"27");
+  Open();
+  EXPECT_EQ((Ids{kAutomatic, kDownload}), Checked());
+  ASSERT_TRUE(test.Save());
+  EXPECT_EQ(L"0", schedule.Text());
+  EXPECT_EQ(L"27", machine.Text());
 }
 
 TEST_F(UpdatePage, StoresTheUsersChoice) {
@@ -209,6 +229,34 @@ TEST_F(UpdatePage, AnUpdaterThatIsGoneIsNoticedWhenThePageIsLeft) {
   EXPECT_NE(Ids{}, Enabled());
   EXPECT_TRUE(test.Page().OnKillActive());
   EXPECT_EQ(Ids{}, Enabled());
+}
+
+namespace {
+
+int askedForUpdater;  // how often the system was
+const auto realGetFileAttributes = RealFunction("kernel32.dll", "GetFileAttributesW", &GetFileAttributesW);
+
+DWORD WINAPI WithoutUpdater(const wchar_t* file) {
+  if (std::wstring_view(file).find(L"NemUpdator64") == std::wstring_view::npos) return realGetFileAttributes(file);
+  ++askedForUpdater;
+  SetLastError(ERROR_FILE_NOT_FOUND);
+  return INVALID_FILE_ATTRIBUTES;
+}
+
+}  // namespace
+
+// It would be looked for on a server of its name.
+TEST_F(UpdatePage, TheUpdaterIsNotLookedForWithoutAFolder) {
+  PatchImport("kernel32.dll", "GetFileAttributesW", reinterpret_cast<void*>(&WithoutUpdater));
+  for (const auto& [folder, asked] : {std::pair{L"", 0}, {L"C:\\Product", 1}}) {
+    product.Install(folder);
+    PageUnderTest page(kPage);
+    askedForUpdater = 0;
+    EXPECT_TRUE(page.Open());
+    EXPECT_EQ(asked, askedForUpdater) << testing::PrintToString(folder);
+    EXPECT_EQ(Ids{}, page.Enabled(kControls));
+  }
+  RestoreImport("kernel32.dll", "GetFileAttributesW");
 }
 
 TEST(UpdatePageAlone, WithoutAnInstalledProductAllIsDisabled) {
@@ -338,15 +386,19 @@ TEST_F(UpdatePage, APageThatEndsMeanwhileTellsNothing) {
 // The code that destroys what was thrown lies in the updater, which stays until then. The foreign one throws as code of
 // another compiler does, and once more when its job is freed.
 TEST_F(UpdatePage, AnUpdaterThatThrowsHasFailed) {
-  for (const wchar_t* kind : {L"throwing", L"foreign"}) {
+  const std::wstring ofSearch = L"CUpdatePage::OnSearchClicked: exception of the updater",
+                     ofJob = L"~NemUpdateJob: exception of the updater";
+  for (const auto& [kind, lines] : {std::pair{L"throwing", Lines{ofSearch}}, {L"foreign", Lines{ofSearch, ofJob}}}) {
     product.Install(ComponentFolder(kind));
     PageUnderTest page(kPage);
     page.Sheet().properties.MsgBoxTitle.SetString(L"Title");
     ASSERT_TRUE(page.Open());
     for (int i = 0; i < 2; ++i) {
+      TracedThread thread;
       ExpectBox(L"The update check wasn't able to proceed. The reported error was \"\".", 0);
       page.Control(kSearch).Click();
       EXPECT_EQ(nullptr, GetModuleHandleW(L"NemUpdator64.dll"));
+      EXPECT_EQ(lines, LinesOfUpdater(thread));
     }
   }
 }
