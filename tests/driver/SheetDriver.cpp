@@ -23,10 +23,13 @@ class ModalRun : public std::enable_shared_from_this<ModalRun> {
   }
 
   // The modal call has returned; a body that waits for something goes on without its sheet.
-  void End() {
+  void End(const SheetResult& result) {
+    const DWORD error = GetLastError();
     ended_ = true;
     popups_.TakeFirstDialog({});
-    if (!sheet_) return Fail("No sheet came up.");
+    if (!sheet_)
+      return Fail("No sheet came up: the call gave " + std::to_string(result.value) + ", the system's last error is " +
+                  std::to_string(error) + '.');
     popups_.Loop().RunUntil([this] { return finished_; });
   }
 
@@ -98,7 +101,7 @@ SheetResult SheetDriver::Run(const std::function<INT_PTR()>& showModal, const Sh
   run->WaitForSheet();
   SheetResult result;
   result.value = showModal();
-  run->End();
+  run->End(result);
   popups_.CheckAllCame();
   result.boxes.assign(popups_.Boxes().begin() + static_cast<ptrdiff_t>(boxesBefore), popups_.Boxes().end());
   return result;

@@ -3,7 +3,7 @@
 //   FileDialogSpy spy;
 //   spy.chosen = L"C:\\tools\\viewer.exe";
 //   test.Control(IDC_ACTION_BROWSE).Click();
-//   EXPECT_EQ((FileDialogSpy::Calls{{.owner = page, .filter = L"Programs(*.exe)|*.exe|", .flags = 0x1804}}), spy.calls);
+//   EXPECT_EQ((FileDialogSpy::Calls{{.owner = page, .filter = L"Programs(*.exe)|*.exe|"}}), spy.calls);
 #pragma once
 
 #include <windows.h>

@@ -185,7 +185,8 @@ TEST_F(Driver, AssertionClosesTheSheet) {
 }
 
 TEST_F(Driver, CallWithoutASheetIsAFailure) {
-  EXPECT_NONFATAL_FAILURE(RunSheet([] { return 5; }, [](Sheet&) -> SheetTask { co_return; }), "No sheet came up.");
+  EXPECT_NONFATAL_FAILURE(RunSheet([] { return 5; }, [](Sheet&) -> SheetTask { co_return; }),
+                          "No sheet came up: the call gave 5");
 }
 
 // --- Watchdog ---------------------------------------------------------------------------------------------------
