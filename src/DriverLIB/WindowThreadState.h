@@ -11,6 +11,7 @@ struct WindowThreadState {
   void* creationHook = nullptr;  // the hook's handle (HHOOK) while it is set
   void* running = nullptr;       // the object whose modal loop runs
   void* modeless = nullptr;      // the newest open modeless dialog, which knows the one before it
+  void* controls = nullptr;      // the objects on controls, by window: made with the first, gone with the last
   uint32_t messageBoxCount = 0;  // boxes shown or diverted so far
   uintptr_t data[4] = {};        // free
 };

@@ -130,7 +130,8 @@ void CCockpitPage::UpdateRow(int32_t category, CCockpitRow& row) {
   row.square.SetIntensity(marked ? 1.0 : 0.0);
   row.square.SetDifferences(label);
   const CUString changed = MessageText(MSG_COCKPIT_CHANGED);
-  row.text.SetText(marked ? (L"(" + label + L")").Text() : L"");
+  const CUString text = marked ? CUString(L"(" + label + L")") : CUString();
+  if (row.text.Text() != text) row.text.SetText(text.Text());
   row.toolTip = marked ? changed + L"\n" + detail : CUString();
   row.toolTipLines = marked ? lineCount + 1 : 0;
   row.toolTipWidth = marked ? std::max(changed.Length(), width) : 0;

@@ -1,9 +1,46 @@
 #include "window/CSubclassedControl.h"
 
+#include <unordered_map>
+#include <utility>
+
+#include "DriverLIB/WindowThreadState.h"
+
+// The window procedure is exchanged as frameworks do it, with the objects in a map of the thread. SetWindowSubclass
+// would look up its chain among the window's properties twice a message: for a page full of drawn controls that comes
+// to a good part of the time that opening it takes.
 namespace {
 
-constexpr UINT_PTR kSubclassId = 0x4E454D;  // "NEM"
-constexpr wchar_t kObjectProperty[] = L"NemPdfUIControl";
+struct Attachment {
+  CSubclassedControl* object;  // null once it has let go, while a procedure above ours still calls this one
+  WNDPROC previous;            // what stood before ours
+};
+using Attachments = std::unordered_map<HWND, Attachment>;
+
+Attachments* CurrentAttachments() {
+  const WindowThreadState* state = CurrentWindowThreadState();
+  return state ? static_cast<Attachments*>(state->controls) : nullptr;
+}
+
+Attachment* Find(HWND window) {
+  Attachments* attachments = CurrentAttachments();
+  if (!attachments) return nullptr;
+  const auto found = attachments->find(window);
+  return found == attachments->end() ? nullptr : &found->second;
+}
+
+void Forget(HWND window) {
+  Attachments* attachments = CurrentAttachments();
+  if (!attachments || !attachments->erase(window) || !attachments->empty()) return;
+  CurrentWindowThreadState()->controls = nullptr;
+  delete attachments;
+}
+
+WNDPROC ProcedureOf(HWND window) { return reinterpret_cast<WNDPROC>(::GetWindowLongPtrW(window, GWLP_WNDPROC)); }
+
+WNDPROC ExchangeProcedure(HWND window, WNDPROC procedure) {
+  return reinterpret_cast<WNDPROC>(
+      ::SetWindowLongPtrW(window, GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(procedure)));
+}
 
 }  // namespace
 
@@ -11,23 +48,36 @@ CSubclassedControl::~CSubclassedControl() {
   if (attached_) Release();
 }
 
+// A procedure that somebody has put above ours stays, and goes on calling ours: that one hands on from now on.
 void CSubclassedControl::Release() {
-  ::RemovePropW(attached_, kObjectProperty);
-  ::RemoveWindowSubclass(attached_, SubclassProcedure, kSubclassId);
-  attached_ = nullptr;
+  const HWND window = std::exchange(attached_, nullptr);
+  Attachment* attachment = Find(window);
+  if (!attachment) return;
+  attachment->object = nullptr;
+  const WNDPROC procedure = ProcedureOf(window);
+  if (procedure == Procedure) ExchangeProcedure(window, attachment->previous);
+  if (!procedure || procedure == Procedure) Forget(window);
 }
 
 CSubclassedControl* CSubclassedControl::FromHandle(HWND control) {
-  return static_cast<CSubclassedControl*>(control ? ::GetPropW(control, kObjectProperty) : nullptr);
+  const Attachment* attachment = Find(control);
+  return attachment ? attachment->object : nullptr;
 }
 
 bool CSubclassedControl::AttachTo(HWND control) {
   Detach();
   // A control has one object: a new one takes over from the one before.
   if (CSubclassedControl* previous = FromHandle(control)) previous->Detach();
-  if (!control || !::SetWindowSubclass(control, SubclassProcedure, kSubclassId, reinterpret_cast<DWORD_PTR>(this)))
+  WindowThreadState* state = CurrentWindowThreadState();
+  if (!control || !state) return false;
+  if (!state->controls) state->controls = new Attachments;
+  Attachment& attachment = (*static_cast<Attachments*>(state->controls))[control];
+  if (!attachment.previous) attachment.previous = ExchangeProcedure(control, Procedure);
+  if (!attachment.previous) {
+    Forget(control);
     return false;
-  ::SetPropW(control, kObjectProperty, this);
+  }
+  attachment.object = this;
   attached_ = control;
   SetHandle(control);
   OnAttached();
@@ -41,19 +91,26 @@ void CSubclassedControl::Detach() {
 }
 
 LRESULT CSubclassedControl::DefaultHandling(const WindowMessage& message) {
-  return ::DefSubclassProc(message.window, message.message, message.wParam, message.lParam);
+  const Attachment* attachment = Find(message.window);
+  const WNDPROC procedure = attachment ? attachment->previous : ProcedureOf(message.window);
+  return procedure ? ::CallWindowProcW(procedure, message.window, message.message, message.wParam, message.lParam) : 0;
 }
 
-LRESULT CALLBACK CSubclassedControl::SubclassProcedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam,
-                                                       UINT_PTR, DWORD_PTR data) {
-  auto* self = reinterpret_cast<CSubclassedControl*>(data);
-  WindowMessage current{window, message, wParam, lParam};
+LRESULT CALLBACK CSubclassedControl::Procedure(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  const Attachment* attachment = Find(window);
+  if (!attachment) return ::DefWindowProcW(window, message, wParam, lParam);
+  // The handler may destroy object and attachment: nothing of them is touched afterwards.
+  const WNDPROC previous = attachment->previous;
+  CSubclassedControl* self = attachment->object;
   if (message == WM_NCDESTROY) {
-    self->OnDestroyed();
-    self->Detach();
-    return ::DefSubclassProc(window, message, wParam, lParam);
+    if (self) {
+      self->OnDestroyed();
+      self->Detach();
+    }
+    Forget(window);
+  } else if (self) {
+    WindowMessage current{window, message, wParam, lParam};
+    if (GuardMessage("CSubclassedControl", *self, current)) return current.result;
   }
-  // The handler may destroy the object: nothing of it is touched afterwards.
-  if (GuardMessage("CSubclassedControl", *self, current)) return current.result;
-  return ::DefSubclassProc(window, message, wParam, lParam);
+  return ::CallWindowProcW(previous, window, message, wParam, lParam);
 }

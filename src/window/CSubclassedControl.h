@@ -31,7 +31,7 @@ class CSubclassedControl : public CMessageTarget {
   virtual void SetHandle(HWND control) = 0;
 
  private:
-  static LRESULT CALLBACK SubclassProcedure(HWND, UINT, WPARAM, LPARAM, UINT_PTR, DWORD_PTR);
+  static LRESULT CALLBACK Procedure(HWND, UINT, WPARAM, LPARAM);
 
   void Release();
 

@@ -57,7 +57,8 @@ void CWnd::Show(bool show) const {
 }
 
 void CWnd::ChangeStyle(DWORD remove, DWORD add) const {
-  ::SetWindowLongPtrW(window_, GWL_STYLE, static_cast<LONG_PTR>((Style() & ~remove) | add));
+  const DWORD before = Style(), after = (before & ~remove) | add;
+  if (after != before) ::SetWindowLongPtrW(window_, GWL_STYLE, static_cast<LONG_PTR>(after));
 }
 
 void CWnd::ChangeExtendedStyle(DWORD remove, DWORD add) const {

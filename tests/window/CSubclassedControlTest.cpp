@@ -6,6 +6,7 @@
 #include <memory>
 #include <stdexcept>
 
+#include "DriverLIB/WindowThreadState.h"
 #include "support/FakeSheet.h"
 #include "support/PrintText.h"
 
@@ -134,6 +135,41 @@ TEST_F(SubclassedControl, NewObjectTakesOverFromTheOneBefore) {
   EXPECT_EQ(&second, CSubclassedControl::FromHandle(Control(kFirst)));
   EXPECT_EQ(42, SendMessageW(Control(kFirst), kQuestion, 0, 0));
   EXPECT_EQ(std::vector<UINT>{kQuestion}, second.seen);
+}
+
+LRESULT CALLBACK AboveAll(HWND window, UINT message, WPARAM wParam, LPARAM lParam, UINT_PTR, DWORD_PTR) {
+  return DefSubclassProc(window, message, wParam, lParam) + (message == kQuestion ? 1000 : 0);
+}
+
+// Readers and the popup of a colour picker do that.
+TEST_F(SubclassedControl, AProcedureAboveItsOwnMayStayLonger) {
+  auto watcher = std::make_unique<Watcher>();
+  watcher->Attach(Dialog(), kFirst);
+  ASSERT_TRUE(SetWindowSubclass(Control(kFirst), AboveAll, 1, 0));
+  EXPECT_EQ(1042, SendMessageW(Control(kFirst), kQuestion, 0, 0));
+  watcher.reset();
+  EXPECT_EQ(1000, SendMessageW(Control(kFirst), kQuestion, 0, 0));
+  EXPECT_EQ(L"text", Dialog().Item(kFirst).Text());
+  Watcher next;
+  ASSERT_TRUE(next.Attach(Dialog(), kFirst));
+  EXPECT_EQ(1042, SendMessageW(Control(kFirst), kQuestion, 0, 0));
+  EXPECT_EQ(std::vector<UINT>{kQuestion}, next.seen) << "once, though its procedure was still there";
+  RemoveWindowSubclass(Control(kFirst), AboveAll, 1);
+  EXPECT_EQ(42, SendMessageW(Control(kFirst), kQuestion, 0, 0));
+  DestroyWindow(Control(kFirst));
+  EXPECT_EQ("attached destroyed ", next.life);
+}
+
+TEST_F(SubclassedControl, TheThreadKeepsNothingBehindTheLastObject) {
+  {
+    Watcher first, second;
+    first.Attach(Dialog(), kFirst);
+    second.Attach(Dialog(), kSecond);
+    EXPECT_NE(nullptr, CurrentWindowThreadState()->controls);
+    DestroyWindow(Control(kSecond));
+    EXPECT_NE(nullptr, CurrentWindowThreadState()->controls);
+  }
+  EXPECT_EQ(nullptr, CurrentWindowThreadState()->controls);
 }
 
 TEST_F(SubclassedControl, ExceptionGivesTheControlsOwnAnswer) {
