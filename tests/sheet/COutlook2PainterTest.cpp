@@ -4,6 +4,7 @@
 
 #include <initializer_list>
 
+#include "driver/ImportPatch.h"
 #include "sheet/COL2CCmdUI.h"
 #include "support/Canvas.h"
 #include "window/AlphaImage.h"
@@ -269,6 +270,32 @@ TEST_F(COutlook2PainterTest, RadioButtonsAndCheckBoxesHaveAMarkOfTwelve) {
     EXPECT_FALSE(::IsRectEmpty(&mark));
     Entry(1).probeBits = 0;
   }
+}
+
+// The states in which marks were drawn.
+std::vector<UINT> markStates;
+BOOL WINAPI NoteMark(HDC, RECT*, UINT, UINT state) {
+  markStates.push_back(state);
+  return TRUE;
+}
+
+TEST_F(COutlook2PainterTest, MarksAreHotAndCheckedAsTheirEntryIs) {
+  const struct {
+    BarEntryKind kind;
+    UINT mark;
+  } rows[] = {{BarEntryKind::Radio, DFCS_BUTTONRADIO}, {BarEntryKind::Check, DFCS_BUTTONCHECK}};
+  ASSERT_GT(PatchImport("user32.dll", "DrawFrameControl", reinterpret_cast<void*>(&NoteMark)), 0);
+  for (const auto& row : rows)
+    for (const UINT hotState : {0, DFCS_HOT})
+      for (const UINT checkedState : {0, DFCS_CHECKED}) {
+        Entry(1).kind = row.kind;
+        Entry(1).probeBits = checkedState ? COL2CCmdUI::kChecked : 0;
+        hot = hotState ? EntryTarget(1, 1) : BarTarget();
+        markStates.clear();
+        Draw();
+        EXPECT_EQ((std::vector<UINT>{row.mark | hotState | checkedState}), markStates);
+      }
+  RestoreImport("user32.dll", "DrawFrameControl");
 }
 
 TEST_F(COutlook2PainterTest, TextsHaveTheirColors) {

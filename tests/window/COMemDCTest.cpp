@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include "driver/ImportPatch.h"
 #include "support/Canvas.h"
 #include "window/MemoryDC.h"
 
@@ -66,6 +67,23 @@ TEST(COMemDC, WhatIsNoDisplayIsDrawnToDirectly) {
     EXPECT_EQ(recording, static_cast<HDC>(surface));
   }
   ::DeleteMetaFile(::CloseMetaFile(recording));
+}
+
+int technology = DT_RASDISPLAY;
+int WINAPI CapsOfTheTechnology(HDC dc, int index) {
+  return index == TECHNOLOGY ? technology : RealFunction("gdi32.dll", "GetDeviceCaps", &CapsOfTheTechnology)(dc, index);
+}
+
+TEST(COMemDC, PrintersAndPlottersAreDrawnToDirectly) {
+  const Canvas canvas(20, 10, kGround);
+  ASSERT_GT(PatchImport("gdi32.dll", "GetDeviceCaps", reinterpret_cast<void*>(&CapsOfTheTechnology)), 0);
+  for (const auto& [kind, direct] : {std::pair{DT_RASPRINTER, true}, {DT_PLOTTER, true}, {DT_RASDISPLAY, false}}) {
+    technology = kind;
+    const COMemDC surface(canvas);
+    EXPECT_EQ(direct, !surface.IsBuffered()) << kind;
+    EXPECT_EQ(direct, static_cast<HDC>(surface) == static_cast<HDC>(canvas)) << kind;
+  }
+  RestoreImport("gdi32.dll", "GetDeviceCaps");
 }
 
 TEST(COMemDC, EmptyClipBoxDrawsNothing) {
