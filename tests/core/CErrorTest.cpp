@@ -204,11 +204,14 @@ TEST(CThreadVar, AFreshSlotStartsWithNull) {
 
 TEST(CThreadVar, InitForgetsTheSlot) {
   CThreadVar<int> variable;
+  int value = 1;
   ASSERT_TRUE(variable.Alloc());
-  CThreadVar<int> second;
-  EXPECT_TRUE(second.Init());
-  EXPECT_EQ(nullptr, second.Get());
-  EXPECT_TRUE(variable.Free());
+  variable.Set(&value);
+  EXPECT_TRUE(variable.Init());
+  EXPECT_EQ(nullptr, variable.Get());
+  EXPECT_FALSE(variable.Set(&value));
+  ASSERT_TRUE(variable.Alloc());  // another one: nobody has given the first one back
+  EXPECT_EQ(nullptr, variable.Get());
 }
 
 TEST(CThreadVar, GetLeavesTheSystemsLastErrorAlone) {

@@ -491,6 +491,22 @@ TEST(CPtr2Ptr, FreedEntriesAreUsedAgain) {
   EXPECT_EQ(former, entryOf(48));
 }
 
+TEST(CPtr2Ptr, ABlockHoldsItsEntriesSideBySideAndTheFirstIsTheFirstUsed) {
+  CPtr2Ptr map(4);
+  for (uintptr_t key = 1; key <= 6; ++key) map.SetAt(Value(key * 16), Value(key));  // a bucket each
+  std::vector<uintptr_t> entries;  // from the second on: a position is the entry behind the one taken
+  CPtr2Ptr::Position position = CPtr2Ptr::StartPosition();
+  const void* key = nullptr;
+  void* value = nullptr;
+  while (map.GetNextAssoc(position, key, value) && position) entries.push_back(reinterpret_cast<uintptr_t>(position));
+  ASSERT_EQ(5u, entries.size());
+  const auto step = [&](size_t i) { return static_cast<intptr_t>(entries[i + 1] - entries[i]); };
+  EXPECT_GT(step(0), 0);
+  EXPECT_EQ(step(0), step(1));
+  EXPECT_NE(step(0), step(2)) << "the fifth begins another block";
+  EXPECT_EQ(step(0), step(3));
+}
+
 TEST(CPtr2Ptr, RemoveAllFreesEveryKey) {
   CountingMap map(3);
   for (uintptr_t key = 1; key <= 100; ++key) map.SetAt(Value(key * 8), Value(key));

@@ -2,11 +2,13 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <string>
 
 #include "driver/ImportPatch.h"
 #include "driver/Popups.h"
 #include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/MessageText.h"
 #include "support/RegistryValue.h"
 #include "support/TempFile.h"
 #include "support/TestMessages.h"
@@ -57,7 +59,33 @@ std::wstring WithoutTime(std::wstring line) {
   return line;
 }
 
+// A system whose texts have 300 letters.
+DWORD languageAskedFor = 0;
+DWORD WINAPI LongSystemText(DWORD flags, const void*, DWORD, DWORD language, wchar_t* buffer, DWORD size, va_list*) {
+  constexpr DWORD kLength = 300;
+  languageAskedFor = language;
+  if (flags & FORMAT_MESSAGE_ALLOCATE_BUFFER) {
+    void* const memory = LocalAlloc(LPTR, (kLength + 1) * sizeof(wchar_t));
+    *reinterpret_cast<void**>(buffer) = memory;
+    buffer = static_cast<wchar_t*>(memory);
+  } else if (size <= kLength) {
+    SetLastError(ERROR_INSUFFICIENT_BUFFER);
+    return 0;
+  }
+  *std::fill_n(buffer, kLength, L'x') = L'\0';
+  return kLength;
+}
+
 }  // namespace
+
+TEST(SystemErrorTexts, AreCutAt256CharactersOfTheUsersLanguage) {
+  ASSERT_GT(PatchImport("kernel32.dll", "FormatMessageW", reinterpret_cast<void*>(&LongSystemText)), 0);
+  CUString text;
+  GetSystemErrorText(text, 5);
+  RestoreImport("kernel32.dll", "FormatMessageW");
+  EXPECT_EQ(std::wstring(256, L'x'), text.Text());
+  EXPECT_EQ(DWORD{MAKELANGID(LANG_NEUTRAL, SUBLANG_DEFAULT)}, languageAskedFor);
+}
 
 TEST_F(MessageBoxTest, TheBoxShowsTextTitleAndIcon) {
   Popups popups;
