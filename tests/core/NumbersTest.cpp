@@ -2,7 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -10,6 +9,7 @@
 
 #include "DriverLIB/CUString.h"
 #include "pages/CBookmarkFormat.h"
+#include "support/CommaLocale.h"
 
 namespace {
 
@@ -52,19 +52,14 @@ const DecimalSample kDecimals[] = {
     {L":", 0},
 };
 
-// A host may have chosen the locale of its user, whose decimal sign is a comma, for the run-time library that we share.
 TEST(ParseDouble, TakesThePointForTheDecimalSignUnderEveryLocale) {
-  const std::string before = std::setlocale(LC_NUMERIC, nullptr);
-  if (!std::setlocale(LC_NUMERIC, "German") && !std::setlocale(LC_NUMERIC, "de_DE.UTF-8"))
-    GTEST_SKIP() << "no locale with a decimal comma here";
-  const double number = ParseDouble("10.5"), none = ParseDouble("10,5");
+  const CommaLocale locale;
+  if (!locale.IsThere()) GTEST_SKIP() << "no locale with a decimal comma here";
+  EXPECT_EQ(10.5, ParseDouble("10.5"));
+  EXPECT_EQ(10.0, ParseDouble("10,5"));
   CBookmarkFormat format;
   format.fontSize = 10.5;
-  const CUString size = format.GetSizeText();
-  std::setlocale(LC_NUMERIC, before.c_str());
-  EXPECT_EQ(10.5, number);
-  EXPECT_EQ(10.0, none);
-  EXPECT_STREQ(L"10.5", size.Text());
+  EXPECT_STREQ(L"10.5", format.GetSizeText().Text());
 }
 
 }  // namespace

@@ -6,6 +6,7 @@
 #include "driver/DialogTemplate.h"
 #include "driver/Text.h"
 #include "MessageIds.h"
+#include "support/CommaLocale.h"
 #include "support/FakeSheet.h"
 #include "support/PrintText.h"
 #include "window/CSubclassedControl.h"
@@ -295,6 +296,14 @@ TEST_F(DataExchange, ShowNumberWritesNoMoreDecimalPlacesThanThereAre) {
     ShowNumber(dialog_, kEdit, number);
     EXPECT_EQ(text, TextOf(kEdit));
   }
+}
+
+TEST_F(DataExchange, NumbersHaveAPointUnderEveryLocale) {
+  const CommaLocale locale;
+  if (!locale.IsThere()) GTEST_SKIP() << "no locale with a decimal comma here";
+  ShowNumber(dialog_, kEdit, 10.5);
+  EXPECT_EQ(L"10.5", TextOf(kEdit));
+  EXPECT_EQ(10.5, CorrectNumber(dialog_, kEdit, kRule));
 }
 
 TEST_F(DataExchange, NumberWithARuleShowsAnyAndStoresWhatKeepsIt) {
