@@ -58,7 +58,7 @@ bool FillLists(NemPdfUIHandle dialog) {
   return true;
 }
 
-// Marks all rows of the cockpit: those of the pages that there are.
+// Marks all rows of the cockpit.
 bool ChangeAllCategories(NemPdfUIHandle dialog) {
   constexpr struct {
     const wchar_t* name;

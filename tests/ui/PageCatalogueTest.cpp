@@ -84,6 +84,7 @@ class PageCatalogueTest : public testing::Test {
 };
 
 TEST_F(PageCatalogueTest, PagesStandInTheOrderOfConstruction) {
+  EXPECT_EQ(std::size(kExpected), AllPages().size());
   const Expected* last = nullptr;
   for (const PageCatalogueRow& row : AllPages()) {
     const Expected* expected = Find(row.description.pageId);
@@ -100,7 +101,8 @@ TEST_F(PageCatalogueTest, PagesOfTheBasicSettingsAreWhatTheirRowsSay) {
     EXPECT_EQ(std::tuple(expected.templateId, 0u, expected.imageId, expected.maskId),
               std::tuple(row.description.templateId, row.description.iconId, row.description.imageId,
                          row.description.maskId));
-    if (row.onBasicSettings) ExpectPage(row.onBasicSettings, row, 0, expected.className, expected.templateId);
+    ASSERT_TRUE(row.onBasicSettings);
+    ExpectPage(row.onBasicSettings, row, 0, expected.className, expected.templateId);
   }
 }
 
