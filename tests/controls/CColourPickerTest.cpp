@@ -120,6 +120,16 @@ TEST(CColourPicker, OpensAtAClick) {
   EXPECT_TRUE(test.page.Received(WM_COMMAND).empty()) << "the click itself is answered";
 }
 
+TEST(CColourPicker, ItsOtherCellsHaveTextsUnlessToldOtherwise) {
+  const ComScope com;
+  ColourPage test;
+  test.Click();
+  const Accessible cells(test.Popup().Handle());
+  ASSERT_EQ(42, cells.Count());
+  EXPECT_EQ(L"Automatic", cells.Name(1));
+  EXPECT_EQ(L"More Colors...", cells.Name(42));
+}
+
 TEST(CColourPicker, OpensByKeys) {
   const struct {
     const char* key;

@@ -4,6 +4,7 @@
 #include "driver/CommonDialogs.h"
 #include "driver/Popups.h"
 #include "support/Accessible.h"
+#include "support/FunctionPatch.h"
 
 namespace {
 
@@ -503,6 +504,20 @@ TEST(CColourPopup, DialogBeginsWithBlackForNoColour) {
   });
   test.Press(VK_RETURN);
   test.ExpectTold({kCloseUp, kCancel}, 0xFF000000);
+}
+
+DWORD dialogFlags = 0;
+BOOL WINAPI NoteFlags(CHOOSECOLORW* dialog) {
+  dialogFlags = dialog->Flags;
+  return FALSE;
+}
+
+TEST(CColourPopup, DialogIsFullyOpenForAnyColour) {
+  const FunctionPatch patch(L"comdlg32.dll", "ChooseColorW", reinterpret_cast<void*>(&NoteFlags));
+  CustomColours custom;
+  COLORREF colour = kRed;
+  EXPECT_FALSE(AskForColour(nullptr, colour, custom));
+  EXPECT_EQ(DWORD{CC_RGBINIT | CC_FULLOPEN | CC_ANYCOLOR}, dialogFlags);
 }
 
 TEST(CColourPopup, DialogKeepsTheUsersOwnColours) {

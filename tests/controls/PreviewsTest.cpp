@@ -220,7 +220,11 @@ TEST(CFormFieldsPreview, BorderIsAroundTheWhole) {
         for (const int y : {0, 1, kHeight - 2, kHeight - 1}) ASSERT_EQ(PixelOf(kRed), picture.At(x, y)) << x;
       for (int y = 0; y < kHeight; ++y)
         for (const int x : {0, 1, kWidth - 2, kWidth - 1}) ASSERT_EQ(PixelOf(kRed), picture.At(x, y)) << y;
-      EXPECT_EQ(PixelOf(background == kNone ? kWindow : background), picture.At(3, 3)) << "hollow";
+      const uint32_t ground = PixelOf(background == kNone ? kWindow : background);
+      EXPECT_EQ(ground, picture.At(3, 3)) << "hollow";
+      // One of the pen's three pixels lies outside.
+      EXPECT_EQ(ground, picture.At(2, 2));
+      EXPECT_EQ(ground, picture.At(2, kHeight - 3));
     }
   }
 }
