@@ -131,6 +131,14 @@ TEST_F(AppearancePage, AWrongPageIsCorrectedWithoutAWord) {
   EXPECT_EQ(boxes, MessageBoxCount());
 }
 
+TEST_F(AppearancePage, TheHostsWrongPageIsCorrectedBeforeAListFailsTheSave) {
+  test_.Set(L"OpenPageIndex", 40000);
+  ASSERT_TRUE(test_.Open());
+  SendMessageW(test_.Control(IDC_APPEARANCE_LAYOUT).Window(), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+  EXPECT_FALSE(test_.Page().UpdateData(true));
+  EXPECT_EQ(L"1", test_.Control(IDC_APPEARANCE_PAGE).Text());
+}
+
 TEST_F(AppearancePage, TheZeroOfTheHostStandsUntilItsFieldIsLeft) {
   ASSERT_TRUE(test_.Open());
   test_.Control(IDC_APPEARANCE_PAGE).Focus();

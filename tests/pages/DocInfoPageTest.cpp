@@ -159,6 +159,16 @@ TEST_F(DocInfoPage, TextsThatTheHostSetsAreClosedAndThePageSaysSo) {
   ExpectPictures(test_->Page(), {{1162, Pictures::kSignWarning16}});
 }
 
+TEST_F(DocInfoPage, EachTabObeysTheHostInItsOwnSet) {
+  for (const int set : {0, 1})
+    for (const bool own : {false, true}) {
+      PageUnderTest test(kPageId, set);
+      for (const int each : {0, 1}) test.Sheet().properties.InternalUse[each].SetLong((each == set) == own ? 2 : 0);
+      ASSERT_TRUE(test.Open());
+      EXPECT_EQ(!own, test.Control(1073).IsEnabled()) << set;
+    }
+}
+
 TEST_F(DocInfoPage, TextsThatTheHostSetsAreShownAndGoBack) {
   test_->Set(L"InternalUse", 2);
   const auto before = test_->AllValues();

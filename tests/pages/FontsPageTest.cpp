@@ -361,6 +361,16 @@ TEST_F(FontsPage, AVersionThatComesAfterTheChoiceKeepsTheChoice) {
   ExpectStored(2, false, L" ");
 }
 
+TEST_F(FontsPage, AVersionThatComesAfterTheClickLeavesWhatIsStored) {
+  Store(3, false, L"");
+  SetVersion(14);
+  OpenWith(kFreeFonts);
+  Choose(1055);
+  SetVersion(100);
+  ASSERT_TRUE(test_.Save());
+  EXPECT_EQ(L"3", test_.Value(L"FontsEmbedded"));
+}
+
 // --- Filling the lists ---------------------------------------------------------------------------------------------
 
 TEST_F(FontsPage, TheStoredListDistributesTheFonts) {
@@ -391,6 +401,23 @@ TEST_F(FontsPage, TheStoredListDistributesTheFonts) {
       EXPECT_EQ(row.excluded, test.Control(1053).Rows());
     }
   }
+}
+
+TEST_F(FontsPage, EachTabHasItsOwnList) {
+  PageUnderTest test(kPageId, 1);
+  GiveFonts(test, kFreeFonts);
+  CDialogProperties& properties = test.Sheet().properties;
+  properties.FontsIsEmbeddedOrNoEmbeddedList[0].SetLong(0);
+  properties.FontsEmbeddedOrNoEmbeddedList[0].SetString(L"Beta");
+  test.Set(L"FontsEmbedded", 2);
+  test.Set(L"FontsIsEmbeddedOrNoEmbeddedList", 1);
+  test.Set(L"FontsEmbeddedOrNoEmbeddedList", L"Alpha");
+  ASSERT_TRUE(test.Open());
+  EXPECT_EQ(Names{L"Alpha"}, test.Control(1032).Rows());
+  ASSERT_TRUE(test.Save());
+  EXPECT_EQ(L"0", test.Value(L"FontsIsEmbeddedOrNoEmbeddedList"));
+  EXPECT_EQ(L"Beta;Delta;Gamma", test.Value(L"FontsEmbeddedOrNoEmbeddedList"));
+  EXPECT_EQ(L"Beta", properties.FontsEmbeddedOrNoEmbeddedList[0].GetString());
 }
 
 TEST_F(FontsPage, AnySwitchButZeroMeansTheListOfFontsToEmbed) {

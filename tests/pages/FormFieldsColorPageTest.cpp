@@ -146,12 +146,12 @@ TEST(FormFieldsColorPage, SavesTheUsersChoice) {
 }
 
 TEST(FormFieldsColorPage, NeverWritesWhetherFieldsAreOffered) {
-  for (const int offered : {0, 7}) {
+  for (const int offered : {0, 0x10001}) {
     FormColors test;
     test.page.Set(L"FormFieldsEnabled", offered);
     ASSERT_TRUE(test.page.Open());
     ASSERT_TRUE(test.page.Save());
-    EXPECT_EQ(std::to_wstring(offered), test.page.Value(L"FormFieldsEnabled"));
+    EXPECT_EQ(std::to_wstring(offered), test.page.Value(L"FormFieldsEnabled")) << "not even the 16 bits of it";
   }
 }
 
@@ -248,6 +248,18 @@ TEST(FormFieldsColorPage, IsOpenWithTheAddInAlone) {
       for (int shown = 0; shown < 2; ++shown) test.page.Page().OnSetActive();
     }
   }
+}
+
+TEST(FormFieldsColorPage, EachTabIsOpenAsItsOwnSetSays) {
+  for (const int set : {0, 1})
+    for (const bool offered : {false, true}) {
+      FormColors test(set);
+      CDialogProperties& properties = test.page.Sheet().properties;
+      properties.FormFieldsEnabled[set].SetLong(offered);
+      properties.FormFieldsEnabled[1 - set].SetLong(!offered);
+      ASSERT_TRUE(test.page.Open());
+      EXPECT_EQ(offered, test.page.Control(1211).IsEnabled()) << set;
+    }
 }
 
 TEST(FormFieldsColorPage, PdfADoesNotConcernIt) {

@@ -152,6 +152,18 @@ TEST(FormFieldsPage, EachTabObeysItsOwnVersion) {
   EXPECT_FALSE(test.page.Control(kConvert).IsEnabled());
 }
 
+TEST(FormFieldsPage, EachTabOffersFieldsAsItsOwnSetSays) {
+  for (const int set : {0, 1})
+    for (const bool offered : {false, true}) {
+      FormFieldsTest test(14, set);
+      CDialogProperties& properties = test.page.Sheet().properties;
+      properties.FormFieldsEnabled[set].SetLong(offered);
+      properties.FormFieldsEnabled[1 - set].SetLong(!offered);
+      ASSERT_TRUE(test.page.Open());
+      EXPECT_EQ(offered, test.page.Control(kConvert).IsEnabled()) << set;
+    }
+}
+
 TEST(FormFieldsPage, OpensAndClosesAtTheUsersClicks) {
   FormFieldsTest test;
   ASSERT_TRUE(test.page.Open());
@@ -276,10 +288,10 @@ TEST(FormFieldsPage, WithoutTheAddInThePageIsSavedAsEver) {
 
 TEST(FormFieldsPage, NeverWritesWhetherFieldsAreOffered) {
   FormFieldsTest test;
-  test.page.Set(L"FormFieldsEnabled", 7);
+  test.page.Set(L"FormFieldsEnabled", 0x10001);
   ASSERT_TRUE(test.page.Open());
   ASSERT_TRUE(test.page.Save());
-  EXPECT_EQ(L"7", test.page.Value(L"FormFieldsEnabled"));
+  EXPECT_EQ(L"65537", test.page.Value(L"FormFieldsEnabled")) << "not even the 16 bits of it";
 }
 
 // --- The number of characters ---------------------------------------------------------------------------------------

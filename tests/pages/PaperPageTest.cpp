@@ -766,6 +766,21 @@ TEST_F(PaperPage, ALayoutThatTheHostSetsIsClosedAndSaysSo) {
   EXPECT_EQ(L"Change the page layout via application (pages_tests.exe)", Text(1244));
 }
 
+TEST_F(PaperPage, EachTabObeysTheHostInItsOwnSet) {
+  for (const int set : {0, 1})
+    for (const bool own : {false, true}) {
+      PageUnderTest test(kPageId, set);
+      for (const int each : {0, 1}) {
+        const int bits = (each == set) == own ? 2 : 0;
+        test.Sheet().properties.InternalUse[each].SetLong(bits);
+        test.Sheet().properties.PrintOutput[each].SetLong(bits);
+      }
+      ASSERT_TRUE(test.Open());
+      EXPECT_EQ(!own, test.Control(IDC_PAPER_WIDTH).IsEnabled()) << set;
+      EXPECT_EQ(own, CWnd(test.Control(IDC_PAPER_DUPLEX).Window()).IsShown()) << set;
+    }
+}
+
 TEST_F(PaperPage, WhatIsClosedStaysClosed) {
   test_->Set(L"InternalUse", 2);
   ASSERT_TRUE(Open());
@@ -847,6 +862,7 @@ TEST_F(PaperPageInWord, MarksForTheHostAreStoredInPlaceOfTheLayout) {
       EXPECT_EQ(90, Value(L"PaperMarginTop"));
       EXPECT_EQ(600, Value(L"PaperBorder"));
       EXPECT_EQ(1, Value(L"Duplex"));
+      for (const int id : {1016, 1018, 1023, 1021}) EXPECT_EQ(L"", Text(id)) << id << " is not corrected";
     }
   }
 }

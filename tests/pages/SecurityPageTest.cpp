@@ -265,6 +265,13 @@ TEST_F(SecurityPage, EachTabObeysTheEPdfSwitchOfItsOwnSet) {
     }
 }
 
+TEST_F(SecurityPage, WhatItOnlyReadsIsNotWritten) {
+  test_->Set(L"SaveFormatEPdfEnabled", 0x10001);
+  OpenWith(14);
+  ASSERT_TRUE(test_->Save());
+  EXPECT_EQ(L"65537", test_->Value(L"SaveFormatEPdfEnabled")) << "not even the 16 bits of it";
+}
+
 TEST_F(SecurityPage, OverridesOfTheSwitchesLeaveWhatTheyOpenAlone) {
   test_->Admin().EncryptOwnerPasswordEnabled_Override = 0;
   test_->Admin().EncryptUserPasswordEnabled_Override = 0;
@@ -443,6 +450,9 @@ TEST_F(SecurityPage, TheFirstEmptyPasswordIsTold) {
   for (const int id : kEdits) Control(id).SetText(L"");
   ExpectWarning(L"The entered password for the security settings is invalid!");
   EXPECT_FALSE(Leave());
+  Control(1003).SetText(L"x");
+  ExpectWarning(L"The entered password for opening the PDF file is invalid!");
+  EXPECT_FALSE(Leave());
   Control(1022).Click();
   ExpectWarning(L"The entered password for editing the e.pdf file is invalid!");
   EXPECT_FALSE(Leave());
@@ -501,6 +511,22 @@ TEST_F(SecurityPage, WithoutTheSwitchNothingIsAsked) {
   for (const int id : kEdits) Control(id).SetText(L"new");
   EXPECT_TRUE(Leave());
   WantConfirmation();  // read already
+  EXPECT_TRUE(Leave());
+}
+
+TEST_F(SecurityPage, ASwitchThatHasJustBeenTurnedOnAsks) {
+  OpenWith(14);
+  Control(1245).Click();
+  Control(1003).SetText(L"new");
+  ExpectConfirmation({{1003, L"new"}, {1005, L"two"}, {1007, L"three"}});
+  EXPECT_TRUE(Leave());
+}
+
+TEST_F(SecurityPage, ASwitchThatHasJustBeenTurnedOffAsksNothing) {
+  WantConfirmation();
+  OpenWith(14);
+  Control(1245).Click();
+  Control(1003).SetText(L"new");
   EXPECT_TRUE(Leave());
 }
 
