@@ -83,8 +83,8 @@ const std::set<int> kOfBasicSettingsAlone = {102, 103, 104};
 
 class CockpitAndPages : public CockpitRestore {
  protected:
-  CockpitAndPages() {
-    for (const int set : {0, 1}) sheet_.properties.SaveFormatEPdfEnabled[set].SetLong(1);
+  explicit CockpitAndPages(int set = 0) : CockpitRestore(set) {
+    for (const int each : {0, 1}) sheet_.properties.SaveFormatEPdfEnabled[each].SetLong(1);
     SetProperties(0, factory_);
     SetProperties(1, factory_);
   }
@@ -97,7 +97,7 @@ class CockpitAndPages : public CockpitRestore {
       if (realPages_[row.pageId]) sheet_.pages[row.pageId] = realPages_[row.pageId].get();
     }
   }
-  bool IsTracked(int category, int set = 0) {
+  bool IsTracked(int category, int set) {
     const int pageId = kRows[category - 1].pageId;
     return set == 0 || !kOfBasicSettingsAlone.contains(pageId);
   }
@@ -121,11 +121,28 @@ class CockpitAndPages : public CockpitRestore {
     field.change(changed);
     return field.number == kStartAction ? std::to_wstring(2 | 4 | 8) : field.read(changed);
   }
-  void ChangeAllProperties() {
-    for (const Field& field : kFields) Property(field.number, 0).SetValueText(Changed(field).c_str());
+  void ChangeAllProperties(int set) {
+    for (const Field& field : kFields) Property(field.number, set).SetValueText(Changed(field).c_str());
+  }
+  // On the tab of a set the user restores, and presses OK. `stillMarked` are the rows that stay marked, `kept` the
+  // fields that stay beside those that do on every tab.
+  void ExpectRestored(int set, const std::set<int>& stillMarked, const std::set<int>& kept) {
+    for (const int each : {0, 1}) ChangeAllProperties(each);
+    MakePages(set);
+    Open();
+    Restore(IDYES);
+    EXPECT_EQ(stillMarked, MarkedRows());
+    for (const Field& field : kFields)
+      EXPECT_EQ(Changed(field), Stored(field.number, set)) << field.name << " before OK";
+    ASSERT_TRUE(page_.UpdateDataSuper(true));
+    for (const Field& field : kFields) {
+      const bool restored = field.category != kPaperCategory && field.hasDefault && !kept.contains(field.number);
+      EXPECT_EQ(restored ? field.read(factory_) : Changed(field), Stored(field.number, set)) << field.name;
+      EXPECT_EQ(Changed(field), Stored(field.number, 1 - set)) << field.name << " of the other tab";
+    }
   }
 
-  static constexpr int kStartAction = 40;
+  static constexpr int kPaperCategory = 2, kStartAction = 40;
   const CCockpitSettings factory_{Settings::IsA4()};
   std::map<int, std::unique_ptr<CNemUIPage>> realPages_;
 };
@@ -180,21 +197,17 @@ TEST_F(CockpitAndPages, EachBitOfTheStartActionMarksItsRowOrNone) {
 // --- Restoring ------------------------------------------------------------------------------------------------------
 
 // The host's value, or the factory's, as the paper page keeps its properties and colours without a default stay.
-TEST_F(CockpitAndPages, RestoringReachesThePropertiesOfAllPagesButPaper) {
-  ChangeAllProperties();
-  MakePages();
-  Open();
-  Restore(IDYES);
-  EXPECT_EQ((std::set<int>{}), MarkedRows());
-  for (const Field& field : kFields) EXPECT_EQ(Changed(field), Stored(field.number)) << field.name << " before OK";
-  ASSERT_TRUE(page_.UpdateDataSuper(true));
-  for (const Field& field : kFields) {
-    const bool restored = field.category != 2 && field.hasDefault && (field.category != 8 || IsTracked(8));
-    EXPECT_EQ(restored ? field.read(factory_) : Changed(field), Stored(field.number)) << field.name;
-    if (field.hasDefault) {
-      EXPECT_EQ(field.read(factory_), Stored(field.number, 1)) << field.name << " of the other tab";
-    }
-  }
+TEST_F(CockpitAndPages, RestoringReachesThePropertiesOfAllPagesButPaper) { ExpectRestored(0, {}, {}); }
+
+class CockpitAndPagesOfTheDocument : public CockpitAndPages {
+ protected:
+  CockpitAndPagesOfTheDocument() : CockpitAndPages(1) {}
+};
+
+// Saving, actions and mail have no page there; of the format page's values the version alone is the tab's own.
+TEST_F(CockpitAndPagesOfTheDocument, RestoringReachesTheTabsOwnPropertiesAlone) {
+  ExpectRestored(1, {10}, {35, 36, 38, 39, 40});
+  EXPECT_EQ(L"(Conversion engine)", RowText(10));
 }
 
 // What fixes a field, and what then stands in the property at OK.
@@ -244,7 +257,7 @@ TEST_F(CockpitAndPages, RestoringLeavesWhatIsFixed) {
     kept[fixed.number] = fixed.kept ? fixed.kept : Changed(FieldOf(fixed.number));
     if (FieldOf(fixed.number).category) marked.insert(FieldOf(fixed.number).category);
   }
-  ChangeAllProperties();
+  ChangeAllProperties(0);
   MakePages();
   Open();
   Restore(IDYES);
@@ -253,7 +266,7 @@ TEST_F(CockpitAndPages, RestoringLeavesWhatIsFixed) {
   EXPECT_EQ(L"(PDF format)", RowText(10)) << "the engine is nobody's";
   ASSERT_TRUE(page_.UpdateDataSuper(true));
   for (const Field& field : kFields) {
-    if (field.category == 2 || !field.hasDefault || (field.category == 8 && !IsTracked(8))) continue;
+    if (field.category == kPaperCategory || !field.hasDefault) continue;
     EXPECT_EQ(kept.contains(field.number) ? kept[field.number] : field.read(factory_), Stored(field.number))
         << field.name;
   }
@@ -261,7 +274,7 @@ TEST_F(CockpitAndPages, RestoringLeavesWhatIsFixed) {
 
 // Of the layout the host does not even let the cockpit know.
 TEST_F(CockpitAndPages, RestoringLeavesWhatTheHostKeepsToItself) {
-  ChangeAllProperties();
+  ChangeAllProperties(0);
   sheet_.properties.InternalUse[0].SetLong(2);
   MakePages();
   Open();

@@ -34,7 +34,7 @@ std::vector<std::unique_ptr<CNemUIPage>> MakeStandIns(Settings& settings) {
   return pages;
 }
 
-CockpitTest::CockpitTest() {
+CockpitTest::CockpitTest(int set) : page_(&sheet_, kCockpit, set) {
   for (const auto& page : pages_) sheet_.pages[page->GetPageId()] = page.get();
   sheet_.pages[page_.GetPageId()] = &page_;
   sheet_.properties.MsgBoxTitle.SetString(L"Host");

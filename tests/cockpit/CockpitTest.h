@@ -103,7 +103,8 @@ std::vector<std::unique_ptr<CNemUIPage>> MakeStandIns(Settings& settings);
 
 class CockpitTest : public testing::Test {
  protected:
-  CockpitTest();
+  // A cockpit of this set.
+  explicit CockpitTest(int set = 0);
 
   void Open() { Open(page_); }
   void Open(CNemUICockpitPage& page);
@@ -129,11 +130,13 @@ class CockpitTest : public testing::Test {
   FakeSheet sheet_;
   std::vector<std::unique_ptr<CNemUIPage>> pages_ = MakeStandIns(settings_);
   PageParent parent_;
-  CNemUICockpitPage page_{&sheet_, kCockpit, 0};
+  CNemUICockpitPage page_;
 };
 
 class CockpitRestore : public CockpitTest {
  protected:
+  using CockpitTest::CockpitTest;
+
   // Asks for the factory state and answers the question.
   void Restore(int button);
 
