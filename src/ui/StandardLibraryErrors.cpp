@@ -1,6 +1,6 @@
 // How the standard library tells of errors, without what its own functions would bring into the library: names of types
-// made readable, formatted texts, strings of an old kind, sources of random numbers, in all a tenth of our code. What is
-// thrown here is caught where every exception is: no code of ours asks which error it was.
+// made readable, formatted texts, strings of an old kind, sources of random numbers, in all a tenth of our code. What
+// is thrown here is caught where every exception is: no code of ours asks which error it was.
 //
 // The linker takes these in place of the standard library's own. A function that is missing here shows as one that is
 // defined twice.
