@@ -16,10 +16,14 @@ int MsgBoxByIdV(HWND window, void* module, const wchar_t* title, uint32_t id, UI
 
 int MsgBox(HWND window, const wchar_t* title, const wchar_t* text, UINT flags) {
   if (!title) title = kComponentName;
-  if (WindowThreadState* state = CurrentWindowThreadState()) ++state->messageBoxCount;
+  CountAsMessageBox();
   if (LogMessageBox(title, text)) return IDOK;
   if (IsRightToLeft(GetUILanguage())) flags |= MB_RIGHT | MB_RTLREADING;
   return MessageBoxW(window, text, title, flags);
+}
+
+void CountAsMessageBox() {
+  if (WindowThreadState* state = CurrentWindowThreadState()) ++state->messageBoxCount;
 }
 
 unsigned MessageBoxCount() {

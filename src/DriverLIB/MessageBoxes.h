@@ -28,6 +28,8 @@ int MsgBox(HWND window, const wchar_t* title, const wchar_t* text, UINT flags);
 // How many boxes the calling thread has shown so far, diverted ones included. Whoever tells a failure asks whether
 // somebody has told it already.
 unsigned MessageBoxCount();
+// A dialog of another kind whose end is as clear to the user counts as one of them.
+void CountAsMessageBox();
 
 // Appends the box to the file that the registry value LogMsgFile names. True when there is such a value, even if the
 // file cannot be written: the box is not to be shown then.

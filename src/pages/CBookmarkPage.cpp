@@ -115,7 +115,11 @@ void CBookmarkPage::SaveFormats() {
 
 // False when there is something that the user has to finish first.
 bool CBookmarkPage::FinishEdits() {
-  if (dialog_.IsOpen() && dialog_->IsModified()) return false;
+  if (dialog_.IsOpen() && dialog_->IsModified()) {
+    Tell(MSG_INVALID_DATA, MB_OK | MB_ICONERROR);
+    if (dialog_.IsOpen()) dialog_->UpdateLock();  // the end of a box may enable its owner
+    return false;
+  }
   if (!LeaveEditors()) return false;
   CloseDialog();
   return true;

@@ -3,6 +3,7 @@
 #include <algorithm>
 
 #include "controls/LabelText.h"
+#include "DriverLIB/MessageBoxes.h"
 #include "DriverLIB/SecureWipe.h"
 #include "MessageIds.h"
 #include "pages/CPwdConfirmDialog.h"
@@ -162,10 +163,9 @@ void CPdfSecurityPage::ConfirmPasswords(CDataExchange& exchange) {
   CPwdConfirmDialog dialog(GetHelpFilename());
   for (const PasswordKind kind : kPasswordKinds)
     if (IsConfirmed(kind, switches, states[kind].isSet)) dialog.expected[kind] = *passwords[kind];
-  if (dialog.DoModal(Handle()) == IDOK)
-    ForgetTouches();
-  else
-    exchange.Fail(EditToCorrect());
+  if (dialog.DoModal(Handle()) == IDOK) return ForgetTouches();
+  CountAsMessageBox();  // who cancels it knows why the page stays
+  exchange.Fail(EditToCorrect());
 }
 
 // Of the first password that the user has touched and can still change; 0 when there is none.

@@ -44,6 +44,19 @@ bool RunInNet(const char* place, Exchange exchange) noexcept {
   return false;
 }
 
+// Runs a step whose failure keeps the user on the page, and tells him of it. One failure, one box: whoever has spoken
+// already silences this one. The page may end in either box.
+template <class Step>
+bool RunTold(CNemUIPage& page, Step step) {
+  const unsigned boxesBefore = MessageBoxCount();
+  if (step()) return true;
+  if (MessageBoxCount() != boxesBefore) return false;
+  const HWND window = page.Handle(), focus = ::GetFocus();
+  RunCatching([&] { TellInvalidData(window, page.GetMsgBoxTitle().Text()); });
+  if (::IsChild(window, focus)) ::SetFocus(focus);  // what is wrong keeps the keyboard
+  return false;
+}
+
 }  // namespace
 
 CNemUIPage::CNemUIPage(const PageDescription& description)
@@ -111,17 +124,15 @@ bool CNemUIPage::OnSetActive() {
 }
 
 bool CNemUIPage::OnKillActive() {
-  if (SaveControls()) return true;
-  TraceInfo("UpdateData failed during page deactivation\n");
-  return false;
+  return RunTold(*this, [this] {
+    if (SaveControls()) return true;
+    TraceInfo("UpdateData failed during page deactivation\n");
+    return false;
+  });
 }
 
 bool CNemUIPage::OnApply() {
-  const unsigned boxesBefore = MessageBoxCount();
-  if (SaveControls() && UpdateDataSuper(true)) return true;
-  // One failure, one box: whoever has spoken already silences this one.
-  if (MessageBoxCount() == boxesBefore) TellInvalidData(window_, GetMsgBoxTitle().Text());
-  return false;
+  return RunTold(*this, [this] { return SaveControls() && UpdateDataSuper(true); });
 }
 
 bool CNemUIPage::OnHelpInfo(const HELPINFO& help) {

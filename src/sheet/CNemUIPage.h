@@ -39,7 +39,8 @@ class CNemUIPage : public CPropertyPage {
   virtual void WriteProperties() {}
 
   bool OnSetActive() override;
-  // Both bring the controls into the members first. No exception of that leaves them either.
+  // Both bring the controls into the members first. No exception of that leaves them either, and nobody is kept on the
+  // page without a word: a failure that has shown no box yet gets one here.
   bool OnKillActive() override;
   bool OnApply() override;
   bool OnHelpInfo(const HELPINFO& help) override;

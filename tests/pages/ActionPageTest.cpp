@@ -6,6 +6,7 @@
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
 #include "support/FileDialogSpy.h"
+#include "support/InvalidDataBox.h"
 #include "window/CActivationContext.h"
 
 namespace {
@@ -192,7 +193,7 @@ TEST_F(ActionPage, AnEmptyProgramOfAPageThatIsNotSeenIsLetPass) {
   EXPECT_TRUE(test_.Page().UpdateData(true));
 }
 
-TEST_F(ActionPage, TextsThatAreTooLongKeepTheUserWithoutABox) {
+TEST_F(ActionPage, TextsThatAreTooLongKeepTheUserAndAreTold) {
   const std::wstring program = k209 + L"q", parameters = k49 + L"y";
   for (const bool both : {false, true}) {
     PageUnderTest test(kActionPage);
@@ -202,6 +203,7 @@ TEST_F(ActionPage, TextsThatAreTooLongKeepTheUserWithoutABox) {
     ASSERT_TRUE(test.Open());
     EXPECT_EQ(parameters, test.Control(IDC_ACTION_PARAMETERS).Text()) << "shown whole";
     test.Control(IDC_ACTION_VIEWER).Click();
+    popups_.ExpectBox(InvalidDataBox(L""));
     EXPECT_FALSE(test.Page().OnKillActive());
     EXPECT_TRUE(test.Control(both ? IDC_ACTION_PROGRAM : IDC_ACTION_PARAMETERS).HasFocus());
     const auto& page = test.As<CActionPage>();

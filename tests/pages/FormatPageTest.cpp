@@ -14,6 +14,7 @@
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
 #include "support/FakeSheet.h"
+#include "support/InvalidDataBox.h"
 #include "ui/PropertyAccess.h"
 
 namespace {
@@ -317,6 +318,7 @@ TEST_F(FormatPage, WithoutASelectionSavingFails) {
     EXPECT_FALSE(page_->UpdateData(true));
     EXPECT_EQ(touched ? 13 : 99, page_->version);
     EXPECT_EQ(2, page_->saveFormat) << "the step behind the failed one is not done";
+    popups_.ExpectBox(InvalidDataBox(L"Title"));
     EXPECT_FALSE(page_->OnKillActive());
   }
 }

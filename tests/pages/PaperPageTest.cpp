@@ -8,6 +8,7 @@
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
 #include "support/ControlPictures.h"
+#include "support/InvalidDataBox.h"
 #include "support/PrintText.h"
 #include "support/RegistryValue.h"
 #include "support/WordHost.h"
@@ -175,7 +176,7 @@ class PaperPage : public testing::Test {
     country_.Set(L"49");
     NewPage();
   }
-  ~PaperPage() override { EXPECT_EQ(boxes_, MessageBoxCount()) << "the page never speaks"; }
+  ~PaperPage() override { EXPECT_EQ(boxes_, MessageBoxCount()) << "the page itself never speaks"; }
 
   void NewPage() {
     test_ = std::make_unique<PageUnderTest>(kPageId);
@@ -235,7 +236,7 @@ class PaperPage : public testing::Test {
   }
 
   RegistryValue country_{HKEY_CURRENT_USER, L"Control Panel\\International", L"iCountry"};
-  const unsigned boxes_ = MessageBoxCount();
+  unsigned boxes_ = MessageBoxCount();
   std::unique_ptr<PageUnderTest> test_;
 };
 
@@ -436,7 +437,10 @@ TEST_F(PaperPage, WithoutAnOrientationSavingFailsAndStoresNothingBehind) {
   EXPECT_EQ(1, Page().orientation);
   EXPECT_EQ(80, Page().scaleWidth);
   EXPECT_EQ(25, Page().border);
+  Popups popups;
+  popups.ExpectBox(InvalidDataBox(L""));
   EXPECT_FALSE(Page().OnKillActive());
+  ++boxes_;  // of its base
 }
 
 // --- Scaling -------------------------------------------------------------------------------------------------------

@@ -18,12 +18,13 @@ class Apply : public testing::Test {
   TestSheet test_;
 };
 
-TEST_F(Apply, PageThatRefusesToBeLeftKeepsTheSheetWithoutABoxOfTheSheet) {
+TEST_F(Apply, PageThatCannotBeLeftKeepsTheSheetAndIsToldOnce) {
   test_.Script(0, 120).onSave = [](TestPage& page) { return page.value != 13; };
   EXPECT_EQ(1, test_
                    .Drive([&](Sheet& sheet) -> SheetTask {
                      sheet.Control(kValueEdit).SetText(L"13");
                      test_.log.clear();
+                     sheet.ExpectBox(InvalidDataBox());
                      sheet.PressOk();
                      co_await sheet.Settled();
                      EXPECT_TRUE(sheet.IsOpen());

@@ -4,6 +4,7 @@
 #include <stdexcept>
 
 #include "driver/ImportPatch.h"
+#include "DriverLIB/MessageBoxes.h"
 #include "DriverLIB/NEMPrintMemoryException.h"
 #include "MessageIds.h"
 #include "resources/ResourceIds.h"
@@ -260,15 +261,57 @@ TEST_F(NemUIPage, EveryShowingButTheFirstFillsTheControls) {
   }
 }
 
-TEST_F(NemUIPage, LeavingSavesTheControlsAndMayFail) {
+TEST_F(NemUIPage, LeavingSavesTheControlsAndSaysSoWhenItFails) {
   TracedThread trace;
   BarePage page;
   ASSERT_TRUE(page.Create(parent_.Window()));
   EXPECT_TRUE(page.OnKillActive());
   EXPECT_EQ(Lines{}, trace.Lines());
   page.controls = [](CDataExchange& data) { data.Fail(0); };
+  Popups popups;
+  popups.ExpectBox(InvalidDataBox(L"Title"));
   EXPECT_FALSE(page.OnKillActive());
-  EXPECT_EQ((Lines{L"UpdateData failed during page deactivation", L""}), trace.Lines());
+  ASSERT_EQ(1u, popups.Boxes().size());
+  EXPECT_EQ(parent_.Window(), popups.Boxes().front().owner) << "of the page";
+  EXPECT_EQ(L"UpdateData failed during page deactivation", trace.Lines().front());
+}
+
+TEST_F(NemUIPage, OneFailureHasOneBox) {
+  BarePage page;
+  ASSERT_TRUE(page.Create(parent_.Window()));
+  Popups popups;
+  const auto expect = [&popups](const wchar_t* text) {
+    popups.ExpectBox({.title = L"Title", .text = text, .icon = MB_ICONERROR});
+  };
+  const auto steps = {&CNemUIPage::OnKillActive, &CNemUIPage::OnApply};
+  for (const auto step : steps) {
+    page.controls = [&page](CDataExchange& data) {
+      page.Tell(MSG_SAVING_INVALID_FILE, MB_OK | MB_ICONERROR);
+      data.Fail(0);
+    };
+    expect(L"The file name entered is invalid!");
+    EXPECT_FALSE((page.*step)());
+    page.controls = [](CDataExchange& data) {
+      CountAsMessageBox();
+      data.Fail(0);
+    };
+    EXPECT_FALSE((page.*step)()) << "a dialog has told it";
+    page.controls = [](CDataExchange&) { throw std::runtime_error("test"); };
+    popups.ExpectBox(InvalidDataBox(L"NEM pdf AddIn UI"));
+    EXPECT_FALSE((page.*step)());
+    popups.CheckAllCame();
+  }
+}
+
+// A page whose boxes cannot be made either.
+TEST_F(NemUIPage, NothingThatTheTellingThrowsLeavesTheTwoSteps) {
+  BarePage page;
+  ASSERT_TRUE(page.Create(parent_.Window()));
+  page.controls = [](CDataExchange& data) { data.Fail(0); };
+  PatchImport("user32.dll", "MessageBoxW", reinterpret_cast<void*>(&NoMemoryForTheBox));
+  EXPECT_FALSE(page.OnKillActive());
+  EXPECT_FALSE(page.OnApply());
+  RestoreImport("user32.dll", "MessageBoxW");
 }
 
 TEST_F(NemUIPage, ApplySavesTheControlsAndThenTheProperties) {

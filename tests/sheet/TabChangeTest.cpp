@@ -134,6 +134,7 @@ TEST_P(TabRefusal, PageThatRefusesKeepsItsTab) {
   test_.Drive([&](Sheet& sheet) -> SheetTask {
     sheet.Control(kValueEdit).SetText(L"13");
     test_.log.clear();
+    sheet.ExpectBox(InvalidDataBox());
     GetParam().go(sheet);
     co_await sheet.Settled();
     EXPECT_EQ(1, sheet.CurrentTab());

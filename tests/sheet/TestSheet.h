@@ -10,6 +10,7 @@
 #include "sheet/CNemUISettingsPage.h"
 #include "sheet/CNemUISheet.h"
 #include "support/FakeSheet.h"
+#include "support/InvalidDataBox.h"
 
 namespace sheet_test {
 
@@ -17,11 +18,9 @@ constexpr int kValueEdit = 1000;  // on each test page: the number that the page
 constexpr int kNotesEdit = 1001;  // an edit of several lines
 
 constexpr wchar_t kTitle[] = L"Host";  // of message boxes
-constexpr wchar_t kInvalidData[] = L"Invalid data was made.";
 
-inline ExpectedBox InvalidDataBox(const wchar_t* title = kTitle) {
-  return {.title = title, .text = kInvalidData, .icon = MB_ICONERROR};
-}
+using ::InvalidDataBox;
+inline ExpectedBox InvalidDataBox() { return InvalidDataBox(kTitle); }
 
 class TestPage;
 
