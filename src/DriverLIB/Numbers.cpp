@@ -62,6 +62,15 @@ double ParseDouble(NarrowView text) {
   return std::atof(number.c_str());
 }
 
+CUString FormatDouble(const wchar_t* format, double number) {
+  // The run-time library writes by the locale of the process, too: what stands between these two digits is its sign.
+  CUString sign, text;
+  sign.Format(L"%.1f", 0.5);
+  text.Format(format, number);
+  text.ReplaceStr(sign.Mid(1, sign.Length() - 2).Text(), L".");
+  return text;
+}
+
 double RoundDecimal(double value, int digits) {
   if (digits <= 0) return std::floor(value + 0.5);
   const double power = std::pow(10.0, digits);

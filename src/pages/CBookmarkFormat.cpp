@@ -5,6 +5,7 @@
 #include <iterator>
 
 #include "DriverLIB/MessageText.h"
+#include "DriverLIB/Numbers.h"
 #include "MessageIds.h"
 #include "pages/WordStyles.h"
 
@@ -84,10 +85,7 @@ CUString CBookmarkFormat::GetLevelText() const {
 }
 
 CUString CBookmarkFormat::GetSizeText() const {
-  CUString text;
-  text.Format(fontSize == std::floor(fontSize) ? L"%.0f" : L"%.1f", fontSize);
-  text.ReplaceStr(L",", L".");  // the run-time library writes by the locale of the process, which is the host's
-  return text;
+  return FormatDouble(fontSize == std::floor(fontSize) ? L"%.0f" : L"%.1f", fontSize);
 }
 
 CUString CBookmarkFormat::GetColourText() const {

@@ -1,6 +1,7 @@
 #include "window/NumberEdit.h"
 
 #include "DriverLIB/ControlNumbers.h"
+#include "DriverLIB/Numbers.h"
 
 double CorrectNumber(const CWnd& dialog, int id, const NumberRule& rule) {
   constexpr int kDecimalPlaces = 1;
@@ -13,8 +14,5 @@ double CorrectNumber(const CWnd& dialog, int id, const NumberRule& rule) {
 }
 
 void ShowNumber(const CWnd& dialog, int id, double number) {
-  CUString text;
-  text.Format(L"%g", number);
-  text.ReplaceStr(L",", L".");  // the run-time library writes by the locale of the process, which is the host's
-  dialog.Item(id).SetText(text.Text());
+  dialog.Item(id).SetText(FormatDouble(L"%g", number).Text());
 }

@@ -10,6 +10,7 @@
 #include "DriverLIB/CUString.h"
 #include "pages/CBookmarkFormat.h"
 #include "support/CommaLocale.h"
+#include "support/DecimalSignScope.h"
 
 namespace {
 
@@ -61,6 +62,21 @@ TEST(ParseDouble, TakesThePointForTheDecimalSignUnderEveryLocale) {
   format.fontSize = 10.5;
   EXPECT_STREQ(L"10.5", format.GetSizeText().Text());
 }
+
+#ifdef _WIN32
+TEST(FormatDouble, WritesAPointForEachDecimalSign) {
+  const DecimalSignScope slash('/');
+  CUString raw;
+  raw.Format(L"%.1f", 10.5);
+  ASSERT_STREQ(L"10/5", raw.Text()) << "the sign does not count here";
+  EXPECT_STREQ(L"10.5", FormatDouble(L"%g", 10.5).Text());
+  EXPECT_STREQ(L"10", FormatDouble(L"%.0f", 10).Text());
+  EXPECT_EQ(10.5, ParseDouble("10.5"));
+  CBookmarkFormat format;
+  format.fontSize = 10.5;
+  EXPECT_STREQ(L"10.5", format.GetSizeText().Text());
+}
+#endif
 
 }  // namespace
 
