@@ -20,7 +20,6 @@ namespace {
 constexpr int kMaxFile = MAX_PATH - 1;  // characters of the watermark's path
 
 // English in every language, on purpose.
-constexpr wchar_t kErrorTitle[] = L"Error";
 constexpr wchar_t kOnlyPdfText[] = L"Only pdf can be used as a stationery file!";
 
 constexpr int kStationeryControls[] = {IDC_STATIONERY_GROUP,  IDC_STATIONERY_USE,        IDC_STATIONERY_LIST,
@@ -46,7 +45,7 @@ MessageTable CWatermarkPage::Messages() const {
       OnClick<&CWatermarkPage::OnDisplayStationery>(IDC_STATIONERY_DISPLAY),
       OnClick<&CWatermarkPage::OnDeleteStationery>(IDC_STATIONERY_DELETE),
       OnNotify<&CWatermarkPage::OnStationeryDblClk>(IDC_STATIONERY_LIST, static_cast<UINT>(NM_DBLCLK)),
-      OnNotify<&CWatermarkPage::OnStationeryProperties>(IDC_STATIONERY_LIST, static_cast<UINT>(NM_RETURN)),
+      OnNotify<&CWatermarkPage::OnStationeryReturn>(IDC_STATIONERY_LIST, static_cast<UINT>(NM_RETURN)),
       OnNotify<&CWatermarkPage::OnStationeryKey>(IDC_STATIONERY_LIST, static_cast<UINT>(LVN_KEYDOWN)),
       OnMessage<&CWatermarkPage::StationeryApplied>(kEntryAppliedMessage),
       OnMessage<&CWatermarkPage::StationeryCancelled>(kEntryCancelledMessage),
@@ -222,7 +221,7 @@ void CWatermarkPage::DropStationery(const CUString& file) {
   if (IsPdf(file))
     AddStationery(file);
   else
-    Tell(kErrorTitle, CUString(kOnlyPdfText), 0);
+    Tell(kRefusedDropTitle, CUString(kOnlyPdfText), 0);
 }
 
 // --- Stationeries ---------------------------------------------------------------------------------------------------
@@ -234,6 +233,12 @@ std::shared_ptr<CStationeryFormat> CWatermarkPage::Stationery(int row) const {
 
 void CWatermarkPage::OnStationeryProperties() {
   if (const auto format = SelectedStationery()) ShowProperties(format);
+}
+
+// By keyboard there is no other way into a dialog that is open already.
+void CWatermarkPage::OnStationeryReturn() {
+  OnStationeryProperties();
+  if (dialog_.IsOpen()) dialog_->Activate();
 }
 
 void CWatermarkPage::OnStationeryDblClk(WindowMessage& message) {

@@ -53,6 +53,7 @@ class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public Stati
   void OnStationeryProperties();
   void OnDisplayStationery();
   void OnDeleteStationery();
+  void OnStationeryReturn();
   void OnStationeryDblClk(WindowMessage& message);
   void OnStationeryKey(WindowMessage& message);
   void OnDropFiles(WPARAM record, LPARAM);

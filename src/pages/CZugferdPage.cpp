@@ -5,7 +5,6 @@
 #include "environment/DroppedFiles.h"
 #include "environment/FileDialog.h"
 #include "environment/Shell.h"
-#include "MessageIds.h"
 #include "pages/DropTargets.h"
 #include "pages/FormatAccess.h"
 #include "pages/InvoiceFiles.h"
@@ -62,6 +61,8 @@ LRESULT CZugferdPage::ShowHelpForControl(WPARAM controlId, LPARAM argument) {
   if (controlId != IDC_ZUGFERD_HELP_LINK) return CTrackedPage::ShowHelpForControl(controlId, argument);
   CUString folder;
   GetProductInstallLocation(folder);
+  // Behind no folder the name alone would lead anywhere, to another computer at worst.
+  if (folder.Length() <= 1) return 1;
   OpenWithShell(Handle(), MarkedContentManual(folder).Text(), SW_SHOW, nullptr);
   return 1;
 }
@@ -139,7 +140,7 @@ void CZugferdPage::OnDropFiles(WPARAM record, LPARAM) {
   if (IsXmlFilename(dropped.paths[0]))
     TakeXmlFile(dropped.paths[0]);
   else
-    MsgBox(Handle(), MessageText(MSG_ERROR_TITLE).Text(), kInvalidXmlFile, MB_OK);
+    MsgBox(Handle(), kRefusedDropTitle, kInvalidXmlFile, MB_OK);
 }
 
 void CZugferdPage::UpdateControls() {

@@ -6,6 +6,10 @@
 
 #include "window/CWnd.h"
 
+// The title of the boxes that refuse a file of the wrong kind. English in every language, as their texts are: title and
+// text of a box are in one language.
+constexpr wchar_t kRefusedDropTitle[] = L"Error";
+
 // Whether a point of the page lies on one of its controls that are shown; they need not be enabled.
 inline bool IsOnControl(const CWnd& page, POINT point, std::initializer_list<int> controls) {
   return std::ranges::any_of(controls, [&](int id) {

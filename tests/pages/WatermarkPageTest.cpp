@@ -6,10 +6,13 @@
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
 #include "ShellSpy.h"
+#include "support/ControlPictures.h"
+#include "support/DropRecord.h"
 #include "support/FileDialogSpy.h"
 #include "support/FreedTextWatch.h"
 #include "support/FunctionPatch.h"
 #include "support/HelpSpy.h"
+#include "support/InvalidDataBox.h"
 #include "support/PrintText.h"
 
 namespace {
@@ -136,6 +139,9 @@ TEST_F(WatermarkPage, FilesOf260CharactersAreTakenAndRefused) {
   EXPECT_FALSE(test_.Page().UpdateData(true));
   EXPECT_EQ(260, test_.As<CWatermarkPage>().watermarkFilename.Length());
   EXPECT_EQ(0, test_.As<CWatermarkPage>().stationeryEnabled) << "the rest is taken all the same";
+  popups_.ExpectBox(InvalidDataBox(L"Title"));
+  EXPECT_FALSE(test_.Page().OnKillActive());
+  EXPECT_TRUE(Control(1062).HasFocus());
 }
 
 TEST_F(WatermarkPage, WatermarkControlsFollowTheirSwitch) {
@@ -162,6 +168,7 @@ TEST_F(WatermarkPage, PictureStandsInItsControl) {
   auto* picture = dynamic_cast<CImageStatic*>(CSubclassedControl::FromHandle(Control(1138).Window()));
   ASSERT_TRUE(picture);
   EXPECT_TRUE(picture->IsLoaded());
+  ExpectPictures(test_.Page(), {{1138, Pictures::kWatermark}});
 }
 
 TEST_F(WatermarkPage, PickersAskForTheirKindOfFile) {
@@ -391,6 +398,13 @@ TEST_F(WatermarkPage, DisplayOpensTheFileOfTheSelection) {
   List().SetSelectionMark(-1);
   Control(1069).Click();
   EXPECT_EQ(1u, shellCalls.size());
+}
+
+TEST_F(WatermarkPage, TheRefusalOfADropIsEnglishInEachLanguage) {
+  ASSERT_TRUE(test_.Open());
+  const LanguageScope german(0x0407);
+  popups_.ExpectBox({.title = L"Error", .text = L"Only pdf can be used as a stationery file!", .icon = 0});
+  DropOn(test_.Page().Handle(), 1291, {L"a.txt"});
 }
 
 TEST_F(WatermarkPage, TheVariantForTiffHasNoStationery) {

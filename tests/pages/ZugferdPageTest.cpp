@@ -491,7 +491,7 @@ TEST_F(ZugferdPage, ADroppedFileOfAnotherKindIsRefused) {
 TEST_F(ZugferdPage, TheRefusalIsEnglishInEachLanguage) {
   Open(1, 0);
   const LanguageScope german(0x0407);
-  popups_.ExpectBox({.title = L"Fehler", .text = L"Invalid ZuFGERD xml filename!", .icon = 0});
+  popups_.ExpectBox({.title = L"Error", .text = L"Invalid ZuFGERD xml filename!", .icon = 0});
   Drop(IDC_ZUGFERD_XML_FILE, {L"a.txt"});
 }
 
@@ -510,16 +510,38 @@ TEST_F(ZugferdPage, OtherDropsCountForNothing) {
 
 // --- The link ------------------------------------------------------------------------------------------------------
 
+namespace {
+
+constexpr wchar_t kUpgradeKey[] =
+    L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Installer\\UpgradeCodes\\00112233445566778899AABBCCDDEEFF";
+constexpr wchar_t kInstallKey[] =
+    L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Installer\\UserData\\S-1-5-18\\Products\\"
+    L"FFEEDDCCBBAA99887766554433221100";
+
+void RecordProduct() {
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, kUpgradeKey, L"FFEEDDCCBBAA99887766554433221100", REG_SZ, L"", 2);
+}
+
+}  // namespace
+
+TEST_F(ZugferdPage, WithoutARecordedFolderTheLinkDoesNothing) {
+  const RegistryTree upgrade(HKEY_LOCAL_MACHINE, kUpgradeKey), product(HKEY_LOCAL_MACHINE, kInstallKey);
+  Open(0, 1);
+  const HelpSpy help;
+  shellCalls.clear();
+  for (const bool recorded : {false, true}) {
+    if (recorded) RecordProduct();
+    test.Control(IDC_ZUGFERD_HELP_LINK).Click();
+    EXPECT_EQ(0u, help.calls.size());
+    EXPECT_EQ(0u, shellCalls.size()) << recorded;
+  }
+}
+
 TEST_F(ZugferdPage, TheLinkOpensTheManualInPlaceOfTheHelp) {
-  const wchar_t* upgradeKey =
-      L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Installer\\UpgradeCodes\\00112233445566778899AABBCCDDEEFF";
-  const wchar_t* productKey =
-      L"SOFTWARE\\Microsoft\\Windows\\CurrentVersion\\Installer\\UserData\\S-1-5-18\\Products\\"
-      L"FFEEDDCCBBAA99887766554433221100";
-  const RegistryTree upgrade(HKEY_LOCAL_MACHINE, upgradeKey), product(HKEY_LOCAL_MACHINE, productKey);
-  RegSetKeyValueW(HKEY_LOCAL_MACHINE, upgradeKey, L"FFEEDDCCBBAA99887766554433221100", REG_SZ, L"", 2);
+  const RegistryTree upgrade(HKEY_LOCAL_MACHINE, kUpgradeKey), product(HKEY_LOCAL_MACHINE, kInstallKey);
+  RecordProduct();
   const std::wstring folder = L"C:\\Program Files\\NEM";
-  RegSetKeyValueW(HKEY_LOCAL_MACHINE, (std::wstring(productKey) + L"\\InstallProperties").c_str(), L"InstallLocation",
+  RegSetKeyValueW(HKEY_LOCAL_MACHINE, (std::wstring(kInstallKey) + L"\\InstallProperties").c_str(), L"InstallLocation",
                   REG_SZ, folder.c_str(), static_cast<DWORD>((folder.size() + 1) * sizeof(wchar_t)));
   Open(0, 1);
   const HelpSpy help;
