@@ -499,6 +499,18 @@ TEST(GraphicPageTemplate, CombosWithANumberHaveAnEdit) {
   for (const DWORD id : {1020, 1107}) EXPECT_EQ(FindControl(dialog, id)->style & 3, DWORD{CBS_DROPDOWNLIST}) << id;
 }
 
+// What no row offers can be typed into one of these only, and the fonts stand in the order of the alphabet.
+TEST(CombosOfThePages, AreListsBesideTheSizeOfAFont) {
+  const auto styleOf = [](WORD dialog, DWORD id) { return FindControl(ReadDialog(dialog, kEnglish), id)->style; };
+  const std::pair<WORD, DWORD> lists[] = {{145, 1038}, {145, 1469}, {145, 1030}, {190, 1239},
+                                          {190, 1240}, {342, 5011}, {195, 1321}, {195, 1307}};
+  for (const auto& [dialog, id] : lists) {
+    EXPECT_EQ(styleOf(dialog, id) & 3, DWORD{CBS_DROPDOWNLIST}) << id;
+    EXPECT_EQ((styleOf(dialog, id) & CBS_SORT) != 0, id == 1307) << id;
+  }
+  EXPECT_EQ(styleOf(195, 1308) & (3 | CBS_SORT), DWORD{CBS_DROPDOWN});
+}
+
 // Without a group of their own, the arrow keys would lead from a radio into the settings below it.
 TEST(GraphicPageTemplate, TheRadiosAreAGroupOfTheirOwn) {
   const std::vector<Control> controls = ReadDialog(IDD_GRAPHIC_PAGE, kEnglish).controls;

@@ -702,10 +702,24 @@ TEST(MessageTable, FiltersHaveTheirPatternsInEachLanguage) {
     for (size_t i = 0; i < parts.size(); i += 2) parts[i] = parts[i].empty() ? L"" : L"name";
     return parts;
   };
-  for (const uint32_t id : {0x4001F0C4u, 0x4001F0C5u, 0x4001F082u, 0xC00002FBu}) {
+  for (const uint32_t id : {0x4001F043u, 0x4001F382u, 0x4001F0C4u, 0x4001F0C5u, 0x4001F082u, 0xC00002FBu}) {
     const std::wstring english = Text(MessageTable(kEnglish), id);
     ASSERT_NE(english.find(L'|'), std::wstring::npos) << std::hex << id;
     for (const WORD language : kTranslations)
       EXPECT_EQ(patterns(Text(MessageTable(language), id)), patterns(english)) << language << std::hex << " " << id;
+  }
+}
+
+// The user can only apply a name that the check of names lets pass.
+TEST(MessageTable, NamesOfBookmarkFormatsAreGoodNamesInEachLanguage) {
+  for (const WORD language : kTranslations) {
+    std::set<std::wstring> names;
+    for (const uint32_t id : {MSG_BOOKMARK_NEW_NAME, 0xC00117D8u, 0xC00117D9u, 0xC00117DAu}) {
+      const std::wstring name = Format(id, language);
+      EXPECT_FALSE(name.empty()) << language << std::hex << " " << id;
+      EXPECT_EQ(std::wstring::npos, name.find_first_of(L",;.:{}()\"")) << language << std::hex << " " << id;
+      names.insert(name);
+    }
+    EXPECT_EQ(4u, names.size()) << language;
   }
 }

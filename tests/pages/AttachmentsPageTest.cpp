@@ -8,6 +8,7 @@
 #include "pages/CNemUILinksPage.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
+#include "support/ControlPictures.h"
 #include "support/DropRecord.h"
 #include "support/FileDialogSpy.h"
 #include "support/TempFile.h"
@@ -104,6 +105,18 @@ TEST_F(AttachmentsPage, RowsShowThePathsAndMarkWhatIsMissing) {
   }
   EXPECT_TRUE(ListBox().HasImages());
   EXPECT_TRUE(Page().anyMissing);
+}
+
+TEST_F(AttachmentsPage, FoundAndMissingFilesHaveTheirPicturesSelectedOrNot) {
+  constexpr ListPicture kPictures[] = {{502, 504}, {505, 507}, {503, 504}, {506, 507}};
+  Open(Quoted(path1_) + L";" + Quoted(kMissing));
+  for (const int row : {0, 1}) {
+    SendMessageW(List().Window(), LB_SETSEL, FALSE, -1);
+    SelectRow(row);
+    const std::vector<uint32_t> before = Print(ListBox());
+    ASSERT_TRUE(ListBox().SetImages(kPictures, SecondHalf::Selected));
+    EXPECT_TRUE(Print(ListBox()) == before) << row;
+  }
 }
 
 // A drive without a disk would bring up a box of the system.
@@ -399,9 +412,10 @@ TEST_F(AttachmentsPage, FilesAreAcceptedFromTheStart) {
 }
 
 TEST_F(AttachmentsPage, DroppedFilesAreAddedInOrder) {
-  for (const int target : {IDC_ATTACHMENTS_LIST, IDC_ATTACHMENTS_GROUP}) {
+  for (const auto& [target, enabled] :
+       {std::pair{IDC_ATTACHMENTS_LIST, 1}, {IDC_ATTACHMENTS_GROUP, 1}, {IDC_ATTACHMENTS_LIST, 0}}) {
     PageUnderTest page(kAttachmentsPage);
-    page.Set(L"EmbedFilenamesEnabled", 1);
+    page.Set(L"EmbedFilenamesEnabled", enabled);
     ASSERT_TRUE(page.Open());
     DropOn(page.Page().Handle(), target, {path2_, L"C:\\b.pdf", path1_});
     EXPECT_EQ((Texts{path2_, L"C:\\b.pdf", path1_}), page.Control(IDC_ATTACHMENTS_LIST).Rows());

@@ -10,13 +10,18 @@
 #include "driver/DialogAudit.h"
 #include "driver/SheetDriver.h"
 #include "pages/CBookmarkPage.h"
+#include "Pictures.h"
 #include "resources/ResourceIds.h"
 #include "sheet/CNemUISheet.h"
+#include "support/Accessible.h"
 #include "support/FakeSheet.h"
+#include "support/IconPixels.h"
+#include "support/InvalidDataBox.h"
 #include "support/PostedMessages.h"
 #include "support/PrintText.h"
 #include "support/WordHost.h"
 #include "ui/PageCatalogue.h"
+#include "window/AlphaImage.h"
 
 namespace {
 
@@ -201,8 +206,12 @@ TEST_F(BookmarkSheet, StyleButtonsShowTheirPictures) {
     const LanguageScope scope(language);
     Run([&](Sheet& sheet) -> SheetTask {
       co_await Edit(sheet);
-      for (const int id : {kBold, kItalic, kUnderline}) {
-        EXPECT_NE(0, SendMessageW(Item(id).Window(), BM_GETIMAGE, IMAGE_ICON, 0)) << id;
+      for (const auto& [id, picture] :
+           {std::pair{kBold, Pictures::kBold}, {kItalic, Pictures::kItalic}, {kUnderline, Pictures::kUnderline}}) {
+        const auto icon = reinterpret_cast<HICON>(SendMessageW(Item(id).Window(), BM_GETIMAGE, IMAGE_ICON, 0));
+        AlphaImage image;
+        EXPECT_TRUE(image.Load(static_cast<UINT>(picture.bitmap), static_cast<UINT>(picture.mask), 96));
+        EXPECT_TRUE(IconPixels(image.MakeIcon(image.Width(), image.Height()).Get()) == IconPixels(icon)) << id;
         EXPECT_FALSE(CWnd(Item(id).Window()).IsMirrored()) << "letters are not turned round";
       }
     });
@@ -233,26 +242,48 @@ TEST_F(BookmarkSheet, SizesAndFontsAreFoundByTheirBeginning) {
 // --- Changes -------------------------------------------------------------------------------------------------------
 
 TEST_F(BookmarkSheet, EachChangeLocksTheSheetShowsAndOpensApply) {
+  struct Look {
+    std::wstring face = L"Courier New";
+    double size = 10.5;
+    bool bold = false, italic = true;
+    bool operator==(const Look&) const = default;
+  };
   struct Change {
     const char* what;
     std::function<void()> make;
     std::wstring description, applied;
+    Look preview = {};
   };
   const std::wstring before = L"Courier New, 10.5pt, Italic, Blue";
   const Change changes[] = {
       {"name", [&] { Item(kName).SetText(L"New name"); }, before,
        L"New name|User Def.|Courier New, 10.5, Italic, Blue|4"},
       {"level", [&] { Item(kLevel).Select(L"9"); }, before, L"own|User Def.|Courier New, 10.5, Italic, Blue|9"},
-      {"font", [&] { Item(kFont).Select(L"Zeta"); }, L"Zeta, 10.5pt, Italic, Blue",
-       L"own|User Def.|Zeta, 10.5, Italic, Blue|4"},
-      {"size of a row", [&] { Item(kSize).Select(L"24"); }, L"Courier New, 24pt, Italic, Blue",
-       L"own|User Def.|Courier New, 24, Italic, Blue|4"},
-      {"size", [&] { Item(kSize).SetText(L"12,5"); }, L"Courier New, 12.5pt, Italic, Blue",
-       L"own|User Def.|Courier New, 12.5, Italic, Blue|4"},
-      {"bold", [&] { Item(kBold).Click(); }, L"Courier New, 10.5pt, Bold, Italic, Blue",
-       L"own|User Def.|Courier New, 10.5, Bold, Italic, Blue|4"},
-      {"italic", [&] { Item(kItalic).Click(); }, L"Courier New, 10.5pt, Blue",
-       L"own|User Def.|Courier New, 10.5, Blue|4"},
+      {"font",
+       [&] { Item(kFont).Select(L"Zeta"); },
+       L"Zeta, 10.5pt, Italic, Blue",
+       L"own|User Def.|Zeta, 10.5, Italic, Blue|4",
+       {.face = L"Zeta"}},
+      {"size of a row",
+       [&] { Item(kSize).Select(L"24"); },
+       L"Courier New, 24pt, Italic, Blue",
+       L"own|User Def.|Courier New, 24, Italic, Blue|4",
+       {.size = 24}},
+      {"size",
+       [&] { Item(kSize).SetText(L"12,5"); },
+       L"Courier New, 12.5pt, Italic, Blue",
+       L"own|User Def.|Courier New, 12.5, Italic, Blue|4",
+       {.size = 12.5}},
+      {"bold",
+       [&] { Item(kBold).Click(); },
+       L"Courier New, 10.5pt, Bold, Italic, Blue",
+       L"own|User Def.|Courier New, 10.5, Bold, Italic, Blue|4",
+       {.bold = true}},
+      {"italic",
+       [&] { Item(kItalic).Click(); },
+       L"Courier New, 10.5pt, Blue",
+       L"own|User Def.|Courier New, 10.5, Blue|4",
+       {.italic = false}},
   };
   for (const Change& change : changes)
     Run([&](Sheet& sheet) -> SheetTask {
@@ -262,6 +293,8 @@ TEST_F(BookmarkSheet, EachChangeLocksTheSheetShowsAndOpensApply) {
       PostedMessages::current->Take();
       change.make();
       EXPECT_EQ(change.description, Description());
+      const CFontPreview& shown = Preview();
+      EXPECT_TRUE((change.preview == Look{shown.faceName.Text(), shown.pointSize, shown.bold, shown.italic}));
       EXPECT_TRUE(Item(kApply).IsEnabled());
       co_await sheet.Settled();
       EXPECT_TRUE(IsLocked(sheet));
@@ -293,6 +326,23 @@ TEST_F(BookmarkSheet, ColoursAreChosenFromThePalette) {
     EXPECT_EQ(picker.GetColour(), Preview().colour);
     co_await PressInDialog(sheet, kOkButton);
     EXPECT_EQ(std::wstring::npos, Row(sheet, 3).find(L"Blue|"));
+  });
+}
+
+TEST_F(BookmarkSheet, ThePickerOffersToUseNoColourAndMoreColours) {
+  const ComScope com;
+  Run([&](Sheet& sheet) -> SheetTask {
+    co_await Edit(sheet, 4);
+    EXPECT_EQ(L"do not use", Accessible(Item(kColour).Window()).Value(0));
+    Item(kColour).Click();
+    const auto popup = dynamic_cast<CColourPicker&>(*CSubclassedControl::FromHandle(Item(kColour).Window())).Popup();
+    CO_ASSERT_TRUE(popup);
+    {
+      const Accessible cells(popup->Handle());
+      EXPECT_EQ(L"do not use", cells.Name(1));
+      EXPECT_EQ(L"More Colors...", cells.Name(cells.Count()));
+    }
+    popup->End(ColourSelEndCancel);
   });
 }
 
@@ -360,9 +410,12 @@ TEST_F(BookmarkSheet, OkWithoutAChangeIsACancel) {
 }
 
 TEST_F(BookmarkSheet, EnterEscAndTheCloseBoxAreOkAndCancel) {
-  for (const int way : {0, 1, 2})
+  const auto close = [&](bool isNew, int way) {
     Run([&](Sheet& sheet) -> SheetTask {
-      co_await Edit(sheet);
+      if (isNew)
+        co_await New(sheet);
+      else
+        co_await Edit(sheet);
       Item(kName).SetText(L"Other");
       co_await sheet.Settled();
       if (way == 2)
@@ -372,8 +425,16 @@ TEST_F(BookmarkSheet, EnterEscAndTheCloseBoxAreOkAndCancel) {
       co_await sheet.Settled();
       EXPECT_FALSE(IsWindow(dialog_));
       EXPECT_TRUE(sheet.IsOpen());
-      EXPECT_EQ(way == 0 ? L"Other" : L"own", std::wstring(List(sheet).CellText(3, 1).Text()));
+      const Names rows = way     ? Names{L"own", L"plain"}
+                         : isNew ? Names{L"own", L"plain", L"Other"}
+                                 : Names{L"Other", L"plain"};
+      Names found;
+      for (int row = 3; row < List(sheet).Count(); ++row) found.emplace_back(List(sheet).CellText(row, 1).Text());
+      EXPECT_EQ(rows, found) << isNew << way;
     });
+  };
+  for (const bool isNew : {false, true})
+    for (const int way : {0, 1, 2}) close(isNew, way);
 }
 
 TEST_F(BookmarkSheet, TabReachesAllAndChangesNothing) {
@@ -462,6 +523,22 @@ TEST_F(BookmarkSheet, BadNamesAreRefused) {
       co_await PressInDialog(sheet, button);
       EXPECT_EQ(L"Heading 1|Heading 2|Heading 3|Plain|plain", RowNames(sheet));
     });
+}
+
+// A host may store a name twice. The lower one can be changed under a name of its own only.
+TEST_F(BookmarkSheet, OfTwoEqualNamesTheUpperStays) {
+  formats_ = L"{STYLE:a;1;{FONT:Arial;8}};{STYLE:a;2;{FONT:Arial;9}};";
+  Run([&](Sheet& sheet) -> SheetTask {
+    co_await Edit(sheet, 3);
+    Item(kBold).Click();
+    co_await PressInDialog(sheet, kOkButton);
+    EXPECT_EQ(L"a|User Def.|Arial, 8, Bold, No Color|1", Row(sheet, 3));
+    co_await Edit(sheet, 4);
+    Item(kBold).Click();
+    ExpectComplaint(sheet, Taken(L"a"));
+    co_await PressInDialog(sheet, kOkButton);
+    EXPECT_TRUE(IsOpen());
+  });
 }
 
 TEST_F(BookmarkSheet, TwoFormatsMayNotLookAlike) {
@@ -588,6 +665,7 @@ TEST_F(BookmarkSheet, AnOpenDialogGoesOverToANewFormat) {
     co_await sheet.Settled();
     EXPECT_TRUE(IsOpen());
     EXPECT_EQ(L"Style 1", Item(kName).Text());
+    EXPECT_EQ(L"Style 1|User Def.|Times New Roman, 10, Black|1", Row(sheet, 5)) << "no copy of the selected one";
     EXPECT_TRUE(IsLocked(sheet));
     EXPECT_EQ(dialog_, GetActiveWindow());
     co_await PressInDialog(sheet, kCancel);
@@ -648,6 +726,24 @@ TEST_F(BookmarkSheet, DialogFollowsTheSelection) {
     Item(kName).SetText(L"One");
     co_await PressInDialog(sheet, kOkButton);
     EXPECT_EQ(L"One|Heading 2|Heading 3|own|plain", RowNames(sheet));
+  });
+}
+
+TEST_F(BookmarkSheet, TheRowBehindANewFormatIsNotNew) {
+  Run([&](Sheet& sheet) -> SheetTask {
+    const PostedMessages posted;
+    co_await New(sheet);
+    List(sheet).SelectRow(3);
+    co_await sheet.Settled();
+    EXPECT_EQ(L"own", Item(kName).Text());
+    EXPECT_FALSE(Item(kApply).IsEnabled());
+    EXPECT_FALSE(IsLocked(sheet));
+    PostedMessages::current->Take();
+    co_await PressInDialog(sheet, kCancel);
+    const Posted taken = PostedMessages::current->Take();
+    CO_ASSERT_FALSE(taken.empty());
+    EXPECT_EQ((Posted::value_type{kCancelled, 0}), taken.front());
+    EXPECT_EQ(L"Heading 1|Heading 2|Heading 3|own|plain|Style 1", RowNames(sheet));
   });
 }
 
@@ -777,6 +873,7 @@ TEST_F(BookmarkSheet, UnderWordTheLevelAloneIsChanged) {
     for (const int id : {kName, kFont, kSize, kColour, kBold, kItalic, kUnderline}) EXPECT_FALSE(Item(id).IsEnabled());
     EXPECT_TRUE(Item(kLevel).IsEnabled());
     EXPECT_TRUE(Item(kUnderline).IsChecked());
+    EXPECT_TRUE(Preview().underline);
     Item(kLevel).Select(L"6");
     co_await PressInDialog(sheet, kOkButton);
     EXPECT_FALSE(IsWindow(dialog_)) << "nobody asks for names or for formats that look alike";
@@ -823,6 +920,7 @@ TEST_F(BookmarkSheet, ADialogWithChangesKeepsThePage) {
         Item(kBold).Click();
         co_await sheet.Settled();
       }
+      sheet.ExpectBox(InvalidDataBox(L"Title"));
       EXPECT_FALSE(sheet.SelectPage(kGraphic));
       co_await sheet.Settled();
       EXPECT_TRUE(IsOpen());

@@ -75,6 +75,23 @@ class BookmarkPage : public testing::Test {
     ASSERT_NO_FATAL_FAILURE(StartTyping(name));
     List().Edit()->Send(WM_KEYDOWN, VK_RETURN, 1);
   }
+  void ExpectQuestion(int answer) {
+    popups_.ExpectBox({.title = L"Title",
+                       .text = L"Do you really want to remove all user-defined bookmark formats?",
+                       .icon = MB_ICONQUESTION,
+                       .button = answer});
+    if (answer == IDYES)
+      popups_.ExpectBox(
+          {.title = L"Title",
+           .text = L"All user-defined styles were deleted. The standard-styles were deactivated but not deleted.",
+           .icon = MB_ICONINFORMATION});
+  }
+  void ExpectTaken(const std::wstring& name) {
+    popups_.ExpectBox({.title = L"Title",
+                       .text = L"The name '" + name +
+                               L"' is already used for another bookmark format. Please choose a unambiguous name.",
+                       .icon = MB_ICONERROR});
+  }
   void Command(int id) {
     test_.Page().Send(WM_COMMAND, static_cast<WPARAM>(id), reinterpret_cast<LPARAM>(Control(id).Window()));
   }
@@ -102,7 +119,7 @@ TEST_F(BookmarkPage, AFreshPageShowsTheHeadings) {
       L"You can adjust the standard formats by pressing 'Edit'. Please press 'New' or 'Copy' to create a user defined "
       L"format.",
       List().Hint()->NoteText().Text());
-  EXPECT_EQ(0, List().Send(LVM_GETHEADER) == 0);
+  EXPECT_NE(0, List().Send(LVM_GETHEADER));
   EXPECT_EQ(5, List().ColumnCount());
 }
 
@@ -230,6 +247,10 @@ TEST_F(BookmarkPage, SelectAllIsHiddenAndKeepsItsCommand) {
   ASSERT_TRUE(test_.Open());
   EXPECT_FALSE(CWnd(Control(1329).Window()).IsShown());
   EXPECT_FALSE(Control(1329).IsChecked());
+  for (const bool use : {false, true}) {
+    Control(1285).Click();
+    EXPECT_EQ(use, Control(1329).IsEnabled());
+  }
   for (const bool all : {true, false}) {
     CButton(Control(1329).Window()).SetCheck(all);
     Command(1329);
@@ -252,6 +273,7 @@ TEST_F(BookmarkPage, ButtonAndKeyRemoveTheUsersFormats) {
   Control(1290).Select(3);
   Control(1305).Click();
   EXPECT_EQ(L"Heading 1,Heading 2,Heading 3,plain", Names());
+  EXPECT_TRUE(Control(1306).IsEnabled());
   EXPECT_EQ(3, List().SelectionMark());
   EXPECT_TRUE(List().RowState(3, LVIS_SELECTED));
   List().Focus();
@@ -273,15 +295,7 @@ TEST_F(BookmarkPage, RemovingAllAsksAndLeavesUnusedStandards) {
     test.Set(L"OutlineStyles", L"own;4;heading 2;2");
     test.Sheet().properties.MsgBoxTitle.SetString(L"Title");
     ASSERT_TRUE(test.Open());
-    popups_.ExpectBox({.title = L"Title",
-                       .text = L"Do you really want to remove all user-defined bookmark formats?",
-                       .icon = MB_ICONQUESTION,
-                       .button = answer});
-    if (answer == IDYES)
-      popups_.ExpectBox(
-          {.title = L"Title",
-           .text = L"All user-defined styles were deleted. The standard-styles were deactivated but not deleted.",
-           .icon = MB_ICONINFORMATION});
+    ExpectQuestion(answer);
     test.Control(1290).Select(3);
     test.Control(1306).Click();
     EXPECT_EQ(answer == IDYES ? 3 : 5, test.Control(1290).RowCount());
@@ -292,6 +306,17 @@ TEST_F(BookmarkPage, RemovingAllAsksAndLeavesUnusedStandards) {
     EXPECT_EQ(answer == IDYES ? L"" : L"heading 2;2;own;4", test.Value(L"OutlineStyles"));
   }
   EXPECT_EQ((std::vector<int>{IDYES, IDNO}), popups_.Boxes()[0].buttons);
+}
+
+TEST_F(BookmarkPage, RemovingAllLeavesTheSelectionOfARowThatStays) {
+  test_.Set(L"OutlineFormats", kOwn);
+  ASSERT_TRUE(test_.Open());
+  Control(1290).Select(1);
+  ExpectQuestion(IDYES);
+  Control(1306).Click();
+  EXPECT_EQ(3, List().Count());
+  EXPECT_EQ(1, List().SelectionMark());
+  EXPECT_TRUE(Control(1311).IsEnabled());
 }
 
 // The user closes the whole sheet, as it were, while the question is up.
@@ -347,10 +372,7 @@ TEST_F(BookmarkPage, TakenNamesAreRefused) {
   ASSERT_TRUE(test_.Open());
   Control(1290).Select(3);
   for (const std::wstring name : {L"plain", L"Heading 1", L"heading 1"}) {  // display names and styles
-    popups_.ExpectBox({.title = L"Title",
-                       .text = L"The name '" + name +
-                               L"' is already used for another bookmark format. Please choose a unambiguous name.",
-                       .icon = MB_ICONERROR});
+    ExpectTaken(name);
     TypeName(name.c_str());
     ASSERT_NE(nullptr, List().Edit());
     List().Edit()->Send(WM_KEYDOWN, VK_ESCAPE, 1);
@@ -358,6 +380,36 @@ TEST_F(BookmarkPage, TakenNamesAreRefused) {
   TypeName(L"own");
   TypeName(L"Plain");
   EXPECT_EQ(L"Heading 1,Heading 2,Heading 3,Plain,plain", Names()) << "case counts, and one's own name is free";
+}
+
+TEST_F(BookmarkPage, OfTwoEqualNamesTheUpperStays) {
+  test_.Set(L"OutlineFormats", L"{STYLE:a;1;{FONT:Arial;8}};{STYLE:a;2;{FONT:Arial;9}};");
+  ASSERT_TRUE(test_.Open());
+  Control(1290).Select(3);
+  TypeName(L" a ");
+  EXPECT_EQ(nullptr, List().Edit());
+  Control(1290).Select(4);
+  ExpectTaken(L"a");
+  TypeName(L" a ");
+  ASSERT_NE(nullptr, List().Edit());
+  List().Edit()->Send(WM_KEYDOWN, VK_ESCAPE, 1);
+}
+
+// The user is back in the edit, and nothing else has happened.
+TEST_F(BookmarkPage, ARefusedNameComesBeforeEveryCommand) {
+  test_.Set(L"OutlineFormats", kOwn);
+  ASSERT_TRUE(test_.Open());
+  Control(1290).Select(3);
+  for (const int id : {1310, 1312, 1311, 1305, 1306}) {
+    ASSERT_NO_FATAL_FAILURE(StartTyping(L"plain"));
+    ExpectTaken(L"plain");
+    Command(id);
+    popups_.CheckAllCame();
+    ASSERT_NE(nullptr, List().Edit()) << id;
+    EXPECT_EQ(5, List().Count()) << id;
+    EXPECT_TRUE(Control(1311).IsEnabled()) << "no dialog by " << id;
+    List().Edit()->Send(WM_KEYDOWN, VK_ESCAPE, 1);
+  }
 }
 
 TEST_F(BookmarkPage, SavingTakesAnOpenEditAlong) {
@@ -385,10 +437,7 @@ TEST_F(BookmarkPage, ARefusedNameThatHasLostTheFocusIsToldOfBeforeSaving) {
   Control(1310).Focus();
   EXPECT_TRUE(popups_.Boxes().empty()) << "no box while the focus is on its way";
   EXPECT_EQ(nullptr, List().Edit());
-  popups_.ExpectBox({.title = L"Title",
-                     .text = L"The name 'plain' is already used for another bookmark format. Please choose a "
-                             L"unambiguous name.",
-                     .icon = MB_ICONERROR});
+  ExpectTaken(L"plain");
   EXPECT_FALSE(test_.Page().OnKillActive());
   ASSERT_NE(nullptr, List().Edit());
   List().Edit()->Send(WM_KEYDOWN, VK_ESCAPE, 1);
@@ -480,6 +529,7 @@ TEST_F(BookmarkPage, UnderWordAnEmptyListSaysWhy) {
   ASSERT_NE(nullptr, List().Hint());
   EXPECT_STREQ(L"No styles could be read from the document. Perhaps the document protection type is too high.",
                List().Hint()->NoteText().Text());
+  EXPECT_FALSE(Control(1329).IsEnabled());
   Control(1285).Click();
   EXPECT_EQ(nullptr, List().Hint());
 }

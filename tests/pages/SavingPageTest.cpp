@@ -5,6 +5,7 @@
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
 #include "support/FileDialogSpy.h"
+#include "support/InvalidDataBox.h"
 #include "support/WordHost.h"
 #include "window/CActivationContext.h"
 
@@ -174,6 +175,18 @@ TEST_F(SavingPage, EveryChoiceOfBothIsOpenedAndSaved) {
   }
 }
 
+TEST_F(SavingPage, EachOfTheTwoListsOpensItsField) {
+  ASSERT_TRUE(test_.Open());
+  Control(IDC_SAVING_TYPE).Select(2);
+  EXPECT_EQ(EnabledTargets(true, false), EnabledTargets(test_));
+  Control(IDC_SAVING_TYPE).Select(0);
+  EXPECT_EQ(EnabledTargets(false, false), EnabledTargets(test_));
+  Control(IDC_SAVING_LOCATION).Select(4);
+  EXPECT_EQ(EnabledTargets(false, true), EnabledTargets(test_));
+  Control(IDC_SAVING_LOCATION).Select(0);
+  EXPECT_EQ(EnabledTargets(false, false), EnabledTargets(test_));
+}
+
 TEST_F(SavingPage, ListsWithoutASelectionFailTheSaveWhichGoesOn) {
   for (const auto& [list, saved] : {std::pair{IDC_SAVING_TYPE, 0x148}, {IDC_SAVING_LOCATION, 0x98}}) {
     PageUnderTest test(kSavingPage);
@@ -293,7 +306,7 @@ TEST_F(SavingPage, ARefusalTakesNothingOver) {
   EXPECT_FALSE(test_.Page().OnApply()) << "one box for one failure";
 }
 
-TEST_F(SavingPage, TextsThatAreTooLongKeepTheUserWithoutABox) {
+TEST_F(SavingPage, TextsThatAreTooLongKeepTheUserAndAreTold) {
   struct {
     int control;
     size_t limit;
@@ -310,13 +323,14 @@ TEST_F(SavingPage, TextsThatAreTooLongKeepTheUserWithoutABox) {
     EXPECT_TRUE(test_.Page().OnKillActive());
     SetTextOf(text.control, std::wstring(text.limit + 1, L'y'));
     Control(IDC_SAVING_FILE_EXISTS).Select(4);
+    popups_.ExpectBox(InvalidDataBox(L"Title"));
     EXPECT_FALSE(test_.Page().OnKillActive());
     EXPECT_EQ(std::wstring(text.limit, L'y'), (test_.As<CProgramPage>().*text.member).Text());
     EXPECT_EQ(5, test_.As<CProgramPage>().fileExistsAction) << "the exchange goes on";
     SetTextOf(text.control, before);
     Control(IDC_SAVING_FILE_EXISTS).Select(0);
   }
-  EXPECT_TRUE(popups_.Boxes().empty());
+  EXPECT_EQ(3u, popups_.Boxes().size());
 }
 
 TEST_F(SavingPage, ContentsAreLookedAtUpTo1024Characters) {
@@ -327,7 +341,8 @@ TEST_F(SavingPage, ContentsAreLookedAtUpTo1024Characters) {
     SetTextOf(edit, std::wstring(1023, L'x') + L"?");
     ExpectRefusal(refusal);
     SetTextOf(edit, std::wstring(1024, L'x') + L"?");
-    EXPECT_FALSE(test_.Page().OnKillActive()) << "too long, without a word";
+    popups_.ExpectBox(InvalidDataBox(L"Title"));
+    EXPECT_FALSE(test_.Page().OnKillActive()) << "too long";
     SetTextOf(edit, before);
   }
 }

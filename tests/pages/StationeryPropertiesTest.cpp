@@ -187,13 +187,14 @@ TEST_F(StationerySheet, EveryModeHasItsNumberAndItsRadio) {
 }
 
 TEST_F(StationerySheet, ChangesLockTheSheetAndOpenApply) {
-  for (const bool byRadio : {false, true})
+  for (const int radio : {0, 1340, 1337, 1339})  // 0: by the text
     Run([&](Sheet& sheet) -> SheetTask {
+      SCOPED_TRACE(radio);
       const PostedMessages posted;
       co_await OpenProperties(sheet);
       PostedMessages::current->Take();
-      if (byRadio)
-        Item(1339).Click();
+      if (radio)
+        Item(radio).Click();
       else
         Item(1341).SetText(L"New name");
       EXPECT_TRUE(Item(1343).IsEnabled());
@@ -207,7 +208,7 @@ TEST_F(StationerySheet, ChangesLockTheSheetAndOpenApply) {
       EXPECT_EQ((Posted{{kApplied, 0}, {kModified, 0}}), PostedMessages::current->Take());
       EXPECT_FALSE(IsLocked(sheet));
       EXPECT_TRUE(IsOpen());
-      EXPECT_EQ(byRadio ? L"Letter," : L"New name,", Rows(sheet));
+      EXPECT_EQ(radio ? L"Letter," : L"New name,", Rows(sheet));
     });
 }
 
@@ -288,6 +289,10 @@ TEST_F(StationerySheet, DescriptionMayNotBeEmpty) {
       EXPECT_TRUE(Item(1341).HasFocus());
       co_await sheet.Settled();
       EXPECT_EQ(Posted(), PostedMessages::current->Take());
+      Item(1341).SetText(L" ");
+      Item(button).Click();
+      co_await sheet.Settled();
+      EXPECT_EQ(L" ,", Rows(sheet)) << "blanks are a description";
     });
 }
 
@@ -447,6 +452,12 @@ TEST_F(StationerySheet, DoubleClickAndEnterOpenTheProperties) {
     co_await sheet.Settled();
     EXPECT_TRUE(IsOpen());
     EXPECT_TRUE(sheet.IsOpen());
+    SetActiveWindow(sheet.Window());
+    List(sheet).Focus();
+    sheet.Key(VK_RETURN);
+    co_await sheet.Settled();
+    EXPECT_EQ(dialog_, GetActiveWindow()) << "back into the open dialog";
+    EXPECT_TRUE(IsChild(dialog_, GetFocus()));
   });
 }
 
@@ -618,6 +629,10 @@ TEST_F(StationerySheet, ADropOpensTheGroupThoughTheSwitchIsOff) {
     co_await DropNew(sheet);
     for (const int id : {1066, 1291, 1071, 1067, 1069, 1070}) EXPECT_TRUE(sheet.Control(id).IsEnabled()) << id;
     EXPECT_FALSE(sheet.Control(1068).IsChecked());
+    Item(1344).Click();
+    co_await sheet.Settled();
+    EXPECT_EQ(L"Letter,", Rows(sheet));
+    for (const int id : {1066, 1291, 1071, 1067, 1069, 1070}) EXPECT_TRUE(sheet.Control(id).IsEnabled()) << id;
   });
 }
 
@@ -646,6 +661,19 @@ TEST_F(StationerySheet, LeavingThePageClosesAnUnchangedDialog) {
     EXPECT_FALSE(IsWindow(dialog_));
     EXPECT_EQ(kGraphic, sheet.PageId());
     EXPECT_FALSE(IsLocked(sheet));
+  });
+}
+
+TEST_F(StationerySheet, SavingClosesADialogWithItsChanges) {
+  Run([&](Sheet& sheet) -> SheetTask {
+    co_await OpenProperties(sheet);
+    Item(1341).SetText(L"x");
+    co_await sheet.Settled();
+    EXPECT_TRUE(sheet_->FindPage(kWatermark)->UpdateData(true));
+    co_await sheet.Settled();
+    EXPECT_FALSE(IsWindow(dialog_));
+    EXPECT_FALSE(IsLocked(sheet));
+    EXPECT_EQ(L"Letter,", Rows(sheet));
   });
 }
 
