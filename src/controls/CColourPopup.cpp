@@ -12,6 +12,7 @@
 #include "MessageIds.h"
 #include "window/CActivationContext.h"
 #include "window/SystemMetrics.h"
+#include "window/WindowClass.h"
 
 namespace {
 
@@ -89,8 +90,7 @@ bool CColourPopup::CreatePopupWindow() {
   description.hInstance = Module();
   description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
   description.lpszClassName = shadow ? kShadowClass : kPlainClass;
-  // Registered once for all threads: being there already is no failure.
-  if (!::RegisterClassExW(&description) && ::GetLastError() != ERROR_CLASS_ALREADY_EXISTS) return false;
+  if (!RegisterWindowClass(description)) return false;
 
   const bool mirrored = setup_.picker.IsMirrored();
   const IntPoint place = PlaceColourPopup(layout_.Width(), layout_.Height(), FromRect(setup_.picker.WindowRect()),

@@ -2,6 +2,7 @@
 
 #include "DriverLIB/MessageText.h"
 #include "window/CActivationContext.h"
+#include "window/WindowClass.h"
 
 namespace {
 
@@ -21,8 +22,7 @@ bool CControlBar::Create(const CWnd& parent, int id, DWORD style) {
   description.hInstance = Module();
   description.hCursor = ::LoadCursorW(nullptr, IDC_ARROW);
   description.lpszClassName = kClassName;
-  // Registered once for all threads: being there already is no failure.
-  if (!::RegisterClassExW(&description) && ::GetLastError() != ERROR_CLASS_ALREADY_EXISTS) return false;
+  if (!RegisterWindowClass(description)) return false;
   const CActivationScope look;
   ::CreateWindowExW(0, kClassName, nullptr, WS_CHILD | WS_VISIBLE | style, 0, 0, 0, 0, parent.Handle(),
                     reinterpret_cast<HMENU>(static_cast<INT_PTR>(id)), Module(), this);

@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <atomic>
 #include <memory>
 #include <stdexcept>
 #include <thread>
@@ -111,6 +112,28 @@ TEST_F(ControlBar, ObjectMayDieInItsOwnHandler) {
 TEST_F(ControlBar, WithoutAParentThereIsNone) {
   EXPECT_FALSE(bar_.Create(CWnd(), 100, 0));
   EXPECT_EQ(nullptr, bar_.Handle());
+}
+
+// Each time the class is a new one, and the threads meet at it, on more than one processor where there are some.
+TEST(ControlBars, ComeUpOnManyThreadsAtOnce) {
+  constexpr int kThreads = 8, kRounds = 100;
+  std::atomic<int> failed{0};
+  for (int round = 0; round < kRounds; ++round) {
+    CControlBar::UnregisterWindowClass();
+    std::atomic<int> ready{0};
+    std::vector<std::thread> threads;
+    for (int i = 0; i < kThreads; ++i)
+      threads.emplace_back([&, i] {
+        SetThreadAffinityMask(GetCurrentThread(), DWORD_PTR{1} << (i % std::thread::hardware_concurrency()));
+        const PageParent parent;
+        Bar bar;
+        ++ready;
+        while (ready < kThreads) SwitchToThread();
+        if (!bar.Create(CWnd(parent.Window()), 100, 0)) ++failed;
+      });
+    for (std::thread& thread : threads) thread.join();
+  }
+  EXPECT_EQ(0, failed);
 }
 
 TEST_F(ControlBar, ClassServesAllThreadsAndCanBeGivenBack) {
