@@ -2,10 +2,10 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <chrono>
 #include <string>
 #include <vector>
+
+#include "support/CostGrowth.h"
 
 namespace {
 
@@ -68,22 +68,14 @@ TEST(SplitList, TheTextMayBelongToTheArray) {
 }
 
 TEST(SplitList, AListOfNEntriesCostsN) {
-  const auto cost = [](size_t entries) {
+  EXPECT_TRUE(GrowsWithItsEntries([](int entries) {
     std::wstring text;
-    for (size_t i = 0; i < entries; ++i) text += L"entry;";
-    auto best = std::chrono::steady_clock::duration::max();
-    for (int round = 0; round < 5; ++round) {
-      CUStringArray array;
-      const auto start = std::chrono::steady_clock::now();
-      SplitList(text, array, L";");
-      best = std::min(best, std::chrono::steady_clock::now() - start);
-      EXPECT_EQ(static_cast<int>(entries), array.Count());
-    }
-    return std::chrono::duration<double>(best).count();
-  };
-  // 64 times the entries cost some 64 times as much; a cost by the square would be 4096 times. The bound lies far from
-  // both, since the machine may be busy.
-  EXPECT_LT(cost(64000), 800 * cost(1000));
+    for (int i = 0; i < entries; ++i) text += L"entry;";
+    CUStringArray array;
+    const double time = TimeOf([&] { SplitList(text, array, L";"); });
+    EXPECT_EQ(entries, array.Count());
+    return time;
+  }));
 }
 
 TEST(SplitQuotedList, AnEntryInMarksKeepsItsSeparators) {
