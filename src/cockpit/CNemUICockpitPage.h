@@ -1,9 +1,9 @@
+// The cockpit writes no property of its own. When the factory state was restored, the pages write theirs.
 #pragma once
 
 #include "cockpit/CCockpitPage.h"
 #include "sheet/CNemUISettingsPage.h"
 
-// The cockpit writes no property of its own. When the factory state was restored, the pages write theirs.
 class CNemUICockpitPage : public CNemUISettingsPage<CCockpitPage> {
  public:
   using CNemUISettingsPage::CNemUISettingsPage;

@@ -1,9 +1,9 @@
+// A scroll bar that moves itself, by mouse and by keyboard. The parent is told of a scroll after the bar has moved. To
+// a screen reader it has the name of the label before it.
 #pragma once
 
 #include "window/CAccessibleControl.h"
 
-// A scroll bar that moves itself, by mouse and by keyboard. The parent is told of a scroll after the bar has moved. To
-// a screen reader it has the name of the label before it.
 class CIntScrollBar : public CAccessibleControl<CScrollBar> {
  protected:
   bool OnWindowMessage(WindowMessage& message) override;

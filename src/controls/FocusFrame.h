@@ -1,3 +1,4 @@
+// How a control that draws itself shows that it has the focus.
 #pragma once
 
 #include "window/CWnd.h"

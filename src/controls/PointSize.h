@@ -1,7 +1,7 @@
+// The height of a font of `points`, as LOGFONTW wants it: negative, for the height of its characters without the space
+// above them.
 #pragma once
 
 #include "window/Windows.h"
 
-// The height of a font of `points`, as LOGFONTW wants it: negative, for the height of its characters without the space
-// above them.
 inline int FontHeight(int points, int dpi) { return -::MulDiv(points, dpi, 72); }

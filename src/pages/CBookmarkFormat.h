@@ -1,3 +1,5 @@
+// A bookmark format: at which level of the outline the paragraphs of one style of a document enter the PDF's bookmarks,
+// and how they look there.
 #pragma once
 
 #include <cstdint>
@@ -12,8 +14,6 @@ enum BookmarkKind : int32_t {
   kBookmarkWordUserDefined = 4  // any other style, in Word mode
 };
 
-// At which level of the outline the paragraphs of one style of a document enter the PDF's bookmarks, and how they look
-// there.
 struct CBookmarkFormat {
   static constexpr uint32_t kNoColour = 0xFF000000;
 

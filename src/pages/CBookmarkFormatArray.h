@@ -1,3 +1,4 @@
+// An array that owns its bookmark formats.
 #pragma once
 
 #include <memory>
@@ -5,7 +6,6 @@
 #include "DriverLIB/CPointerArray.h"
 #include "pages/CBookmarkFormat.h"
 
-// An array that owns its bookmark formats.
 class CBookmarkFormatArray : public CPointerArray {
  public:
   CBookmarkFormatArray() noexcept = default;

@@ -10,6 +10,8 @@ class CColorsPage : public CTrackedPage<ColorsCockpitValues> {
   using CTrackedPage::CTrackedPage;
 
   uint16_t colorspace = 0;
+
+  // What an administrator has fixed.
   NumberOverride colorspaceOverride;
 
  protected:

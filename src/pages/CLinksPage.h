@@ -1,4 +1,5 @@
-// Whether addresses in the printed text become links, and how these are drawn.
+// Whether addresses in the printed text become links, and how these are drawn. The page holds the attachments, too,
+// without a control for them.
 #pragma once
 
 #include "cockpit/CTrackedPage.h"
@@ -7,7 +8,6 @@
 #include "pages/EmbedFilenamesAccess.h"
 #include "resources/ResourceIds.h"
 
-// It holds the attachments, too, without a control for them.
 class CLinksPage : public CTrackedPage<LinksCockpitValues>, public CFileAttachmentDialog, public EmbedFilenamesAccess {
  public:
   explicit CLinksPage(const PageDescription& description);

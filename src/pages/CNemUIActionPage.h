@@ -1,3 +1,4 @@
+// The actions share a property with the mail page: each of the two changes its own bits alone.
 #pragma once
 
 #include "pages/CActionPage.h"

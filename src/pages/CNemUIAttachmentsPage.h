@@ -1,3 +1,4 @@
+// The list is one for each tab, the confirmation one for both: the document's page shows it and leaves it as it is.
 #pragma once
 
 #include "pages/CAttachmentsPage.h"

@@ -1,3 +1,5 @@
+// Answers other pages from the properties while its own members have not been read. The kind of file and the engine are
+// written by the page of the basic settings alone.
 #pragma once
 
 #include "pages/CFormatPage.h"

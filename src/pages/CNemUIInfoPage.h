@@ -1,3 +1,4 @@
+// Brings the notice of the printer, which is no property but data of the printer's own.
 #pragma once
 
 #include "pages/CInfoPage.h"

@@ -1,3 +1,4 @@
+// The attachments go along. Of them the page writes the list alone, and leaves what is one for both tabs.
 #pragma once
 
 #include "pages/CLinksPage.h"

@@ -1,3 +1,4 @@
+// The mail shares a property with the actions page: each of the two changes its own bits alone.
 #pragma once
 
 #include "pages/CMailPage.h"

@@ -1,3 +1,4 @@
+// The two lists of the page are stored as one, with a mark that says which of them it is.
 #pragma once
 
 #include "pages/CPdfFontsPage.h"

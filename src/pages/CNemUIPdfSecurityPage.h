@@ -1,3 +1,4 @@
+// Two switches are one for both tabs: of the two pages, the one on which a switch was changed has its way.
 #pragma once
 
 #include "pages/CPdfSecurityPage.h"

@@ -1,3 +1,4 @@
+// Folder and name of the target, two fields of the page, are one property.
 #pragma once
 
 #include "pages/CProgramPage.h"

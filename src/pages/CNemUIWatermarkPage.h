@@ -1,3 +1,5 @@
+// Answers other pages from the properties while its own members have not been read. A document without stationeries of
+// its own shows those of the basic settings.
 #pragma once
 
 #include "pages/CWatermarkPage.h"

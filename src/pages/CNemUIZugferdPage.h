@@ -1,3 +1,4 @@
+// Answers other pages from the properties while its own members have not been read.
 #pragma once
 
 #include "pages/CZugferdPage.h"

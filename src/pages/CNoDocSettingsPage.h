@@ -1,9 +1,9 @@
+// Stands in for a page that has settings of new documents only: two texts and a link to the help.
 #pragma once
 
 #include "resources/ResourceIds.h"
 #include "sheet/CNemUIPage.h"
 
-// Stands in for a page that has settings of new documents only: two texts and a link to the help.
 class CNoDocSettingsPage : public CNemUIPage {
  public:
   // The placeholder has a template of its own and remembers the one of the page it stands for.

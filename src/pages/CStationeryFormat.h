@@ -1,3 +1,9 @@
+// One stationery of the user's list: a PDF file that the printer merges with the document.
+//
+// It travels as text, alone or in a list (StationeryList.h):
+//   {NAME:"Re \"2\"";FILE:"C:\\Paper\\letter.pdf";P:"x";TYPE:"3"}
+// Text and entry hold the file's password: it is wiped where the entry keeps it, and neither may be traced. Whoever
+// takes a text from ToString wipes it.
 #pragma once
 
 #include <cstddef>
@@ -6,12 +12,6 @@
 
 #include "DriverLIB/CUString.h"
 
-// One stationery of the user's list: a PDF file that the printer merges with the document.
-//
-// It travels as text, alone or in a list (StationeryList.h):
-//   {NAME:"Re \"2\"";FILE:"C:\\Paper\\letter.pdf";P:"x";TYPE:"3"}
-// Text and entry hold the file's password: it is wiped where the entry keeps it, and neither may be traced. Whoever
-// takes a text from ToString wipes it.
 class CStationeryFormat {
  public:
   CStationeryFormat() = default;

@@ -12,6 +12,7 @@ class CUpdatePage : public CNemUIPage {
  public:
   using CNemUIPage::CNemUIPage;
 
+  // What an administrator has fixed.
   NumberOverride updateTypeOverride;
   BooleanOverride disableManualUpdate;
 

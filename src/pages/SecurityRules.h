@@ -4,7 +4,8 @@
 // In characters.
 constexpr int kLongestPassword = 31;
 
-// The passwords of a document, in the order in which the page and the confirmation show them.
+// The passwords of a document, in the order in which the page and the confirmation show them. They number the rows of
+// tables, and so the type is no enum class.
 enum PasswordKind {
   kOwnerPassword,    // for changing the security options
   kUserPassword,     // for opening the document

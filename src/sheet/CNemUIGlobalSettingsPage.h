@@ -1,9 +1,9 @@
+// Connects a host page with the sheet; its settings index decides which child pages it gets.
 #pragma once
 
 #include "sheet/CGlobalSettingsPage.h"
 #include "sheet/PageCatalogue.h"
 
-// Connects a host page with the sheet; its settings index decides which child pages it gets.
 class CNemUIGlobalSettingsPage : public CGlobalSettingsPage {
  public:
   CNemUIGlobalSettingsPage(SheetServices* sheet, const PageDescription& description, int settingsIndex,

@@ -1,3 +1,4 @@
+// The help of a control: how it is asked for, and how it is opened.
 #pragma once
 
 #include "window/Windows.h"

@@ -1,8 +1,8 @@
+// What a page is, beside its class: one row of the page catalogue.
 #pragma once
 
 #include <cstdint>
 
-// What a page is, beside its class: one row of the page catalogue.
 struct PageDescription {
   uint32_t templateId = 0;  // dialog resource, and the key of its help topic
   uint32_t iconId = 0;      // icon of its tab in the sheet; 0 on child pages
