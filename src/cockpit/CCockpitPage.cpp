@@ -4,6 +4,7 @@
 
 #include "cockpit/TrackedPages.h"
 #include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/MessageText.h"
 #include "environment/DefaultPaper.h"
 #include "MessageIds.h"
 #include "resources/ResourceIds.h"

@@ -1,5 +1,6 @@
 #include "pages/CActionPage.h"
 
+#include "DriverLIB/MessageText.h"
 #include "environment/FileDialog.h"
 #include "MessageIds.h"
 #include "pages/HostBits.h"

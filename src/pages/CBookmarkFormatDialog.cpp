@@ -4,6 +4,7 @@
 #include <utility>
 
 #include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/MessageText.h"
 #include "DriverLIB/Numbers.h"
 #include "MessageIds.h"
 #include "pages/FontSizeText.h"

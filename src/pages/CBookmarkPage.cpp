@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/MessageText.h"
 #include "environment/HostApplication.h"
 #include "MessageIds.h"
 #include "pages/BookmarkNames.h"

@@ -1,6 +1,7 @@
 #include "pages/CFileAttachmentDialog.h"
 
 #include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/MessageText.h"
 #include "DriverLIB/Trace.h"
 #include "environment/QuietErrors.h"
 #include "MessageIds.h"

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <iterator>
 
+#include "DriverLIB/MessageText.h"
 #include "MessageIds.h"
 #include "pages/EmbedFilenamesAccess.h"
 #include "pages/HostBits.h"

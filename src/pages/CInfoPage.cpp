@@ -3,6 +3,7 @@
 #include "DriverLIB/AFile.h"
 #include "DriverLIB/Directories.h"
 #include "DriverLIB/Identity.h"
+#include "DriverLIB/MessageText.h"
 #include "DriverLIB/TraceSettings.h"
 #include "environment/CBrowseForFolder.h"
 #include "environment/ProductLocations.h"

@@ -4,6 +4,7 @@
 
 #include "controls/LabelText.h"
 #include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/MessageText.h"
 #include "DriverLIB/SecureWipe.h"
 #include "MessageIds.h"
 #include "pages/CPwdConfirmDialog.h"

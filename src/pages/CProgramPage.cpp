@@ -1,6 +1,7 @@
 #include "pages/CProgramPage.h"
 
 #include "DriverLIB/CEPathS.h"
+#include "DriverLIB/MessageText.h"
 #include "environment/CBrowseForFolder.h"
 #include "environment/FileDialog.h"
 #include "MessageIds.h"

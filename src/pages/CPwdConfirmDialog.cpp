@@ -2,6 +2,7 @@
 
 #include "DriverLIB/Identity.h"
 #include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/MessageText.h"
 #include "MessageIds.h"
 #include "resources/ResourceIds.h"
 #include "sheet/Help.h"

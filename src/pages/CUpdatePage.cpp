@@ -4,6 +4,7 @@
 #include "DriverLIB/CRegistryEntry.h"
 #include "DriverLIB/Identity.h"
 #include "DriverLIB/InstallLocation.h"
+#include "DriverLIB/MessageText.h"
 #include "DriverLIB/Trace.h"
 #include "environment/NemUpdateJob.h"
 #include "pages/WebAddress.h"

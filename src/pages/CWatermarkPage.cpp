@@ -4,6 +4,7 @@
 #include <vector>
 
 #include "DriverLIB/MessageBoxes.h"
+#include "DriverLIB/MessageText.h"
 #include "DriverLIB/SecureWipe.h"
 #include "environment/DroppedFiles.h"
 #include "environment/FileDialog.h"
