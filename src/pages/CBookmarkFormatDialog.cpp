@@ -87,7 +87,7 @@ bool CBookmarkFormatDialog::Save() {
   const CWnd size = Item(IDC_BOOKMARK_FORMAT_SIZE);
   const CUString text = SizeText();
   if (IsValidFontSize(text)) return UpdateData(true);
-  MsgBoxById(window_, nullptr, MSG_BOOKMARK_INVALID_SIZE, MB_OK | MB_ICONERROR, text);
+  MsgBoxById(Handle(), nullptr, MSG_BOOKMARK_INVALID_SIZE, MB_OK | MB_ICONERROR, text);
   if (size.IsWindow()) size.Focus();
   return false;
 }
@@ -216,5 +216,5 @@ void CBookmarkFormatDialog::OnOk() {
 void CBookmarkFormatDialog::OnCancel() { PostToPage(kEntryCancelledMessage, NewEntryMark(isNew)); }
 
 void CBookmarkFormatDialog::ShowCheckMessage(uint32_t messageId, const CUString& argument) const {
-  MsgBoxById(window_, nullptr, messageId, MB_OK | MB_ICONERROR, argument);
+  MsgBoxById(Handle(), nullptr, messageId, MB_OK | MB_ICONERROR, argument);
 }

@@ -54,7 +54,7 @@ void CPwdConfirmDialog::DoDataExchange(CDataExchange& exchange) {
   if (!exchange.IsSaving()) return;
   for (const PasswordKind kind : kPasswordKinds) {
     if (typed_[kind] == expected[kind]) continue;
-    MsgBoxById(window_, kComponentName, MSG_CONFIRM_FAILED, MB_OK | MB_ICONINFORMATION);
+    MsgBoxById(Handle(), kComponentName, MSG_CONFIRM_FAILED, MB_OK | MB_ICONINFORMATION);
     return exchange.Fail(kPasswords[kind].editId);
   }
 }
@@ -101,5 +101,5 @@ bool CPwdConfirmDialog::OnHelpInfo(const HELPINFO&) {
 }
 
 void CPwdConfirmDialog::OnHelpClicked() {
-  ShowHelp(HelpForControl(IDHELP, Item(IDHELP).Handle()), helpFile_.Text(), window_, kComponentName);
+  ShowHelp(HelpForControl(IDHELP, Item(IDHELP).Handle()), helpFile_.Text(), Handle(), kComponentName);
 }

@@ -66,7 +66,7 @@ void CStationeryPropertiesDialog::Fill() {
       isNew_ = true;
     }
     Item(IDC_STATIONERY_NAME).SetText(format->GetName().Text());
-    ::CheckRadioButton(window_, IDC_STATIONERY_FIRST_TWO_PAGES, IDC_STATIONERY_BEHIND_ALL, RadioOf(format->GetType()));
+    ::CheckRadioButton(Handle(), IDC_STATIONERY_FIRST_TWO_PAGES, IDC_STATIONERY_BEHIND_ALL, RadioOf(format->GetType()));
   }
   Item(IDC_STATIONERY_APPLY).Enable(false);
 }
@@ -100,7 +100,7 @@ void CStationeryPropertiesDialog::OnCancel() { PostToPage(kEntryCancelledMessage
 bool CStationeryPropertiesDialog::HasDescription() const {
   const CWnd edit = Item(IDC_STATIONERY_NAME);
   if (!edit.Text().IsEmpty()) return true;
-  MsgBoxById(window_, nullptr, MSG_STATIONERY_EMPTY_DESCRIPTION, MB_OK | MB_ICONERROR);
+  MsgBoxById(Handle(), nullptr, MSG_STATIONERY_EMPTY_DESCRIPTION, MB_OK | MB_ICONERROR);
   if (edit.IsWindow()) edit.Focus();
   return false;
 }
