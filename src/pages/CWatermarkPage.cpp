@@ -48,10 +48,10 @@ MessageTable CWatermarkPage::Messages() const {
       OnNotify<&CWatermarkPage::OnStationeryDblClk>(IDC_STATIONERY_LIST, static_cast<UINT>(NM_DBLCLK)),
       OnNotify<&CWatermarkPage::OnStationeryReturn>(IDC_STATIONERY_LIST, static_cast<UINT>(NM_RETURN)),
       OnNotify<&CWatermarkPage::OnStationeryKey>(IDC_STATIONERY_LIST, static_cast<UINT>(LVN_KEYDOWN)),
-      OnMessage<&CWatermarkPage::StationeryApplied>(kEntryAppliedMessage),
-      OnMessage<&CWatermarkPage::StationeryCancelled>(kEntryCancelledMessage),
-      OnMessage<&CWatermarkPage::StationeryOk>(kEntryOkMessage),
-      OnMessage<&CWatermarkPage::StationeryModified>(CStationeryPropertiesDialog::kModifiedMessage),
+      OnMessage<&CWatermarkPage::OnStationeryApplied>(kEntryAppliedMessage),
+      OnMessage<&CWatermarkPage::OnStationeryCancelled>(kEntryCancelledMessage),
+      OnMessage<&CWatermarkPage::OnStationeryOk>(kEntryOkMessage),
+      OnMessage<&CWatermarkPage::OnStationeryModified>(CStationeryPropertiesDialog::kModifiedMessage),
       OnMessage<&CWatermarkPage::OnDropFiles>(WM_DROPFILES),
       OnMessage<&CWatermarkPage::OnDestroy>(WM_DESTROY),
   };
@@ -275,21 +275,21 @@ void CWatermarkPage::ShowProperties(const std::shared_ptr<CStationeryFormat>& fo
   if (!dialog_.Make(format).Open(*this)) dialog_.Drop();
 }
 
-void CWatermarkPage::StationeryApplied() { list_.RefreshRows(); }
+void CWatermarkPage::OnStationeryApplied() { list_.RefreshRows(); }
 
-void CWatermarkPage::StationeryOk() {
+void CWatermarkPage::OnStationeryOk() {
   list_.RefreshRows();
   dialog_.Close(*this);
 }
 
 // A dialog that is gone may have been cancelled twice: the second time must not take the next entry.
-void CWatermarkPage::StationeryCancelled(WPARAM mark, LPARAM) {
+void CWatermarkPage::OnStationeryCancelled(WPARAM mark, LPARAM) {
   if (!dialog_.IsOpen()) return;
   if (mark == kNewListEntry) OnDeleteStationery();
   dialog_.Close(*this);
 }
 
-void CWatermarkPage::StationeryModified() {
+void CWatermarkPage::OnStationeryModified() {
   if (dialog_.IsOpen()) dialog_->UpdateLock();
 }
 

@@ -59,10 +59,10 @@ class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public Stati
   void OnDropFiles(WPARAM record, LPARAM);
   void OnDestroy();
 
-  void StationeryApplied();
-  void StationeryCancelled(WPARAM mark, LPARAM);
-  void StationeryOk();
-  void StationeryModified();
+  void OnStationeryApplied();
+  void OnStationeryCancelled(WPARAM mark, LPARAM);
+  void OnStationeryOk();
+  void OnStationeryModified();
 
   CUString AskForFile(uint32_t filterId, const CUString& startName);
   void Tell(const wchar_t* title, const CUString& text, UINT icon);
