@@ -48,6 +48,12 @@ bool Contains(const RECT& rect, POINT point) {
 
 }  // namespace
 
+// Both records agree on the default paper.
+CCockpitPage::CCockpitPage(const PageDescription& description)
+    : CNemUIPage(description), baseline_(IsA4PaperDefault()), current_(baseline_) {
+  for (CCockpitRow& row : rows_) row.square.SetLink(row.link);
+}
+
 MessageTable CCockpitPage::Messages() const {
   static constexpr MessageRow kMessages[] = {
       OnMessage<&CCockpitPage::OnLinkClicked>(kLinkClickedMessage),
@@ -56,18 +62,6 @@ MessageTable CCockpitPage::Messages() const {
       OnClick<&CCockpitPage::OnRestoreDefaults>(IDC_COCKPIT_RESTORE),
   };
   return kMessages;
-}
-
-// The mouse's way over the page goes on to the default processing.
-bool CCockpitPage::OnWindowMessage(WindowMessage& message) {
-  if (message.message == WM_MOUSEMOVE) OnMouseMove({GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)});
-  return CNemUIPage::OnWindowMessage(message);
-}
-
-// Both records agree on the default paper.
-CCockpitPage::CCockpitPage(const PageDescription& description)
-    : CNemUIPage(description), baseline_(IsA4PaperDefault()), current_(baseline_) {
-  for (CCockpitRow& row : rows_) row.square.SetLink(row.link);
 }
 
 BOOL CCockpitPage::OnInitDialog() {
@@ -93,6 +87,12 @@ void CCockpitPage::BindControls() {
 bool CCockpitPage::OnKillActive() {
   CloseNote();
   return CNemUIPage::OnKillActive();
+}
+
+// The mouse's way over the page goes on to the default processing.
+bool CCockpitPage::OnWindowMessage(WindowMessage& message) {
+  if (message.message == WM_MOUSEMOVE) OnMouseMove({GET_X_LPARAM(message.lParam), GET_Y_LPARAM(message.lParam)});
+  return CNemUIPage::OnWindowMessage(message);
 }
 
 // --- Values ---------------------------------------------------------------------------------------------------------

@@ -51,6 +51,14 @@ bool CActionPage::ValidateProgram(CDataExchange& exchange) {
   return false;
 }
 
+void CActionPage::OnProgramCheck() {
+  const bool on = IsChecked(IDC_ACTION_PROGRAM_CHECK) && !programCheckOverride.IsSet();
+  EnableControls({IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS, IDC_ACTION_BROWSE}, on);
+  Lock(programCheckOverride.IsSet(), {IDC_ACTION_PROGRAM_CHECK});
+  Lock(programOverride.IsSet(), {IDC_ACTION_BROWSE, IDC_ACTION_PROGRAM});
+  Lock(parametersOverride.IsSet(), {IDC_ACTION_PARAMETERS});
+}
+
 void CActionPage::OnBrowseProgram() {
   const CActivationScope look;
   const auto chosen = AskForFileToOpen(Handle(), {.filter = MessageText(MSG_ACTION_PROGRAM_FILTER),
@@ -69,11 +77,3 @@ void CActionPage::UpdateControls() {
 }
 
 void CActionPage::ApplyViewerOverride() { Lock(viewerCheckOverride.IsSet(), {IDC_ACTION_VIEWER}); }
-
-void CActionPage::OnProgramCheck() {
-  const bool on = IsChecked(IDC_ACTION_PROGRAM_CHECK) && !programCheckOverride.IsSet();
-  EnableControls({IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS, IDC_ACTION_BROWSE}, on);
-  Lock(programCheckOverride.IsSet(), {IDC_ACTION_PROGRAM_CHECK});
-  Lock(programOverride.IsSet(), {IDC_ACTION_BROWSE, IDC_ACTION_PROGRAM});
-  Lock(parametersOverride.IsSet(), {IDC_ACTION_PARAMETERS});
-}

@@ -26,10 +26,11 @@ class CActionPage : public CTrackedPage<ActionCockpitValues> {
   void ExchangeCockpitValues(const CockpitExchange& exchange, ActionCockpitValues& values) override;
 
  private:
+  bool ValidateProgram(CDataExchange& exchange);
+
   void OnProgramCheck();
   void OnBrowseProgram();
 
-  bool ValidateProgram(CDataExchange& exchange);
   void UpdateControls();
   void ApplyViewerOverride();
 };

@@ -51,6 +51,12 @@ void CAttachmentsPage::DoDataExchange(CDataExchange& exchange) {
   TellLinksPage();
 }
 
+// The links page holds the same switch, and would write an older value back.
+void CAttachmentsPage::TellLinksPage() {
+  if (auto* links = FindPageAs<EmbedFilenamesAccess>(*this, kLinksPage))
+    links->SetEmbedFilenamesEnabled(embedFilenamesEnabled);
+}
+
 void CAttachmentsPage::OnUseAttachments() {
   const bool allowed = AllowsAttachments(PdfVersionFor(*this));
   const bool use = allowed && IsChecked(IDC_ATTACHMENTS_USE);
@@ -95,10 +101,4 @@ void CAttachmentsPage::OnDropFiles(WPARAM record, LPARAM) {
   if (!IsOnControl(*this, dropped.point, {IDC_ATTACHMENTS_LIST, IDC_ATTACHMENTS_GROUP})) return;
   // The box about a file that is refused may end the page.
   for (int i = 0; i < dropped.paths.Count() && IsWindow(); ++i) AddAttachment(dropped.paths[i]);
-}
-
-// The links page holds the same switch, and would write an older value back.
-void CAttachmentsPage::TellLinksPage() {
-  if (auto* links = FindPageAs<EmbedFilenamesAccess>(*this, kLinksPage))
-    links->SetEmbedFilenamesEnabled(embedFilenamesEnabled);
 }

@@ -21,12 +21,12 @@ class CAttachmentsPage : public CTrackedPage<AttachmentsCockpitValues>,
   void ExchangeCockpitValues(const CockpitExchange& exchange, AttachmentsCockpitValues& values) override;
 
  private:
+  void TellLinksPage();
+
   void OnUseAttachments();
   void OnAddAttachment();
   void OnRemoveAttachment();
   void OnListDblClk();
   LRESULT OnListKey(WPARAM key, LPARAM list);
   void OnDropFiles(WPARAM record, LPARAM);
-
-  void TellLinksPage();
 };

@@ -132,49 +132,6 @@ bool CBookmarkPage::LeaveEditors() {
   return IsWindow() && !list_.Edit();
 }
 
-// --- What is enabled ------------------------------------------------------------------------------------------------
-
-void CBookmarkPage::UpdateControls() {
-  const BookmarkRow* const selected = SelectedRow();
-  const int rows = list_.Count();
-  const bool use = IsChecked(IDC_BOOKMARK_USE);
-  const bool changeable = use && !wordMode_;
-  deleteAllowed_ = changeable && selected && selected->CanRemove();
-  const std::pair<int, bool> states[] = {
-      {IDC_BOOKMARK_LIST, use},
-      {IDC_BOOKMARK_SELECT_ALL, use && rows > 0},
-      {IDC_BOOKMARK_NEW, changeable},
-      {IDC_BOOKMARK_EDIT, use && selected && !dialog_.IsOpen()},
-      {IDC_BOOKMARK_COPY, changeable && selected},
-      {IDC_BOOKMARK_REMOVE, deleteAllowed_},
-      {IDC_BOOKMARK_REMOVE_ALL, changeable && rows > kStandardRows},
-  };
-  for (const auto& [id, enabled] : states) Item(id).Enable(enabled);
-
-  CButton(Item(IDC_BOOKMARK_SELECT_ALL)).SetCheck(rows > 0 && AreAllChecked());
-  if (!selected) CloseDialog();
-  if (dialog_.IsOpen()) dialog_->UpdateLock();
-  list_.UpdateHint(use);
-  Item(IDC_BOOKMARK_SELECT_ALL).Show(false);
-  if (wordMode_) ShowWordMode();
-}
-
-bool CBookmarkPage::AreAllChecked() const {
-  for (int row = 0; row < list_.Count(); ++row)
-    if (!list_.IsChecked(row)) return false;
-  return true;
-}
-
-// Once: what the user cannot do there goes, and a note says where styles are changed.
-void CBookmarkPage::ShowWordMode() {
-  if (noteBox_) return;
-  ShowControls(kHiddenUnderWord, false);
-  const RECT size = Item(IDC_BOOKMARK_NOTE_PLACE).RectIn(*this);
-  const int left = Scale(kNoteLeft), top = static_cast<int>(ClientRect().bottom) * kNoteTop / 100;
-  noteBox_ = std::make_unique<CTextBox>(false, false);
-  noteBox_->Create(*this, IDC_BOOKMARK_NOTE, {left, top, left + size.right - size.left, top + size.bottom - size.top});
-}
-
 // --- Formats --------------------------------------------------------------------------------------------------------
 
 void CBookmarkPage::CreateNewBookmarkFormat(bool forceDefault) {
@@ -200,23 +157,6 @@ void CBookmarkPage::CreateNewBookmarkFormat(bool forceDefault) {
 
 void CBookmarkPage::OnEditFormat() {
   if (LeaveEditors()) ShowBookmarkFormatDialog(false);
-}
-
-// By keyboard there is no other way into a dialog that is open already.
-void CBookmarkPage::OnReturn() {
-  OnEditFormat();
-  if (dialog_.IsOpen()) dialog_->Activate();
-}
-
-void CBookmarkPage::OnDblClk(WindowMessage& message) {
-  const int row = ClickedRow(list_, message);
-  if (row < 0) return;
-  list_.SelectRow(row);
-  OnEditFormat();
-}
-
-void CBookmarkPage::OnKeyDown(WindowMessage& message) {
-  if (IsDeleteKey(message) && deleteAllowed_) OnRemoveFormat();
 }
 
 void CBookmarkPage::OnRemoveFormat() {
@@ -251,6 +191,23 @@ void CBookmarkPage::OnSelectAll() {
     }
   }
   UpdateControls();
+}
+
+void CBookmarkPage::OnDblClk(WindowMessage& message) {
+  const int row = ClickedRow(list_, message);
+  if (row < 0) return;
+  list_.SelectRow(row);
+  OnEditFormat();
+}
+
+// By keyboard there is no other way into a dialog that is open already.
+void CBookmarkPage::OnReturn() {
+  OnEditFormat();
+  if (dialog_.IsOpen()) dialog_->Activate();
+}
+
+void CBookmarkPage::OnKeyDown(WindowMessage& message) {
+  if (IsDeleteKey(message) && deleteAllowed_) OnRemoveFormat();
 }
 
 // What is written into the cells does not matter. The platform moves its mark by keys only behind the message.
@@ -361,18 +318,18 @@ void CBookmarkPage::OnDialogApply() {
   UpdateControls();
 }
 
-void CBookmarkPage::OnDialogOk() {
-  if (!dialog_.IsOpen() || !TakeDialogValues()) return;
-  CloseDialog();
-  UpdateControls();
-}
-
 void CBookmarkPage::OnDialogCancel(WPARAM mark, LPARAM) {
   if (!dialog_.IsOpen()) return;
   if (mark == kNewListEntry) {
     const FillingScope filling(*this);
     list_.RemoveSelected();
   }
+  CloseDialog();
+  UpdateControls();
+}
+
+void CBookmarkPage::OnDialogOk() {
+  if (!dialog_.IsOpen() || !TakeDialogValues()) return;
   CloseDialog();
   UpdateControls();
 }
@@ -385,4 +342,47 @@ void CBookmarkPage::CloseDialog() {
 void CBookmarkPage::OnDestroy() {
   dialog_.Drop();
   noteBox_.reset();
+}
+
+// --- What is enabled ------------------------------------------------------------------------------------------------
+
+void CBookmarkPage::UpdateControls() {
+  const BookmarkRow* const selected = SelectedRow();
+  const int rows = list_.Count();
+  const bool use = IsChecked(IDC_BOOKMARK_USE);
+  const bool changeable = use && !wordMode_;
+  deleteAllowed_ = changeable && selected && selected->CanRemove();
+  const std::pair<int, bool> states[] = {
+      {IDC_BOOKMARK_LIST, use},
+      {IDC_BOOKMARK_SELECT_ALL, use && rows > 0},
+      {IDC_BOOKMARK_NEW, changeable},
+      {IDC_BOOKMARK_EDIT, use && selected && !dialog_.IsOpen()},
+      {IDC_BOOKMARK_COPY, changeable && selected},
+      {IDC_BOOKMARK_REMOVE, deleteAllowed_},
+      {IDC_BOOKMARK_REMOVE_ALL, changeable && rows > kStandardRows},
+  };
+  for (const auto& [id, enabled] : states) Item(id).Enable(enabled);
+
+  CButton(Item(IDC_BOOKMARK_SELECT_ALL)).SetCheck(rows > 0 && AreAllChecked());
+  if (!selected) CloseDialog();
+  if (dialog_.IsOpen()) dialog_->UpdateLock();
+  list_.UpdateHint(use);
+  Item(IDC_BOOKMARK_SELECT_ALL).Show(false);
+  if (wordMode_) ShowWordMode();
+}
+
+bool CBookmarkPage::AreAllChecked() const {
+  for (int row = 0; row < list_.Count(); ++row)
+    if (!list_.IsChecked(row)) return false;
+  return true;
+}
+
+// Once: what the user cannot do there goes, and a note says where styles are changed.
+void CBookmarkPage::ShowWordMode() {
+  if (noteBox_) return;
+  ShowControls(kHiddenUnderWord, false);
+  const RECT size = Item(IDC_BOOKMARK_NOTE_PLACE).RectIn(*this);
+  const int left = Scale(kNoteLeft), top = static_cast<int>(ClientRect().bottom) * kNoteTop / 100;
+  noteBox_ = std::make_unique<CTextBox>(false, false);
+  noteBox_->Create(*this, IDC_BOOKMARK_NOTE, {left, top, left + size.right - size.left, top + size.bottom - size.top});
 }

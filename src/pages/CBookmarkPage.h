@@ -32,37 +32,34 @@ class CBookmarkPage : public CTrackedPage<BookmarkCockpitValues>, private Bookma
   void ExchangeCockpitValues(const CockpitExchange& exchange, BookmarkCockpitValues& values) override;
 
  private:
-  void OnUseBookmarks() { UpdateControls(); }
-  void UpdateControls();
-  void OnClickAddBookmarkFormat() { CreateNewBookmarkFormat(/*forceDefault=*/true); }
-  void OnClickCopyBookmarkFormat() { CreateNewBookmarkFormat(/*forceDefault=*/false); }
-  void OnEditFormat();
-  void OnReturn();
-  void OnDblClk(WindowMessage& message);
-  void OnKeyDown(WindowMessage& message);
-  void OnRemoveFormat();
-  void OnRemoveAllFormats();
-  void OnSelectAll();
-  void OnItemChanged(WindowMessage& message);
-  void OnListEdited();
-  void OnDestroy();
-
-  void OnDialogApply();
-  void OnDialogCancel(WPARAM mark, LPARAM);
-  void OnDialogOk();
-
-  bool AcceptsName(int row, const CUString& name) override;
-  void TellRefusal(const CUString& name) override;
-
   void ListFonts();
   void LoadFormats();
   void SaveFormats();
   bool FinishEdits();
   bool LeaveEditors();
 
+  void OnUseBookmarks() { UpdateControls(); }
+  void OnClickAddBookmarkFormat() { CreateNewBookmarkFormat(/*forceDefault=*/true); }
+  void OnClickCopyBookmarkFormat() { CreateNewBookmarkFormat(/*forceDefault=*/false); }
+  void OnEditFormat();
+  void OnRemoveFormat();
+  void OnRemoveAllFormats();
+  void OnSelectAll();
+  void OnDblClk(WindowMessage& message);
+  void OnReturn();
+  void OnKeyDown(WindowMessage& message);
+  void OnItemChanged(WindowMessage& message);
+  void OnListEdited();
+  void OnDialogApply();
+  void OnDialogCancel(WPARAM mark, LPARAM);
+  void OnDialogOk();
+  void OnDestroy();
+
+  bool AcceptsName(int row, const CUString& name) override;
+  void TellRefusal(const CUString& name) override;
+
   BookmarkRow* Row(int row) const { return static_cast<BookmarkRow*>(list_.Entry(row)); }
   BookmarkRow* SelectedRow() const { return Row(list_.SelectionMark()); }
-  bool AreAllChecked() const;
   bool IsNameTaken(const CUString& name, const BookmarkListEntry* except) const;
   void CreateNewBookmarkFormat(bool forceDefault);
 
@@ -71,8 +68,11 @@ class CBookmarkPage : public CTrackedPage<BookmarkCockpitValues>, private Bookma
   bool TakeDialogValues();
   void CloseDialog();
 
-  void ShowWordMode();
   int Tell(uint32_t messageId, UINT flags, const CUString& argument = {});
+
+  void UpdateControls();
+  bool AreAllChecked() const;
+  void ShowWordMode();
 
   CListCtrlBookmark list_;
   CUStringArray fonts_;

@@ -61,11 +61,6 @@ void CFormatPage::ExchangeCockpitValues(const CockpitExchange& exchange, FormatC
   exchange.Value(saveConversion, values.saveConversion, !globalTab);
 }
 
-void CFormatPage::TakeVersion(uint16_t value) {
-  version = versionAsLoaded_ = value;
-  if (IsWindow()) SelectVersion();
-}
-
 BOOL CFormatPage::OnInitDialog() {
   if (!FillFromTable(CComboBox(Item(IDC_FORMAT_VERSION)), kPdfVersions)) return FALSE;
   Item(IDC_FORMAT_ADD_IN_FEATURES).SetText(MessageText(MSG_FORMAT_ADD_IN_FEATURES).Text());
@@ -109,6 +104,11 @@ void CFormatPage::SaveControls(CDataExchange& exchange) {
   // The list may have no row for the version that was loaded.
   version = versionTouched_ ? selected : versionAsLoaded_;
   if (exchange.IsSaving()) saveFormat = WithSaveChoice(saveFormat, ShownSaveChoice());
+}
+
+void CFormatPage::TakeVersion(uint16_t value) {
+  version = versionAsLoaded_ = value;
+  if (IsWindow()) SelectVersion();
 }
 
 void CFormatPage::OnVersionSelected() {

@@ -15,9 +15,11 @@ class CLangPage : public CNemUIPage {
   MessageTable Messages() const override;
 
  private:
-  void OnLanguageClicked();
   void LoadLanguage();
   void SaveLanguage();
+
+  void OnLanguageClicked();
+
   void RefreshLanguageTexts(uint16_t language);
 
   uint16_t storedLanguage_ = 0;  // as last read; a reader of the setting answers 0 for the system's, too

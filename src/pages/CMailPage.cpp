@@ -22,6 +22,12 @@ void CMailPage::DoDataExchange(CDataExchange& exchange) {
   if (exchange.IsLoading()) UpdateControls();
 }
 
+void CMailPage::OnMailCheck() {
+  const bool on = IsChecked(IDC_MAIL_SEND);
+  EnableControls({IDC_MAIL_IMMEDIATELY, IDC_MAIL_RECIPIENT, IDC_MAIL_SUBJECT, IDC_MAIL_NOTE}, on);
+  ApplyOverrides();
+}
+
 void CMailPage::UpdateControls() {
   if (globalTab) EnableAll(true);
   OnMailCheck();
@@ -29,12 +35,6 @@ void CMailPage::UpdateControls() {
        {IDC_MAIL_SEND, IDC_MAIL_IMMEDIATELY, IDC_MAIL_RECIPIENT_LABEL, IDC_MAIL_SUBJECT_LABEL, IDC_MAIL_NOTE_LABEL,
         IDC_MAIL_RECIPIENT, IDC_MAIL_SUBJECT, IDC_MAIL_NOTE});
   if (!globalTab) EnableAll(false);
-  ApplyOverrides();
-}
-
-void CMailPage::OnMailCheck() {
-  const bool on = IsChecked(IDC_MAIL_SEND);
-  EnableControls({IDC_MAIL_IMMEDIATELY, IDC_MAIL_RECIPIENT, IDC_MAIL_SUBJECT, IDC_MAIL_NOTE}, on);
   ApplyOverrides();
 }
 

@@ -80,7 +80,7 @@ bool FillWithPapers(const CComboBox& combo) {
   return true;
 }
 
-// --- Bins ------------------------------------------------------------------------------------------------------------
+// --- Bins -----------------------------------------------------------------------------------------------------------
 
 bool FillWithBins(const CComboBox& combo, const PaperBin* bins) {
   for (; bins && *bins->name; ++bins)
@@ -161,7 +161,7 @@ void CPaperPage::DoDataExchange(CDataExchange& exchange) {
     SaveControls(exchange);
 }
 
-// --- Loading ---------------------------------------------------------------------------------------------------------
+// --- Loading --------------------------------------------------------------------------------------------------------
 
 void CPaperPage::LoadControls(CDataExchange& exchange) {
   if (!isWordHost) LoadLayout(exchange);
@@ -198,7 +198,7 @@ void CPaperPage::LoadLayout(CDataExchange& exchange) {
   ShowNumber(*this, IDC_PAPER_SCALE, fields & kScaleField ? scale : kFullScale);
 }
 
-// --- Saving ----------------------------------------------------------------------------------------------------------
+// --- Saving ---------------------------------------------------------------------------------------------------------
 
 void CPaperPage::SaveControls(CDataExchange& exchange) {
   if (isWordHost)
@@ -251,7 +251,7 @@ void CPaperPage::SaveWordLayout() {
   scaleWidth = scaleHeight = kFullScale;
 }
 
-// --- What the user does ----------------------------------------------------------------------------------------------
+// --- What the user does ---------------------------------------------------------------------------------------------
 
 void CPaperPage::OnPaperSelected() {
   ShowMeasures(SelectedPaper());
@@ -275,17 +275,17 @@ void CPaperPage::OnHeightLeft() {
   ShowScaledHeight();
 }
 
-void CPaperPage::OnScaleWidthEdited() {
-  FollowScaleWidth();
-  ShowScaledWidth();
-}
-
 void CPaperPage::OnRatioClicked() {
   FollowScaleWidth();
   UpdateControls();
 }
 
-// --- Corrections: silent ---------------------------------------------------------------------------------------------
+void CPaperPage::OnScaleWidthEdited() {
+  FollowScaleWidth();
+  ShowScaledWidth();
+}
+
+// --- Corrections: silent --------------------------------------------------------------------------------------------
 
 void CPaperPage::CorrectWidth() {
   CorrectNumber(*this, IDC_PAPER_WIDTH,
@@ -306,7 +306,7 @@ void CPaperPage::CorrectTopMargin() {
   if (!isWordHost) CorrectNumber(*this, IDC_PAPER_MARGIN_TOP, {kRoom, 0, NumberIn(*this, IDC_PAPER_HEIGHT), 0});
 }
 
-// --- Showing ---------------------------------------------------------------------------------------------------------
+// --- Showing --------------------------------------------------------------------------------------------------------
 
 void CPaperPage::SelectPaper(const PaperRow& paper) const {
   CComboBox(Item(IDC_PAPER_FORMAT)).Select(static_cast<int>(&paper - kPaperTable));

@@ -51,8 +51,8 @@ class CPaperPage : public CTrackedPage<PaperCockpitValues> {
   void OnPaperSelected();
   void OnWidthLeft();
   void OnHeightLeft();
-  void OnScaleWidthEdited();
   void OnRatioClicked();
+  void OnScaleWidthEdited();
 
   void CorrectWidth();
   void CorrectHeight();

@@ -107,26 +107,6 @@ int CPdfFontsPage::ChosenRadio() const { return kModeRadios[ShownRadio(*this, kM
 
 bool CPdfFontsPage::MustEmbedAll() { return RequiresEmbeddedFonts(PdfVersionFor(*this)); }
 
-void CPdfFontsPage::UpdateControls() {
-  const int radio = ChosenRadio();
-  const bool isFree = !MustEmbedAll();
-  const bool isSelective = radio == IDC_FONTS_SELECTIVE;
-  EnableControls(kModeRadios, isFree);
-  EnableControls(kLists, isFree && (isSelective || radio == IDC_FONTS_NO_STANDARD));
-  EnableControls(kButtons, isFree && isSelective);
-  // What is embedded enlarges the file.
-  Item(IDC_FONTS_SIGN_INFORMATION).Show(radio == IDC_FONTS_NONE);
-  Item(IDC_FONTS_SIGN_WARNING).Show(radio != IDC_FONTS_NONE);
-  ApplyOverrides();
-}
-
-void CPdfFontsPage::ApplyOverrides() {
-  Lock(modeOverride.IsSet(), kModeRadios);
-  const bool listsFixed = listKindOverride.IsSet() && listOverride.IsSet();
-  Lock(listsFixed, kLists);
-  Lock(listsFixed, kButtons);
-}
-
 // --- Lists ----------------------------------------------------------------------------------------------------------
 
 // Once in the page's life. The same face comes in several character sets.
@@ -216,4 +196,26 @@ CUString CPdfFontsPage::NamesIn(const CFontListBox& list) const {
     names += fonts_[list.FontOf(row)].name.View();
   }
   return CUString(std::wstring_view(names));
+}
+
+// --- What is enabled ------------------------------------------------------------------------------------------------
+
+void CPdfFontsPage::UpdateControls() {
+  const int radio = ChosenRadio();
+  const bool isFree = !MustEmbedAll();
+  const bool isSelective = radio == IDC_FONTS_SELECTIVE;
+  EnableControls(kModeRadios, isFree);
+  EnableControls(kLists, isFree && (isSelective || radio == IDC_FONTS_NO_STANDARD));
+  EnableControls(kButtons, isFree && isSelective);
+  // What is embedded enlarges the file.
+  Item(IDC_FONTS_SIGN_INFORMATION).Show(radio == IDC_FONTS_NONE);
+  Item(IDC_FONTS_SIGN_WARNING).Show(radio != IDC_FONTS_NONE);
+  ApplyOverrides();
+}
+
+void CPdfFontsPage::ApplyOverrides() {
+  Lock(modeOverride.IsSet(), kModeRadios);
+  const bool listsFixed = listKindOverride.IsSet() && listOverride.IsSet();
+  Lock(listsFixed, kLists);
+  Lock(listsFixed, kButtons);
 }

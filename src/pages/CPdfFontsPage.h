@@ -37,8 +37,8 @@ class CPdfFontsPage : public CTrackedPage<FontsCockpitValues> {
   void SaveControls(CDataExchange& exchange);
 
   void OnModeClicked(WindowMessage& message);
-  void OnExclude() { MoveSelected(FontList::NeverEmbed); }
   void OnExcludeAll();
+  void OnExclude() { MoveSelected(FontList::NeverEmbed); }
   void OnEmbed() { MoveSelected(FontList::Embed); }
   void OnEmbedAll();
 

@@ -228,6 +228,35 @@ void CPdfGraphicPage::OnModeClicked() {
   UpdateControls();
 }
 
+void CPdfGraphicPage::OnResolutionEdited() {
+  const NumberField field = ResolutionField(*this);
+  field.bar.SetPosition(NumberIn(field));
+  UpdateHint();
+}
+
+void CPdfGraphicPage::OnResolutionSelected() {
+  const NumberField field = ResolutionField(*this);
+  field.bar.SetPosition(ParseDecimal(field.combo.SelectedRowText()));
+  UpdateHint();
+}
+
+void CPdfGraphicPage::OnResolutionLeft() {
+  Normalize(ResolutionField(*this));
+  UpdateHint();
+}
+
+void CPdfGraphicPage::OnQualityEdited() {
+  const NumberField field = QualityField(*this);
+  field.bar.SetPosition(NumberIn(field));
+}
+
+void CPdfGraphicPage::OnQualitySelected() {
+  const NumberField field = QualityField(*this);
+  field.bar.SetPosition(ParseDecimal(field.combo.SelectedRowText()));
+}
+
+void CPdfGraphicPage::OnQualityLeft() { Normalize(QualityField(*this)); }
+
 void CPdfGraphicPage::OnScroll(WPARAM code, LPARAM bar) {
   const CWnd control(reinterpret_cast<HWND>(bar));
   switch (control.Id()) {
@@ -265,35 +294,6 @@ void CPdfGraphicPage::OnMouseMove(WPARAM, LPARAM point) {
   else if (IsUserDefined())
     slider.Enable(false);
 }
-
-void CPdfGraphicPage::OnResolutionEdited() {
-  const NumberField field = ResolutionField(*this);
-  field.bar.SetPosition(NumberIn(field));
-  UpdateHint();
-}
-
-void CPdfGraphicPage::OnResolutionSelected() {
-  const NumberField field = ResolutionField(*this);
-  field.bar.SetPosition(ParseDecimal(field.combo.SelectedRowText()));
-  UpdateHint();
-}
-
-void CPdfGraphicPage::OnResolutionLeft() {
-  Normalize(ResolutionField(*this));
-  UpdateHint();
-}
-
-void CPdfGraphicPage::OnQualityEdited() {
-  const NumberField field = QualityField(*this);
-  field.bar.SetPosition(NumberIn(field));
-}
-
-void CPdfGraphicPage::OnQualitySelected() {
-  const NumberField field = QualityField(*this);
-  field.bar.SetPosition(ParseDecimal(field.combo.SelectedRowText()));
-}
-
-void CPdfGraphicPage::OnQualityLeft() { Normalize(QualityField(*this)); }
 
 void CPdfGraphicPage::UpdateHint() {
   const int dpi = ResolutionField(*this).bar.Position();

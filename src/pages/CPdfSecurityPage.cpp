@@ -65,11 +65,6 @@ void CPdfSecurityPage::ExchangeCockpitValues(const CockpitExchange& exchange, Se
   exchange.Value(enhancedMode, values.enhancedPdfPassword);
 }
 
-void CPdfSecurityPage::SwitchOff() {
-  ownerEnabled = userEnabled = enhancedMode = 0;
-  if (IsWindow()) UpdateData(false);
-}
-
 BOOL CPdfSecurityPage::OnInitDialog() {
   for (const PasswordRow& row : kPasswords) {
     const CEdit edit(Item(row.editId));
@@ -87,20 +82,6 @@ BOOL CPdfSecurityPage::OnInitDialog() {
   versionLink_.SetUnderline(true);
   picture_.Attach(*this, IDC_SECURITY_PICTURE, Pictures::kLock32);
   return TRUE;
-}
-
-bool CPdfSecurityPage::OnWindowMessage(WindowMessage& message) {
-  if (message.message == WM_DESTROY) {
-    const FillingScope filling(*this);
-    for (const PasswordRow& row : kPasswords) WipePassword(CEdit(Item(row.editId)));
-  }
-  return CTrackedPage::OnWindowMessage(message);
-}
-
-LRESULT CPdfSecurityPage::ShowHelpForControl(WPARAM controlId, LPARAM link) {
-  if (controlId != IDC_SECURITY_VERSION_LINK) return CTrackedPage::ShowHelpForControl(controlId, link);
-  ActivatePage(kFormatPage);
-  return 1;
 }
 
 void CPdfSecurityPage::DoDataExchange(CDataExchange& exchange) {
@@ -174,6 +155,25 @@ int CPdfSecurityPage::EditToCorrect() const {
   for (int i = 0; i < kPasswordCount; ++i)
     if (touched_[i] && Item(kPasswords[i].editId).IsEnabled()) return kPasswords[i].editId;
   return 0;
+}
+
+void CPdfSecurityPage::SwitchOff() {
+  ownerEnabled = userEnabled = enhancedMode = 0;
+  if (IsWindow()) UpdateData(false);
+}
+
+bool CPdfSecurityPage::OnWindowMessage(WindowMessage& message) {
+  if (message.message == WM_DESTROY) {
+    const FillingScope filling(*this);
+    for (const PasswordRow& row : kPasswords) WipePassword(CEdit(Item(row.editId)));
+  }
+  return CTrackedPage::OnWindowMessage(message);
+}
+
+LRESULT CPdfSecurityPage::ShowHelpForControl(WPARAM controlId, LPARAM link) {
+  if (controlId != IDC_SECURITY_VERSION_LINK) return CTrackedPage::ShowHelpForControl(controlId, link);
+  ActivatePage(kFormatPage);
+  return 1;
 }
 
 void CPdfSecurityPage::OnOwnerClicked() {

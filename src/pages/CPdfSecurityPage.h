@@ -38,10 +38,10 @@ class CPdfSecurityPage : public CTrackedPage<SecurityCockpitValues>, public Secu
  protected:
   BOOL OnInitDialog() override;
   void DoDataExchange(CDataExchange& exchange) override;
-  bool OnWindowMessage(WindowMessage& message) override;
   MessageTable Messages() const override;
   int HelpLinkId() const override { return IDC_SECURITY_HELP_LINK; }
   void ExchangeCockpitValues(const CockpitExchange& exchange, SecurityCockpitValues& values) override;
+  bool OnWindowMessage(WindowMessage& message) override;
   // In the members, and where the page has been shown in its controls.
   void SwitchOff();
   // The controls are about to be filled. The other tab may have changed what both hold.

@@ -149,6 +149,11 @@ void CProgramPage::SaveScope() {
     applicationDevmodeStartup = kFromPrinterSetup;
 }
 
+void CProgramPage::SelectApplications(bool all) {
+  CButton(Item(IDC_SAVING_ALL_APPLICATIONS)).SetCheck(all);
+  CButton(Item(IDC_SAVING_THIS_APPLICATION)).SetCheck(!all);
+}
+
 // Contents are looked at whether or not they can be edited: they are stored all the same.
 bool CProgramPage::ValidateTargetFields(CDataExchange& exchange) {
   if (IsMissing(IDC_SAVING_FOLDER)) return Refuse(exchange, IDC_SAVING_FOLDER, MSG_SAVING_INVALID_FOLDER);
@@ -179,8 +184,6 @@ void CProgramPage::OnTargetChanged() {
   Item(IDC_SAVING_BROWSE).Enable(fixedName || fixedFolder);
   ApplyOverrides();
 }
-
-void CProgramPage::OnSuffixClicked() { Item(IDC_SAVING_SUFFIX).Enable(IsChecked(IDC_SAVING_SUFFIX_CHECK)); }
 
 // The dialogs can end the page.
 void CProgramPage::OnBrowse() {
@@ -214,16 +217,13 @@ void CProgramPage::BrowseForFolder() {
   Item(IDC_SAVING_FILE).SetText(L"");
 }
 
-void CProgramPage::SelectApplications(bool all) {
-  CButton(Item(IDC_SAVING_ALL_APPLICATIONS)).SetCheck(all);
-  CButton(Item(IDC_SAVING_THIS_APPLICATION)).SetCheck(!all);
-}
-
 void CProgramPage::OnInstancesClicked() {
   const bool single = !IsChecked(IDC_SAVING_INSTANCES);
   SelectApplications((single && (internalUse & kNotByApplication)) || (registryDevmode & kAllApplications));
   UpdateSettingsScope();
 }
+
+void CProgramPage::OnSuffixClicked() { Item(IDC_SAVING_SUFFIX).Enable(IsChecked(IDC_SAVING_SUFFIX_CHECK)); }
 
 void CProgramPage::UpdateControls() {
   if (globalTab) EnableAll(true);

@@ -36,22 +36,22 @@ class CProgramPage : public CTrackedPage<SavingCockpitValues> {
   void ExchangeCockpitValues(const CockpitExchange& exchange, SavingCockpitValues& values) override;
 
  private:
+  void ExchangeChoices(CDataExchange& exchange);
+  void ExchangeSuffixCheck(CDataExchange& exchange);
+  void LoadScope();
+  void SaveScope();
+  void SelectApplications(bool all);
+  bool ValidateTargetFields(CDataExchange& exchange);
+  bool Refuse(CDataExchange& exchange, int control, uint32_t messageId);
+
   void OnTargetChanged();
   void OnBrowse();
   void OnInstancesClicked();
   void OnSuffixClicked();
 
-  void ExchangeChoices(CDataExchange& exchange);
-  void ExchangeSuffixCheck(CDataExchange& exchange);
-  void LoadScope();
-  void SaveScope();
-  bool ValidateTargetFields(CDataExchange& exchange);
-  bool Refuse(CDataExchange& exchange, int control, uint32_t messageId);
-
   void BrowseForFile();
   void BrowseForFolder();
 
-  void SelectApplications(bool all);
   void UpdateControls();
   void UpdateSettingsScope();
   void UpdateSettingsVisibility();

@@ -28,6 +28,21 @@ constexpr PasswordRow kPasswords[kPasswordCount] = {
 CPwdConfirmDialog::CPwdConfirmDialog(const CUString& helpFile)
     : CDialog(IDD_PASSWORD_CONFIRMATION), helpFile_(helpFile) {}
 
+bool CPwdConfirmDialog::OnWindowMessage(WindowMessage& message) {
+  static constexpr MessageRow kMessages[] = {
+      OnCommand<&CPwdConfirmDialog::OnPasswordEdited>(IDC_CONFIRM_OWNER_PASSWORD, EN_CHANGE),
+      OnCommand<&CPwdConfirmDialog::OnPasswordEdited>(IDC_CONFIRM_USER_PASSWORD, EN_CHANGE),
+      OnCommand<&CPwdConfirmDialog::OnPasswordEdited>(IDC_CONFIRM_EDITING_PASSWORD, EN_CHANGE),
+      OnClick<&CPwdConfirmDialog::ShowPasswords>(IDC_CONFIRM_VISIBLE),
+      OnClick<&CPwdConfirmDialog::OnHelpClicked>(IDHELP),
+  };
+  if (message.message == WM_DESTROY) {
+    const FillingScope filling(*this);
+    for (const PasswordRow& row : kPasswords) WipePassword(CEdit(Item(row.editId)));
+  }
+  return DispatchMessages(kMessages, *this, message) || CDialog::OnWindowMessage(message);
+}
+
 BOOL CPwdConfirmDialog::OnInitDialog() {
   Item(IDC_CONFIRM_EDITING_LABEL).SetText(MessageText(MSG_CONFIRM_EDITING_PASSWORD).Text());
   if (!CDialog::OnInitDialog()) return FALSE;
@@ -57,21 +72,6 @@ void CPwdConfirmDialog::DoDataExchange(CDataExchange& exchange) {
     MsgBoxById(Handle(), kComponentName, MSG_CONFIRM_FAILED, MB_OK | MB_ICONINFORMATION);
     return exchange.Fail(kPasswords[kind].editId);
   }
-}
-
-bool CPwdConfirmDialog::OnWindowMessage(WindowMessage& message) {
-  static constexpr MessageRow kMessages[] = {
-      OnCommand<&CPwdConfirmDialog::OnPasswordEdited>(IDC_CONFIRM_OWNER_PASSWORD, EN_CHANGE),
-      OnCommand<&CPwdConfirmDialog::OnPasswordEdited>(IDC_CONFIRM_USER_PASSWORD, EN_CHANGE),
-      OnCommand<&CPwdConfirmDialog::OnPasswordEdited>(IDC_CONFIRM_EDITING_PASSWORD, EN_CHANGE),
-      OnClick<&CPwdConfirmDialog::ShowPasswords>(IDC_CONFIRM_VISIBLE),
-      OnClick<&CPwdConfirmDialog::OnHelpClicked>(IDHELP),
-  };
-  if (message.message == WM_DESTROY) {
-    const FillingScope filling(*this);
-    for (const PasswordRow& row : kPasswords) WipePassword(CEdit(Item(row.editId)));
-  }
-  return DispatchMessages(kMessages, *this, message) || CDialog::OnWindowMessage(message);
 }
 
 void CPwdConfirmDialog::OnPasswordEdited(WindowMessage& message) {

@@ -96,24 +96,10 @@ void CUpdatePage::SaveSchedule() {
   ApplyUpdateOverrides();
 }
 
-// What is disabled keeps its check, and is stored.
-void CUpdatePage::UpdateUpdateControls() {
-  const bool automatic = !IsChecked(IDC_UPDATE_MANUAL);
-  Item(IDC_UPDATE_DOWNLOAD).Enable(automatic);
-  Item(IDC_UPDATE_INSTALL).Enable(automatic && IsChecked(IDC_UPDATE_DOWNLOAD));
-  ApplyUpdateOverrides();
-}
-
 void CUpdatePage::CheckUpdaterPresent() {
   const CUString folder = InstallLocation();
   // A second separator does no harm, but two alone would name a server.
   isUpdaterMissing_ = folder.Length() <= 1 || !FileExists((folder + L"\\" + kUpdator).Text());
-}
-
-void CUpdatePage::ApplyUpdateOverrides() {
-  Lock(isUpdaterMissing_ || updateTypeOverride.IsSet(),
-       {IDC_UPDATE_AUTOMATIC, IDC_UPDATE_DOWNLOAD, IDC_UPDATE_INSTALL, IDC_UPDATE_MANUAL, IDC_UPDATE_BETA});
-  Lock(isUpdaterMissing_ || disableManualUpdate.value == 1, {IDC_UPDATE_SEARCH});
 }
 
 // An updater that installs closes the sheet: a page that is gone has nothing to tell.
@@ -157,4 +143,18 @@ void CUpdatePage::SetJobProperties(NemUpdateJob& job) {
   job.SetProperty(L"downloadtype", L"ShowDialog");
   job.SetProperty(L"closewindows", WindowsToClose(*this).Text());
   job.SetProperty(L"msilogpath", InstallLocation().Text());
+}
+
+// What is disabled keeps its check, and is stored.
+void CUpdatePage::UpdateUpdateControls() {
+  const bool automatic = !IsChecked(IDC_UPDATE_MANUAL);
+  Item(IDC_UPDATE_DOWNLOAD).Enable(automatic);
+  Item(IDC_UPDATE_INSTALL).Enable(automatic && IsChecked(IDC_UPDATE_DOWNLOAD));
+  ApplyUpdateOverrides();
+}
+
+void CUpdatePage::ApplyUpdateOverrides() {
+  Lock(isUpdaterMissing_ || updateTypeOverride.IsSet(),
+       {IDC_UPDATE_AUTOMATIC, IDC_UPDATE_DOWNLOAD, IDC_UPDATE_INSTALL, IDC_UPDATE_MANUAL, IDC_UPDATE_BETA});
+  Lock(isUpdaterMissing_ || disableManualUpdate.value == 1, {IDC_UPDATE_SEARCH});
 }

@@ -21,15 +21,16 @@ class CUpdatePage : public CNemUIPage {
   MessageTable Messages() const override;
 
  private:
-  void OnSearchClicked();
-  bool IsNewest();
-  void SetJobProperties(NemUpdateJob& job);
-
   void LoadSchedule();
   void SaveSchedule();
+  void CheckUpdaterPresent();
+
+  void OnSearchClicked();
+
+  bool IsNewest();
+  void SetJobProperties(NemUpdateJob& job);
   void UpdateUpdateControls();
   void ApplyUpdateOverrides();
-  void CheckUpdaterPresent();
 
   bool isUpdaterMissing_ = true;  // when the page was last filled or left
   bool isSearching_ = false;      // the updater may let the user's clicks through meanwhile

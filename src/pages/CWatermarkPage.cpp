@@ -132,38 +132,6 @@ void CWatermarkPage::SaveStationeries() {
   dialog_.Close(*this);
 }
 
-// --- What is enabled ------------------------------------------------------------------------------------------------
-
-void CWatermarkPage::OnWatermarkCheck() {
-  const bool on = IsChecked(IDC_WATERMARK_USE);
-  EnableControls({IDC_WATERMARK_FILE, IDC_WATERMARK_BROWSE, IDC_WATERMARK_FOREGROUND}, on);
-  ApplyOverrides();
-}
-
-// A version without stationery closes the group; the choice itself stays as it is.
-void CWatermarkPage::OnStationeryCheck() {
-  const bool allowed = AllowsStationery(PdfVersionFor(*this));
-  Item(IDC_STATIONERY_USE).Enable(allowed);
-  EnableStationeryControls(allowed && IsChecked(IDC_STATIONERY_USE));
-}
-
-void CWatermarkPage::EnableStationeryControls(bool enable) {
-  EnableControls({IDC_STATIONERY_ADD, IDC_STATIONERY_LIST, IDC_STATIONERY_FOREGROUND}, enable);
-  const bool hasRows = list_.Count() > 0;
-  EnableControls({IDC_STATIONERY_PROPERTIES, IDC_STATIONERY_DISPLAY, IDC_STATIONERY_DELETE}, enable && hasRows);
-  ApplyOverrides();
-}
-
-void CWatermarkPage::ApplyOverrides() {
-  Lock(watermarkEnabledOverride.IsSet(), {IDC_WATERMARK_USE});
-  Lock(watermarkAsBackgroundOverride.IsSet(), {IDC_WATERMARK_FOREGROUND});
-  Lock(watermarkFilenameOverride.IsSet(), {IDC_WATERMARK_FILE, IDC_WATERMARK_BROWSE});
-  Lock(stationeryEnabledOverride.IsSet(), {IDC_STATIONERY_USE});
-  Lock(stationeryAsForegroundOverride.IsSet(), {IDC_STATIONERY_FOREGROUND});
-  Lock(IsListFixed(), {IDC_STATIONERY_LIST, IDC_STATIONERY_ADD, IDC_STATIONERY_PROPERTIES, IDC_STATIONERY_DISPLAY,
-                       IDC_STATIONERY_DELETE, IDC_STATIONERY_FOREGROUND});
-}
-
 // --- Files ----------------------------------------------------------------------------------------------------------
 
 // Empty when the user has chosen none, or the page has come to its end meanwhile.
@@ -236,23 +204,6 @@ void CWatermarkPage::OnStationeryProperties() {
   if (const auto format = SelectedStationery()) ShowProperties(format);
 }
 
-// By keyboard there is no other way into a dialog that is open already.
-void CWatermarkPage::OnStationeryReturn() {
-  OnStationeryProperties();
-  if (dialog_.IsOpen()) dialog_->Activate();
-}
-
-void CWatermarkPage::OnStationeryDblClk(WindowMessage& message) {
-  const int row = ClickedRow(list_, message);
-  if (row < 0) return;
-  list_.SelectRow(row);
-  OnStationeryProperties();
-}
-
-void CWatermarkPage::OnStationeryKey(WindowMessage& message) {
-  if (IsDeleteKey(message) && Item(IDC_STATIONERY_DELETE).IsEnabled()) OnDeleteStationery();
-}
-
 void CWatermarkPage::OnDisplayStationery() {
   if (const auto format = SelectedStationery()) OpenWithShell(Handle(), format->GetFile().Text(), SW_SHOWNORMAL);
 }
@@ -263,6 +214,23 @@ void CWatermarkPage::OnDeleteStationery() {
   if (dialog_.IsOpen() && dialog_->GetFormat() == SelectedStationery()) dialog_.Close(*this);
   list_.RemoveEntry(entry);
   EnableStationeryControls(true);
+}
+
+void CWatermarkPage::OnStationeryDblClk(WindowMessage& message) {
+  const int row = ClickedRow(list_, message);
+  if (row < 0) return;
+  list_.SelectRow(row);
+  OnStationeryProperties();
+}
+
+// By keyboard there is no other way into a dialog that is open already.
+void CWatermarkPage::OnStationeryReturn() {
+  OnStationeryProperties();
+  if (dialog_.IsOpen()) dialog_->Activate();
+}
+
+void CWatermarkPage::OnStationeryKey(WindowMessage& message) {
+  if (IsDeleteKey(message) && Item(IDC_STATIONERY_DELETE).IsEnabled()) OnDeleteStationery();
 }
 
 // --- Properties -----------------------------------------------------------------------------------------------------
@@ -277,15 +245,15 @@ void CWatermarkPage::ShowProperties(const std::shared_ptr<CStationeryFormat>& fo
 
 void CWatermarkPage::OnStationeryApplied() { list_.RefreshRows(); }
 
-void CWatermarkPage::OnStationeryOk() {
-  list_.RefreshRows();
-  dialog_.Close(*this);
-}
-
 // A dialog that is gone may have been cancelled twice: the second time must not take the next entry.
 void CWatermarkPage::OnStationeryCancelled(WPARAM mark, LPARAM) {
   if (!dialog_.IsOpen()) return;
   if (mark == kNewListEntry) OnDeleteStationery();
+  dialog_.Close(*this);
+}
+
+void CWatermarkPage::OnStationeryOk() {
+  list_.RefreshRows();
   dialog_.Close(*this);
 }
 
@@ -294,3 +262,35 @@ void CWatermarkPage::OnStationeryModified() {
 }
 
 void CWatermarkPage::OnDestroy() { dialog_.Drop(); }
+
+// --- What is enabled ------------------------------------------------------------------------------------------------
+
+void CWatermarkPage::OnWatermarkCheck() {
+  const bool on = IsChecked(IDC_WATERMARK_USE);
+  EnableControls({IDC_WATERMARK_FILE, IDC_WATERMARK_BROWSE, IDC_WATERMARK_FOREGROUND}, on);
+  ApplyOverrides();
+}
+
+// A version without stationery closes the group; the choice itself stays as it is.
+void CWatermarkPage::OnStationeryCheck() {
+  const bool allowed = AllowsStationery(PdfVersionFor(*this));
+  Item(IDC_STATIONERY_USE).Enable(allowed);
+  EnableStationeryControls(allowed && IsChecked(IDC_STATIONERY_USE));
+}
+
+void CWatermarkPage::EnableStationeryControls(bool enable) {
+  EnableControls({IDC_STATIONERY_ADD, IDC_STATIONERY_LIST, IDC_STATIONERY_FOREGROUND}, enable);
+  const bool hasRows = list_.Count() > 0;
+  EnableControls({IDC_STATIONERY_PROPERTIES, IDC_STATIONERY_DISPLAY, IDC_STATIONERY_DELETE}, enable && hasRows);
+  ApplyOverrides();
+}
+
+void CWatermarkPage::ApplyOverrides() {
+  Lock(watermarkEnabledOverride.IsSet(), {IDC_WATERMARK_USE});
+  Lock(watermarkAsBackgroundOverride.IsSet(), {IDC_WATERMARK_FOREGROUND});
+  Lock(watermarkFilenameOverride.IsSet(), {IDC_WATERMARK_FILE, IDC_WATERMARK_BROWSE});
+  Lock(stationeryEnabledOverride.IsSet(), {IDC_STATIONERY_USE});
+  Lock(stationeryAsForegroundOverride.IsSet(), {IDC_STATIONERY_FOREGROUND});
+  Lock(IsListFixed(), {IDC_STATIONERY_LIST, IDC_STATIONERY_ADD, IDC_STATIONERY_PROPERTIES, IDC_STATIONERY_DISPLAY,
+                       IDC_STATIONERY_DELETE, IDC_STATIONERY_FOREGROUND});
+}

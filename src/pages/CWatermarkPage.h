@@ -53,16 +53,15 @@ class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public Stati
   void OnStationeryProperties();
   void OnDisplayStationery();
   void OnDeleteStationery();
-  void OnStationeryReturn();
   void OnStationeryDblClk(WindowMessage& message);
+  void OnStationeryReturn();
   void OnStationeryKey(WindowMessage& message);
-  void OnDropFiles(WPARAM record, LPARAM);
-  void OnDestroy();
-
   void OnStationeryApplied();
   void OnStationeryCancelled(WPARAM mark, LPARAM);
   void OnStationeryOk();
   void OnStationeryModified();
+  void OnDropFiles(WPARAM record, LPARAM);
+  void OnDestroy();
 
   CUString AskForFile(uint32_t filterId, const CUString& startName);
   void Tell(const wchar_t* title, const CUString& text, UINT icon);

@@ -50,23 +50,6 @@ void CZugferdPage::ExchangeCockpitValues(const CockpitExchange& exchange, Zugfer
   if (exchange.IsToPage() && IsWindow() && !xmlOverride.IsSet()) Item(IDC_ZUGFERD_XML_FILE).SetText(xmlFile.Text());
 }
 
-void CZugferdPage::ClearOverrides() {
-  zugferdOverride = {};
-  creationMethodOverride = {};
-  deleteOverride = {};
-  xmlOverride = {};
-}
-
-LRESULT CZugferdPage::ShowHelpForControl(WPARAM controlId, LPARAM argument) {
-  if (controlId != IDC_ZUGFERD_HELP_LINK) return CTrackedPage::ShowHelpForControl(controlId, argument);
-  CUString folder;
-  GetProductInstallLocation(folder);
-  // Behind no folder the name alone would lead anywhere, to another computer at worst.
-  if (folder.Length() <= 1) return 1;
-  OpenWithShell(Handle(), MarkedContentManual(folder).Text(), SW_SHOW, nullptr);
-  return 1;
-}
-
 BOOL CZugferdPage::OnInitDialog() {
   ChangeExtendedStyle(0, WS_EX_ACCEPTFILES);
   CEdit(Item(IDC_ZUGFERD_XML_FILE)).ReadLeftToRight();
@@ -91,6 +74,23 @@ void CZugferdPage::ExchangeXmlFile(const CDataExchange& exchange) {
   if (exchange.IsSaving()) xmlFile = shown.Left(kMaxInvoiceFileLength);
 }
 
+void CZugferdPage::ClearOverrides() {
+  zugferdOverride = {};
+  creationMethodOverride = {};
+  deleteOverride = {};
+  xmlOverride = {};
+}
+
+LRESULT CZugferdPage::ShowHelpForControl(WPARAM controlId, LPARAM argument) {
+  if (controlId != IDC_ZUGFERD_HELP_LINK) return CTrackedPage::ShowHelpForControl(controlId, argument);
+  CUString folder;
+  GetProductInstallLocation(folder);
+  // Behind no folder the name alone would lead anywhere, to another computer at worst.
+  if (folder.Length() <= 1) return 1;
+  OpenWithShell(Handle(), MarkedContentManual(folder).Text(), SW_SHOW, nullptr);
+  return 1;
+}
+
 void CZugferdPage::OnCreateInvoice() {
   zugferd = IsChecked(IDC_ZUGFERD_CREATE) ? 1 : 0;
   if (zugferd) RequirePdfA3();
@@ -107,16 +107,6 @@ void CZugferdPage::OnDeleteAfterEmbedding() { deleteAfterEmbedding = IsChecked(I
 
 void CZugferdPage::OnShowAfterCreation() { showAfterCreation = IsChecked(IDC_ZUGFERD_SHOW) ? 1 : 0; }
 
-void CZugferdPage::OnCreationMethod() {
-  if (IsChecked(IDC_ZUGFERD_FROM_FILE))
-    creationMethod = kFromFile;
-  else if (IsChecked(IDC_ZUGFERD_FROM_CONTENT))
-    creationMethod = kFromContent;
-  else
-    return;
-  UpdateControls();
-}
-
 // Cancel forgets the former file, on purpose.
 void CZugferdPage::OnBrowseXml() {
   const CActivationScope look;
@@ -131,6 +121,16 @@ void CZugferdPage::OnBrowseXml() {
 void CZugferdPage::TakeXmlFile(const CUString& path) {
   xmlFile = path;
   Item(IDC_ZUGFERD_XML_FILE).SetText(path.Text());
+}
+
+void CZugferdPage::OnCreationMethod() {
+  if (IsChecked(IDC_ZUGFERD_FROM_FILE))
+    creationMethod = kFromFile;
+  else if (IsChecked(IDC_ZUGFERD_FROM_CONTENT))
+    creationMethod = kFromContent;
+  else
+    return;
+  UpdateControls();
 }
 
 void CZugferdPage::OnDropFiles(WPARAM record, LPARAM) {
