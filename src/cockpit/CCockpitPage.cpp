@@ -56,10 +56,10 @@ CCockpitPage::CCockpitPage(const PageDescription& description)
 
 MessageTable CCockpitPage::Messages() const {
   static constexpr MessageRow kMessages[] = {
-      OnMessage<&CCockpitPage::OnLinkClicked>(kLinkClickedMessage),
-      OnMessage<&CCockpitPage::OnRowFocus>(kRowFocusMessage),
-      OnMessage<&CCockpitPage::OnMouseLeave>(WM_MOUSELEAVE),
       OnClick<&CCockpitPage::OnRestoreDefaults>(IDC_COCKPIT_RESTORE),
+      OnMessage<&CCockpitPage::OnLinkClicked>(kLinkClickedMessage),
+      OnMessage<&CCockpitPage::OnMouseLeave>(WM_MOUSELEAVE),
+      OnMessage<&CCockpitPage::OnRowFocus>(kRowFocusMessage),
   };
   return kMessages;
 }
