@@ -1,6 +1,7 @@
 # Reads the output of a GoogleTest program. Prints "passed failed skipped ran-to-its-end" as four numbers; what the
 # failed tests printed goes to the file `failures`, at most 80 lines a test. A test in which the program died counts as
-# failed. What a running test tells of another program's tests is its own text, and counts for nothing.
+# failed. What a running test tells of other tests, of a program that it has started, is its own text, and counts for
+# nothing.
 {
   sub(/\r$/, "")
 }

@@ -145,8 +145,9 @@ void CPdfSecurityPage::ConfirmPasswords(CDataExchange& exchange) {
   CPwdConfirmDialog dialog(GetHelpFilename());
   for (const PasswordKind kind : kPasswordKinds)
     if (IsConfirmed(kind, switches, states[kind].isSet)) dialog.expected[kind] = *passwords[kind];
-  if (dialog.DoModal(Handle()) == IDOK) return ForgetTouches();
-  CountAsMessageBox();  // who cancels it knows why the page stays
+  const INT_PTR end = dialog.DoModal(Handle());
+  if (end == IDOK) return ForgetTouches();
+  if (end != -1) CountAsMessageBox();  // who cancels it knows why the page stays; one that cannot come up tells nobody
   exchange.Fail(EditToCorrect());
 }
 

@@ -50,7 +50,7 @@ template <class Step>
 bool RunTold(CNemUIPage& page, Step step) {
   const unsigned boxesBefore = MessageBoxCount();
   if (step()) return true;
-  if (MessageBoxCount() != boxesBefore) return false;
+  if (MessageBoxCount() != boxesBefore || !page.IsWindow()) return false;
   const HWND window = page.Handle(), focus = ::GetFocus();
   RunCatching([&] { TellInvalidData(window, page.GetMsgBoxTitle().Text()); });
   if (::IsChild(window, focus)) ::SetFocus(focus);  // what is wrong keeps the keyboard

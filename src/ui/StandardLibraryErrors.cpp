@@ -1,9 +1,10 @@
 // How the standard library tells of errors, without what its own functions would bring into the library: names of types
 // made readable, formatted texts, strings of an old kind, sources of random numbers, in all a tenth of our code. What
-// is thrown here is caught where every exception is: no code of ours asks which error it was.
+// is thrown here is caught where every exception is. Code of ours asks for exhausted memory at most, which keeps its
+// type.
 //
-// The linker takes these in place of the standard library's own. A function that is missing here shows as one that is
-// defined twice.
+// The linker takes these in place of the standard library's own. One of its general errors that is missing here shows
+// as a function that is defined twice.
 #include <cstdlib>
 #include <exception>
 #include <new>
@@ -23,7 +24,7 @@ class LibraryError : public std::exception {
 
 namespace __gnu_cxx {
 
-// A host has no console that could show what the original writes.
+// What the original writes belongs on no host's console.
 void __verbose_terminate_handler() { std::abort(); }
 
 }  // namespace __gnu_cxx

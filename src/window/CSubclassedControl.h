@@ -1,5 +1,5 @@
 // A control whose messages this object sees first. Object and control may end in either order: the object lets go when
-// the control dies, and at its own end when that comes first.
+// the control dies, and at its own end when that comes first. Both belong to one thread.
 //
 //   class CImageStatic : public CSubclassed<CStatic> { ... };
 //   logo_.Attach(*this, IDC_LOGO);

@@ -1,5 +1,6 @@
 #include <gtest/gtest.h>
 
+#include "driver/ImportPatch.h"
 #include "driver/Popups.h"
 #include "pages/CPdfSecurityPage.h"
 #include "pages/SecurityAccess.h"
@@ -9,6 +10,7 @@
 #include "support/ControlPictures.h"
 #include "support/FakeFormatPage.h"
 #include "support/HelpSpy.h"
+#include "support/InvalidDataBox.h"
 
 namespace {
 
@@ -583,6 +585,18 @@ TEST_F(SecurityPage, SwitchingAPasswordOnTouchesItAndOffDoesNot) {
   leaveWith({1259}, false);
   leaveWith({1260}, false);
   leaveWith({1258, 1260}, true);
+}
+
+INT_PTR WINAPI NoDialog(HINSTANCE, const DLGTEMPLATE*, HWND, DLGPROC, LPARAM) { return -1; }
+
+TEST_F(SecurityPage, AConfirmationThatCannotComeUpIsToldOf) {
+  WantConfirmation();
+  OpenWith(14);
+  Control(1005).SetText(L"new");
+  ASSERT_GT(PatchImport("user32.dll", "DialogBoxIndirectParamW", reinterpret_cast<void*>(&NoDialog)), 0);
+  popups_.ExpectBox(InvalidDataBox(L"Title"));
+  EXPECT_FALSE(Leave());
+  RestoreImport("user32.dll", "DialogBoxIndirectParamW");
 }
 
 TEST_F(SecurityPage, AConfirmationThatIsCancelledKeepsTheUserOnThePage) {

@@ -303,6 +303,19 @@ TEST_F(NemUIPage, OneFailureHasOneBox) {
   }
 }
 
+TEST_F(NemUIPage, APageThatEndsInAStepNeedsNoBox) {
+  for (const auto step : {&CNemUIPage::OnKillActive, &CNemUIPage::OnApply}) {
+    BarePage page;
+    ASSERT_TRUE(page.Create(parent_.Window()));
+    page.controls = [&page](CDataExchange& data) {
+      page.Destroy();
+      data.Fail(0);
+    };
+    Popups popups;
+    EXPECT_FALSE((page.*step)());
+  }
+}
+
 // A page whose boxes cannot be made either.
 TEST_F(NemUIPage, NothingThatTheTellingThrowsLeavesTheTwoSteps) {
   BarePage page;

@@ -5,6 +5,7 @@
 
 #include <commctrl.h>
 
+#include <algorithm>
 #include <atomic>
 #include <thread>
 #include <vector>
@@ -70,7 +71,8 @@ TEST(FirstControls, DISABLED_ComeUpOnManyThreadsAtOnce) {
   std::vector<std::thread> threads;
   for (int i = 0; i < kThreads; ++i)
     threads.emplace_back([&, i] {
-      SetThreadAffinityMask(GetCurrentThread(), DWORD_PTR{1} << (i % std::thread::hardware_concurrency()));
+      SetThreadAffinityMask(GetCurrentThread(),
+                            DWORD_PTR{1} << (i % std::max(1u, std::thread::hardware_concurrency())));
       ++ready;
       while (ready < kThreads) SwitchToThread();
       const CActivationScope look;

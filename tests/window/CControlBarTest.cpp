@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <atomic>
 #include <memory>
 #include <stdexcept>
@@ -124,7 +125,8 @@ TEST(ControlBars, ComeUpOnManyThreadsAtOnce) {
     std::vector<std::thread> threads;
     for (int i = 0; i < kThreads; ++i)
       threads.emplace_back([&, i] {
-        SetThreadAffinityMask(GetCurrentThread(), DWORD_PTR{1} << (i % std::thread::hardware_concurrency()));
+        SetThreadAffinityMask(GetCurrentThread(),
+                              DWORD_PTR{1} << (i % std::max(1u, std::thread::hardware_concurrency())));
         const PageParent parent;
         Bar bar;
         ++ready;

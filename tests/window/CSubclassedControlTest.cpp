@@ -5,7 +5,9 @@
 
 #include <memory>
 #include <stdexcept>
+#include <thread>
 
+#include "DriverLIB/ModuleState.h"
 #include "DriverLIB/WindowThreadState.h"
 #include "support/FakeSheet.h"
 #include "support/PrintText.h"
@@ -158,6 +160,18 @@ TEST_F(SubclassedControl, AProcedureAboveItsOwnMayStayLonger) {
   EXPECT_EQ(42, SendMessageW(Control(kFirst), kQuestion, 0, 0));
   DestroyWindow(Control(kFirst));
   EXPECT_EQ("attached destroyed ", next.life);
+}
+
+TEST_F(SubclassedControl, AControlOfAnotherThreadIsRefused) {
+  Watcher watcher;
+  bool attached = true;
+  std::thread([&] {
+    InitThreadState(GetModuleHandleW(nullptr));
+    attached = watcher.Attach(Dialog(), kFirst);
+    FreeThreadState();
+  }).join();
+  EXPECT_FALSE(attached);
+  EXPECT_EQ(0, SendMessageW(Control(kFirst), kQuestion, 0, 0));
 }
 
 TEST_F(SubclassedControl, TheThreadKeepsNothingBehindTheLastObject) {
