@@ -63,12 +63,14 @@ double ParseDouble(NarrowView text) {
 }
 
 CUString FormatDouble(const wchar_t* format, double number) {
-  // The run-time library writes by the locale of the process, too: what stands between these two digits is its sign.
-  CUString sign, text;
-  sign.Format(L"%.1f", 0.5);
+  CUString text;
   text.Format(format, number);
-  text.ReplaceStr(sign.Mid(1, sign.Length() - 2).Text(), L".");
-  return text;
+  // The run-time library writes by the locale of the process, too: what no number has anywhere is its decimal sign.
+  const std::wstring_view written = text.View();
+  const size_t sign = std::isfinite(number) ? written.find_first_not_of(L"+-0123456789.e") : written.npos;
+  if (sign == written.npos) return text;
+  const size_t decimals = std::min(written.find_first_of(L"0123456789", sign), written.size());
+  return written.substr(0, sign) + CUString(L".") + written.substr(decimals);
 }
 
 double RoundDecimal(double value, int digits) {
