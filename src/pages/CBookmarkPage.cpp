@@ -200,10 +200,9 @@ void CBookmarkPage::OnDblClk(WindowMessage& message) {
   OnEditFormat();
 }
 
-// By keyboard there is no other way into a dialog that is open already.
 void CBookmarkPage::OnReturn() {
   OnEditFormat();
-  if (dialog_.IsOpen()) dialog_->Activate();
+  dialog_.ActivateIfOpen();
 }
 
 void CBookmarkPage::OnKeyDown(WindowMessage& message) {
@@ -265,7 +264,7 @@ void CBookmarkPage::ShowBookmarkFormatDialog(bool isNew) {
   } else if (!dialog_->Open(*this)) {
     CloseDialog();
   }
-  if (isNew && dialog_.IsOpen()) dialog_->Activate();
+  if (isNew) dialog_.ActivateIfOpen();
   UpdateControls();
 }
 

@@ -223,10 +223,9 @@ void CWatermarkPage::OnStationeryDblClk(WindowMessage& message) {
   OnStationeryProperties();
 }
 
-// By keyboard there is no other way into a dialog that is open already.
 void CWatermarkPage::OnStationeryReturn() {
   OnStationeryProperties();
-  if (dialog_.IsOpen()) dialog_->Activate();
+  dialog_.ActivateIfOpen();
 }
 
 void CWatermarkPage::OnStationeryKey(WindowMessage& message) {

@@ -26,6 +26,10 @@ class ListEntryDialog {
     dialog_ = std::make_unique<Dialog>(std::forward<decltype(arguments)>(arguments)...);
     return *dialog_;
   }
+  // By keyboard there is no other way into a dialog that is open already.
+  void ActivateIfOpen() const {
+    if (IsOpen()) dialog_->Activate();
+  }
   // The page gets the keyboard back, where it is seen.
   void Close(const CWnd& page) {
     const auto dialog = std::move(dialog_);

@@ -6,15 +6,10 @@
 #include <string>
 #include <vector>
 
+#include "support/CostGrowth.h"
 #include "support/PrintText.h"
 #include "support/TempFile.h"
 #include "support/TracedThread.h"
-
-#ifdef _WIN32
-#include <windows.h>
-#else
-#include <ctime>
-#endif
 
 namespace {
 
@@ -331,28 +326,15 @@ std::string LinesOf(size_t size) {
   return text;
 }
 
-// What the process has computed so far, in seconds: others that compute on the same machine do not count.
-double ProcessorSeconds() {
-#ifdef _WIN32
-  FILETIME creation, exit, kernel, user;
-  GetProcessTimes(GetCurrentProcess(), &creation, &exit, &kernel, &user);
-  return 1e-7 * (1.0 * kernel.dwLowDateTime + user.dwLowDateTime +
-                 4294967296.0 * (kernel.dwHighDateTime + user.dwHighDateTime));
-#else
-  return 1.0 * std::clock() / CLOCKS_PER_SEC;
-#endif
-}
-
 struct Cost {
   double calls, bytes, seconds;
 };
 
 Cost CostOf(const wchar_t* name) {
   AdminSettings record;
-  const double begin = ProcessorSeconds();
   CountedFile file(L"", name);
-  EXPECT_TRUE(file.Parse(record, nullptr));
-  return {1.0 * file.calls, 1.0 * file.bytes, ProcessorSeconds() - begin};
+  const double seconds = TimeOf([&] { EXPECT_TRUE(file.Parse(record, nullptr)); });
+  return {1.0 * file.calls, 1.0 * file.bytes, seconds};
 }
 
 constexpr size_t kHalf = 500'000, kWhole = 1'000'000;
@@ -379,7 +361,6 @@ TEST_F(ConfFileCost, TwiceTheFileCostsThePlatformTwice) {
 }
 
 TEST_F(ConfFileCost, TwiceTheFileTakesTwiceAsLong) {
-  // The platform counts a process's time in ticks of some ten milliseconds, so one figure is of many readings.
   const auto timeOf = [](const wchar_t* name) {
     double seconds = 0;
     for (int reading = 0; reading < 12; ++reading) seconds += CostOf(name).seconds;

@@ -2,6 +2,7 @@
 
 #include <gtest/gtest.h>
 
+#include <clocale>
 #include <cmath>
 #include <cstdlib>
 #include <limits>
@@ -9,7 +10,6 @@
 
 #include "DriverLIB/CUString.h"
 #include "pages/CBookmarkFormat.h"
-#include "support/CommaLocale.h"
 #include "support/DecimalSignScope.h"
 
 namespace {
@@ -51,6 +51,25 @@ const DecimalSample kDecimals[] = {
     {L"\x066A", 0},
     {L"/", 0},
     {L":", 0},
+};
+
+// A locale whose decimal sign is a comma. A host may have chosen that of its user for the run-time library that is ours
+// too.
+class CommaLocale {
+ public:
+  CommaLocale()
+      : before_(std::setlocale(LC_NUMERIC, nullptr)),
+        isThere_(std::setlocale(LC_NUMERIC, "German") || std::setlocale(LC_NUMERIC, "de_DE.UTF-8")) {}
+  ~CommaLocale() { std::setlocale(LC_NUMERIC, before_.c_str()); }
+  CommaLocale(const CommaLocale&) = delete;
+  CommaLocale& operator=(const CommaLocale&) = delete;
+
+  // Not every system has one.
+  bool IsThere() const { return isThere_; }
+
+ private:
+  const std::string before_;
+  const bool isThere_;
 };
 
 TEST(ParseDouble, TakesThePointForTheDecimalSignUnderEveryLocale) {

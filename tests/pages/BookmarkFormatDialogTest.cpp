@@ -14,6 +14,7 @@
 #include "resources/ResourceIds.h"
 #include "sheet/CNemUISheet.h"
 #include "support/Accessible.h"
+#include "support/EnterIntoDialog.h"
 #include "support/FakeSheet.h"
 #include "support/IconPixels.h"
 #include "support/InvalidDataBox.h"
@@ -853,12 +854,7 @@ TEST_F(BookmarkSheet, DoubleClickAndEnterOpenTheDialog) {
     EXPECT_TRUE(IsOpen());
     EXPECT_TRUE(sheet.IsOpen());
     EXPECT_EQ(L"Heading 2", Item(kName).Text());
-    SetActiveWindow(sheet.Window());
-    List(sheet).Focus();
-    sheet.Key(VK_RETURN);
-    co_await sheet.Settled();
-    EXPECT_EQ(dialog_, GetActiveWindow()) << "back into the open dialog";
-    EXPECT_TRUE(IsChild(dialog_, GetFocus()));
+    co_await ExpectEnterLeadsBack(sheet, List(sheet), dialog_);
   });
 }
 

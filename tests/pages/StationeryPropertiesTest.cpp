@@ -13,6 +13,7 @@
 #include "resources/ResourceIds.h"
 #include "sheet/CNemUISheet.h"
 #include "support/DropRecord.h"
+#include "support/EnterIntoDialog.h"
 #include "support/FailingMalloc.h"
 #include "support/FakeSheet.h"
 #include "support/FileDialogSpy.h"
@@ -452,12 +453,7 @@ TEST_F(StationerySheet, DoubleClickAndEnterOpenTheProperties) {
     co_await sheet.Settled();
     EXPECT_TRUE(IsOpen());
     EXPECT_TRUE(sheet.IsOpen());
-    SetActiveWindow(sheet.Window());
-    List(sheet).Focus();
-    sheet.Key(VK_RETURN);
-    co_await sheet.Settled();
-    EXPECT_EQ(dialog_, GetActiveWindow()) << "back into the open dialog";
-    EXPECT_TRUE(IsChild(dialog_, GetFocus()));
+    co_await ExpectEnterLeadsBack(sheet, List(sheet), dialog_);
   });
 }
 
