@@ -114,7 +114,8 @@ class CConfChecker {
     const size_t place = begin + static_cast<size_t>(line.text.data() - text);
     lineNumber_ += CountLineEnds(std::exchange(counted_, place), place);
     const int number = lineNumber_;
-    const bool isRest = begin > 0 && !IsLineEnd(bytes_[begin - 1]);
+    // The end of a line that fills its piece stands in the next one, in front of a line of its own.
+    const bool isRest = begin > 0 && bytes_.substr(begin - 1, place - begin + 1).find_first_of("\r\n") == bytes_.npos;
     CheckForm(begin, end, line, number, isRest);
     switch (line.kind) {
       case ConfLineKind::Value:

@@ -3,6 +3,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <utility>
 #include <vector>
 
 #include "support/PrintText.h"
@@ -180,11 +181,20 @@ TEST_F(ConfCheck, ALineThatFillsItsPieceIsNotTooLong) {
       const std::string line = "Author_Override = " + std::string(length - 18, 'a');
       EXPECT_EQ(Lines{}, Found(line + end)) << length;
       EXPECT_EQ((Lines{std::wstring(L"2: no \"=\"") + kStops}), Found(line + "\r\nbad")) << length;
+      // With another end behind it the next line is read in one piece with this one's end.
+      if (!*end) continue;
+      EXPECT_EQ(Lines{}, Found(line + end + "PdfVersion_Override = 14\r\n")) << length;
+      EXPECT_EQ(14, std::exchange(record.PdfVersion_Override, -1)) << length;
+      EXPECT_EQ((Lines{std::wstring(L"2: unknown key \"Nothing\"") + kStops}), Found(line + end + "Nothing = 1\r\n"))
+          << length;
     }
 }
 
 TEST_F(ConfCheck, WhiteSpaceBehindALongLineDoesNoHarm) {
-  EXPECT_EQ(Lines{}, Found("Author_Override = a" + std::string(2000, ' ') + "\r\n"));
+  const std::string line = "Author_Override = a" + std::string(2000, ' ');
+  EXPECT_EQ(Lines{}, Found(line + "\r\n"));
+  EXPECT_EQ(Lines{}, Found(line + "\nPdfVersion_Override = 14\r\n"));
+  EXPECT_EQ(14, record.PdfVersion_Override);
 }
 
 TEST_F(ConfCheck, CountsEveryKindOfLineEnd) {
