@@ -7,6 +7,7 @@
 #include <gtest/gtest.h>
 
 #include <string>
+#include <thread>
 #include <vector>
 
 #include "driver/ImportPatch.h"
@@ -48,6 +49,15 @@ BOOL WINAPI OtherTokenInformation(HANDLE, TOKEN_INFORMATION_CLASS, void* buffer,
   return fits ? !refuseUser : sizeError == ERROR_SUCCESS;
 }
 
+// All tokens of Wine name one user, so what a thread's own token tells of its user is another's; the tokens are real.
+BOOL WINAPI OtherUserOfThreads(HANDLE token, TOKEN_INFORMATION_CLASS kind, void* buffer, DWORD size, DWORD* needed) {
+  static auto* const real = RealFunction(kSystem, "GetTokenInformation", GetTokenInformation);
+  TOKEN_TYPE type = TokenPrimary;
+  DWORD length = 0;
+  real(token, TokenType, &type, sizeof type, &length);
+  return (type == TokenImpersonation ? OtherTokenInformation : real)(token, kind, buffer, size, needed);
+}
+
 BOOL WINAPI NoThreadToken(HANDLE, DWORD access, BOOL asSelf, HANDLE*) {
   EXPECT_EQ(static_cast<DWORD>(TOKEN_QUERY), access);
   EXPECT_TRUE(asSelf);
@@ -76,6 +86,7 @@ LSTATUS WINAPI NoteOpen(HKEY root, const wchar_t* name, DWORD options, REGSAM ac
 LSTATUS WINAPI NoteCreate(HKEY root, const wchar_t* name, DWORD reserved, wchar_t* keyClass, DWORD options,
                           REGSAM access, SECURITY_ATTRIBUTES* security, HKEY* key, DWORD* disposition) {
   static auto* const real = RealFunction(kSystem, "RegCreateKeyExW", RegCreateKeyExW);
+  EXPECT_EQ(static_cast<DWORD>(REG_OPTION_NON_VOLATILE), options) << "the next start of the system would not see it";
   opened.push_back({root, name, access});
   return real(root, name, reserved, keyClass, options, access, security, key, disposition);
 }
@@ -133,6 +144,24 @@ TEST_F(UserHiveTest, AThreadSeesItsUsersValues) {
   EXPECT_EQ(L"other", ReadValue());
   EXPECT_TRUE(CRegistryEntry(kKey, L"Written").WriteString(L"by the other"));
   RestoreImport(kSystem, "GetTokenInformation");
+  EXPECT_EQ(L"own", ReadValue());
+  EXPECT_EQ(nullptr, CRegistryEntry(kKey, L"Written").ReadString());
+}
+
+TEST_F(UserHiveTest, AThreadsOwnTokenGoesBeforeItsProcesss) {
+  MakeOwn();
+  MakeOtherUser();
+  Patch("GetTokenInformation", OtherUserOfThreads);
+  EXPECT_EQ(L"own", ReadValue());
+  ASSERT_TRUE(ImpersonateSelf(SecurityImpersonation));
+  const std::wstring here = ReadValue();
+  const bool written = CRegistryEntry(kKey, L"Written").WriteString(L"by the other");
+  std::wstring elsewhere;
+  std::thread([&] { elsewhere = ReadValue(); }).join();
+  ASSERT_TRUE(RevertToSelf());
+  EXPECT_EQ(L"other", here);
+  EXPECT_TRUE(written);
+  EXPECT_EQ(L"own", elsewhere) << "a thread without a token of its own";
   EXPECT_EQ(L"own", ReadValue());
   EXPECT_EQ(nullptr, CRegistryEntry(kKey, L"Written").ReadString());
 }
@@ -251,6 +280,13 @@ TEST(TextualSid, TellsTheSizeNeeded) {
     EXPECT_EQ(122u, GetLastError());
   }
   EXPECT_EQ(L"S-1-5-18", TextOf(&sid, 80));
+
+  PSID four = nullptr;
+  ASSERT_TRUE(ConvertStringSidToSidW(L"S-1-5-21-1-2-3", &four));
+  uint32_t size = 151;
+  EXPECT_FALSE(GetTextualSid(four, nullptr, size));
+  EXPECT_EQ(152u, size);
+  LocalFree(four);
 }
 
 TEST(TextualSid, AnInvalidSidIsRefused) {
