@@ -249,6 +249,12 @@ TEST_F(CRegistryEntryTest, AnIndexSetsBothLengths) {
   EXPECT_EQ(4, entry.data.Length()) << "in bytes";
 }
 
+TEST_F(CRegistryEntryTest, ANumberIsReadAtAnIndexToo) {
+  PutText(L"Only", L"12");
+  EXPECT_EQ(12, entry.ReadLong(0));
+  EXPECT_STREQ(L"Only", entry.valueName.Text());
+}
+
 TEST_F(CRegistryEntryTest, TheEndOfTheValuesIsNoFailure) {
   PutText(L"Only", L"x");
   for (int index : {1, 2, 1000}) {
@@ -416,6 +422,18 @@ TEST_F(CRegistryEntryTest, OpeningForWriteCreatesTheKey) {
   EXPECT_EQ(nullptr, entry.OpenedKey());  // asking closes again
 }
 
+TEST_F(CRegistryEntryTest, TheKeyIsOpenedByItsWholeName) {
+  const std::wstring whole = std::wstring(kKey) + L"\\Sub";
+  CRegistryEntry sub(L"\\Sub", L"Value");
+  sub.company.Assign(L"NemPdfRegistryTest");
+  EXPECT_TRUE(sub.WriteString(L"x"));
+  EXPECT_STREQ(L"x", CRegistryEntry(whole.c_str(), L"Value").ReadString());
+  EXPECT_STREQ(L"x", sub.ReadString());
+  EXPECT_TRUE(sub.DeleteValue());
+  EXPECT_FALSE(sub.DeleteValue());
+  EXPECT_EQ(whole + L"\\Value not deleted: " + SystemText(2), sub.statusText.Text());
+}
+
 TEST_F(CRegistryEntryTest, TheOpenKeyFollowsTheOperation) {
   PutText(L"Value", L"x");
   ASSERT_TRUE(entry.Open(true));
@@ -563,6 +581,7 @@ TEST_F(CRegistryEntryTest, AFailedOpenForWriteIsTraced) {
   ASSERT_NE(0u, unwritable.status);
   const std::wstring text = tooLong + L" not found, Error: " + SystemText(unwritable.status);
   EXPECT_EQ(Messages({L"CRegistryEntry::Open(): for Write: " + text}), thread.Lines());
+  EXPECT_EQ(1, thread.Error().trace->errorCount);
   EXPECT_EQ(L"Open for Write: " + text, unwritable.statusText.Text());
   EXPECT_FALSE(unwritable.Open(true));
   EXPECT_EQ(nullptr, unwritable.OpenedKey());
@@ -577,4 +596,16 @@ TEST_F(CRegistryEntryTest, ReopeningClosesWhatWasOpen) {
   entry.ReadString();
   RestoreImport("advapi32.dll", "RegCloseKey");
   EXPECT_EQ(4, closed) << "the key and the user's hive, opened for writing and opened for reading";
+}
+
+TEST_F(CRegistryEntryTest, TheDestructorClosesWhatIsOpen) {
+  PutText(L"Value", L"x");
+  {
+    CRegistryEntry inner(kKey, L"Value");
+    ASSERT_TRUE(inner.Open(false));
+    closed = 0;
+    ASSERT_GT(PatchImport("advapi32.dll", "RegCloseKey", reinterpret_cast<void*>(&CountClosing)), 0);
+  }
+  RestoreImport("advapi32.dll", "RegCloseKey");
+  EXPECT_EQ(2, closed) << "the key and the user's hive";
 }
