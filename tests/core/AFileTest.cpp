@@ -473,6 +473,13 @@ TEST_F(AFileTest, ReadLineGivesTheLastLineWithoutALineEnd) {
   EXPECT_EQ((Line{false, "", false}), ReadLineOf(file));
 }
 
+TEST_F(AFileTest, AnEmptyTextIsCompleteAtTheEndOnly) {
+  OpenWith(std::string_view("\0a\nb", 4));
+  EXPECT_EQ((Line{true, "", false}), ReadLineOf(file));
+  EXPECT_EQ((Line{true, "b", false}), ReadLineOf(file));
+  EXPECT_EQ((Line{true, "", true}), ReadLineOf(file));
+}
+
 TEST_F(AFileTest, ReadLineOfAnEmptyFile) {
   OpenWith("");
   EXPECT_EQ((Line{true, "", true}), ReadLineOf(file));

@@ -223,6 +223,17 @@ TEST_F(ATraceFileTest, CloseTraceWritesTheLastLineOnce) {
   EXPECT_EQ(L"Trace closed.\r\n", MessageOf(temp.Text()));
 }
 
+TEST_F(ATraceFileTest, EachOpeningCountsFromZero) {
+  ASSERT_TRUE(Open());
+  trace.Warning(L"careful");
+  trace.Error(L"wrong");
+  trace.CloseTrace();
+  ASSERT_TRUE(Open());
+  EXPECT_EQ(0, trace.lineCount);
+  EXPECT_EQ(0, trace.warningCount);
+  EXPECT_EQ(0, trace.errorCount);
+}
+
 TEST_F(ATraceFileTest, TheDestructorClosesTheTrace) {
   {
     ATraceFile inner;

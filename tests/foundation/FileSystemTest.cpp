@@ -3,6 +3,9 @@
 
 #include <gtest/gtest.h>
 
+#include <string>
+#include <vector>
+
 #include "driver/ImportPatch.h"
 #include "DriverLIB/AFile.h"
 #include "DriverLIB/MessageText.h"
@@ -11,6 +14,19 @@
 namespace {
 
 constexpr char kKernel[] = "kernel32.dll";
+
+// Keeps what its failures are reported with.
+class ReportingFile : public AFile {
+ public:
+  using AFile::AFile;
+  std::vector<std::wstring> formats;
+
+ protected:
+  bool ReportFileError(const wchar_t* format, const wchar_t*, const wchar_t*) override {
+    formats.push_back(format);
+    return false;
+  }
+};
 
 // A disk that takes one byte less, without calling that an error.
 BOOL WINAPI ShortWrite(HANDLE, const void*, DWORD count, DWORD* written, OVERLAPPED*) {
@@ -35,7 +51,7 @@ DWORD WINAPI NoteLanguage(DWORD, const void*, DWORD, DWORD language, wchar_t*, D
 
 TEST(FileSystem, AShortWriteIsAFailure) {
   TempFile temp("file_system_test.tmp");
-  AFile file(temp.Name());
+  ReportingFile file(temp.Name());
   ASSERT_TRUE(file.OpenWrite());
   ASSERT_GT(PatchImport(kKernel, "WriteFile", reinterpret_cast<void*>(ShortWrite)), 0);
   uint32_t written = 7;
@@ -45,6 +61,7 @@ TEST(FileSystem, AShortWriteIsAFailure) {
   EXPECT_FALSE(done);
   EXPECT_EQ(0u, written);
   EXPECT_FALSE(lineDone);
+  EXPECT_EQ(std::vector<std::wstring>(2, L"Kann nicht in die Datei %s schreiben: %s."), file.formats);
 }
 
 TEST(FileSystem, ASizeHas64Bits) {

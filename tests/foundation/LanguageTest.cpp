@@ -12,6 +12,7 @@
 #include "DriverLIB/MessageText.h"
 #include "DriverLIB/ModuleState.h"
 #include "MessageIds.h"
+#include "support/FunctionPatch.h"
 #include "support/RegistryValue.h"
 #include "support/TestMessages.h"
 
@@ -32,6 +33,8 @@ BOOL WINAPI RecordLanguages(HMODULE module, const wchar_t* type, const wchar_t* 
     if (!visit(module, type, name, language, parameter)) break;
   return TRUE;
 }
+
+LONG WINAPI RefuseVersion(OSVERSIONINFOEXW*) { return static_cast<LONG>(0xC0000001); }  // unsuccessful
 
 platform::SystemVersion OldSystem(uint32_t platformId) {
   platform::SystemVersion version{};
@@ -186,4 +189,10 @@ TEST_F(LanguageChoiceTest, TheSystemsLanguageIsTakenWhenNoneIsSet) {
   machine.Set(L"1036");
   userLanguage = 0x0407;
   EXPECT_EQ(0x0407, Choose());
+}
+
+TEST_F(LanguageChoiceTest, ASystemThatDoesNotTellItsVersionLeavesTheLanguageInForce) {
+  const FunctionPatch refusal(L"ntdll.dll", "RtlGetVersion", reinterpret_cast<void*>(&RefuseVersion));
+  EXPECT_EQ(0, GetSystemLanguage());
+  EXPECT_EQ(0x040C, Choose(0x040C));
 }

@@ -14,6 +14,7 @@
 #include "DriverLIB/CError.h"
 #include "DriverLIB/ModuleState.h"
 #include "DriverLIB/Trace.h"
+#include "support/FunctionPatch.h"
 #include "support/RegistryValue.h"
 #include "support/TempFile.h"
 
@@ -29,6 +30,20 @@ decltype(&GetProcAddress) realGetProcAddress = nullptr;
 FARPROC WINAPI NoSystemVersion(HMODULE module, const char* name) {
   if (HIWORD(name) != 0 && std::string_view(name) == "RtlGetVersion") return nullptr;
   return realGetProcAddress(module, name);
+}
+
+// No two of its numbers are the same.
+LONG WINAPI DistinctVersion(OSVERSIONINFOEXW* info) {
+  EXPECT_EQ(sizeof *info, info->dwOSVersionInfoSize);
+  info->dwMajorVersion = 12;
+  info->dwMinorVersion = 34;
+  info->dwBuildNumber = 0x5A5B;
+  info->dwPlatformId = 2;
+  info->wProductType = 3;
+  info->wSuiteMask = 0x110;
+  info->wServicePackMajor = 6;
+  info->wServicePackMinor = 7;
+  return 0;
 }
 
 bool machineLocked = false;
@@ -109,6 +124,9 @@ TEST_F(TraceSettingsTest, SwitchingOnWritesBothRoots) {
   EXPECT_TRUE(SetTraceEnabled(true, nullptr, L"D:\\Folder"));
   EXPECT_EQ(L"D:\\Folder\\NEMpdfVonder.log", machine.Text());
   EXPECT_EQ(L"D:\\Folder\\NEMpdfVonder.log", user.Text());
+  EXPECT_TRUE(SetTraceEnabled(true, nullptr, L""));  // a folder like any other
+  EXPECT_EQ(L"\\NEMpdfVonder.log", machine.Text());
+  EXPECT_EQ(L"\\NEMpdfVonder.log", user.Text());
 }
 
 TEST_F(TraceSettingsTest, SwitchingOffDeletesBothRoots) {
@@ -172,6 +190,20 @@ TEST_F(TraceSettingsTest, ASystemWithoutAVersionIsTold) {
   const std::wstring text = file.Text();
   const size_t second = text.find(L"\r\n") + 2;
   EXPECT_EQ(second + 25, text.find(L"GetVersionEx - failed, we are older than NT4 SP6.\r\n"));
+}
+
+TEST_F(TraceSettingsTest, TheSystemsNumbersStandInTheirOrder) {
+  user.Set(L"version.log");
+  DWORD id = 0;
+  {
+    const FunctionPatch patch(L"ntdll.dll", "RtlGetVersion", reinterpret_cast<void*>(&DistinctVersion));
+    id = RunThread([] {});
+  }
+  const TempFile file("version-AddInUI-t" + std::to_string(id) + ".log", TempFile::Keep{});
+  const std::wstring text = file.Text();
+  const size_t second = text.find(L"\r\n") + 2;
+  EXPECT_EQ(second + 25, text.find(L"    Native/Win32: GetVersionEx(EX): 12.34.5a5b, platform: 0x2, product: 0x3, "
+                                   L"suite: 0x110, servicepack: 6.7\r\n"));
 }
 
 TEST_F(TraceSettingsTest, TheLaterFailureIsTheOneTold) {

@@ -148,7 +148,7 @@ TEST_F(UserHiveTest, AThreadSeesItsUsersValues) {
   EXPECT_EQ(nullptr, CRegistryEntry(kKey, L"Written").ReadString());
 }
 
-TEST_F(UserHiveTest, AThreadsOwnTokenGoesBeforeItsProcesss) {
+TEST_F(UserHiveTest, AThreadsOwnTokenGoesBeforeTheProcessToken) {
   MakeOwn();
   MakeOtherUser();
   Patch("GetTokenInformation", OtherUserOfThreads);
