@@ -21,7 +21,8 @@ bool CAccessibility::OnMessage(CAccessibleSource& source, WindowMessage& message
       return static_cast<LONG>(message.lParam) == OBJID_CLIENT && OnGetObject(source, message);
     case kAccessibleActionMessage: {
       const int part = static_cast<int>(message.wParam);
-      if (part >= CAccessibleSource::kSelf && part <= source.PartCount() && source.HasPartAction(part))
+      if (::IsWindowEnabled(source.AccessibleWindow()) && part >= CAccessibleSource::kSelf &&
+          part <= source.PartCount() && source.HasPartAction(part))
         source.DoPartAction(part);
       return true;
     }

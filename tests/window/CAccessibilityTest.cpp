@@ -197,6 +197,18 @@ TEST_F(CAccessibilityTest, AnActionOfAPartThatIsGoneIsNotDone) {
   EXPECT_EQ(0, control.done);
 }
 
+TEST_F(CAccessibilityTest, AnActionOfADisabledControlIsNotDone) {
+  const Accessible object(control.window);
+  object->accDoDefaultAction(Accessible::Part(2));
+  ::EnableWindow(control.window, FALSE);
+  control.RunPosted();
+  EXPECT_EQ(0, control.done);
+  object->accDoDefaultAction(Accessible::Part(2));
+  ::EnableWindow(control.window, TRUE);
+  control.RunPosted();
+  EXPECT_EQ(2, control.done) << "what counts is the time of the action";
+}
+
 TEST_F(CAccessibilityTest, SelectFocusesAndActs) {
   const Accessible object(control.window);
   ::SetFocus(nullptr);
