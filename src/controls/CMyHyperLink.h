@@ -1,5 +1,8 @@
 // A static text that acts as a link: it opens an address, or tells its parent. It can be reached by Tab (give it
 // WS_TABSTOP in the template) and followed by Enter and Space.
+//
+// The control shows a font that the link owns, and is given its own back only at the link's end. So a link stays with
+// its control until one of them ends; it takes no other one before, and no other link takes the control.
 #pragma once
 
 #include "controls/LinkColors.h"

@@ -158,6 +158,13 @@ TEST_F(CockpitTest, SquaresAndLinksLeadToTheirPage) {
   }
 }
 
+TEST_F(CockpitTest, ASquareIsFollowedByClicksAlone) {
+  Open();
+  for (const int code : {BN_DOUBLECLICKED, BN_SETFOCUS, BN_KILLFOCUS})
+    page_.Send(WM_COMMAND, MAKEWPARAM(SquareId(1), code), reinterpret_cast<LPARAM>(Item(SquareId(1)).Handle()));
+  EXPECT_EQ(0, sheet_.activatedPage);
+}
+
 TEST_F(CockpitTest, TheMessageOfALinkAnswersForLinksAlone) {
   Open();
   for (const Row& row : kRows) EXPECT_EQ(1, page_.Send(WM_USER + 101, static_cast<WPARAM>(row.linkId)));

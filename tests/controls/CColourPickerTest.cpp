@@ -5,6 +5,7 @@
 #include "ColourPage.h"
 #include "DriverLIB/MessageText.h"
 #include "support/Accessible.h"
+#include "support/MouseTrackings.h"
 
 namespace {
 
@@ -484,26 +485,14 @@ TEST(CColourPickerLook, FollowsTheMouse) {
   EXPECT_EQ(quiet.pixels, Paint(test.control).pixels);
 }
 
-std::vector<TRACKMOUSEEVENT> trackings;
-BOOL WINAPI NoteTracking(TRACKMOUSEEVENT* tracking) {
-  trackings.push_back(*tracking);
-  return TRUE;
-}
-
 TEST(CColourPickerLook, AsksToHearWhenTheMouseLeaves) {
   ColourPage test;
-  trackings.clear();
-  ASSERT_GT(PatchImport("comctl32.dll", "_TrackMouseEvent", reinterpret_cast<void*>(&NoteTracking)), 0);
+  const MouseTrackings trackings("comctl32.dll", "_TrackMouseEvent");
   for (const size_t times : {1u, 2u}) {
     test.control.Send(WM_MOUSEMOVE, 0, MAKELPARAM(5, 5));
     test.control.Send(WM_MOUSEMOVE, 0, MAKELPARAM(6, 5));
-    EXPECT_EQ(times, trackings.size()) << "once for each stay";
+    EXPECT_EQ(std::vector<HWND>(times, test.control.Handle()), trackings.Askers()) << "once for each stay";
     test.control.Send(WM_MOUSELEAVE);
-  }
-  RestoreImport("comctl32.dll", "_TrackMouseEvent");
-  for (const TRACKMOUSEEVENT& tracking : trackings) {
-    EXPECT_EQ(DWORD{TME_LEAVE}, tracking.dwFlags);
-    EXPECT_EQ(test.control.Handle(), tracking.hwndTrack);
   }
 }
 

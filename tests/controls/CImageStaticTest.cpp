@@ -231,6 +231,8 @@ TEST(CImageStatic, IsCentredAtFirst) {
     test.image.SetImage(kPlainBitmap, kNoTransparentColor, mask);
     EXPECT_EQ((IntRect{12, 7, 28, 23}), test.image.TargetRect());
   }
+  test.control.Move({10, 10, 20, 20});
+  EXPECT_EQ((IntRect{0, 0, kSize, kSize}), test.image.TargetRect()) << "no room, and no margin";
 }
 
 TEST(CImageStatic, FollowsAlignmentAndMargin) {

@@ -54,6 +54,15 @@ TEST_P(IntScrollBar, MovesItself) {
   }
 }
 
+// Only what has been called invalid is painted here.
+TEST_P(IntScrollBar, DrawsItsNewPosition) {
+  bar_.SetPosition(kMinimum);
+  const Picture before = Paint(bar_);
+  Scroll(SB_BOTTOM);
+  bar_.Redraw();
+  EXPECT_NE(before.pixels, Capture(bar_.Handle()).pixels);
+}
+
 TEST_P(IntScrollBar, TellsTheParentWhenItHasMoved) {
   bar_.SetPosition(50);
   int told = 0;

@@ -5,6 +5,7 @@
 #include "controls/LinkColors.h"
 #include "PlatformSpy.h"
 #include "support/Accessible.h"
+#include "support/MouseTrackings.h"
 
 namespace {
 
@@ -50,6 +51,12 @@ TEST_F(LinkButton, TakesTheColorOfHoveringUnderTheMouse) {
   const Picture picture = Paint(button_);
   EXPECT_EQ(0, CountPixels(picture, kHoverLinkColor));
   EXPECT_GT(CountPixels(picture, kLinkColor), 20);
+}
+
+TEST_F(LinkButton, AsksToHearWhenTheMouseLeaves) {
+  const MouseTrackings trackings;
+  button_.Send(WM_MOUSEMOVE, 0, MAKELPARAM(3, 3));
+  EXPECT_EQ(std::vector<HWND>{button_.Handle()}, trackings.Askers());
 }
 
 TEST_F(LinkButton, HasTheSystemsLinkColorInHighContrast) {
@@ -101,6 +108,18 @@ TEST_F(LinkButton, IsAButtonToAScreenReader) {
   ASSERT_EQ(S_OK, object->accDoDefaultAction(Accessible::Part(CHILDID_SELF)));
   RunPostedMessages();
   EXPECT_EQ(1, Clicks());
+}
+
+TEST_F(LinkButton, IsNotPressedByAScreenReaderWhileItIsDisabled) {
+  const ComScope com;
+  const Accessible object(button_.Handle());
+  ASSERT_TRUE(object);
+  object->accDoDefaultAction(Accessible::Part(CHILDID_SELF));
+  button_.Enable(false);
+  RunPostedMessages();
+  object->accDoDefaultAction(Accessible::Part(CHILDID_SELF));
+  RunPostedMessages();
+  EXPECT_EQ(0, Clicks());
 }
 
 TEST_F(LinkButton, BeginsAtTheEdgeThatReadingBeginsAt) {

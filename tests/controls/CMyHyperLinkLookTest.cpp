@@ -1,6 +1,7 @@
 // How a link looks, to the eye and to a screen reader.
 #include "LinkPage.h"
 #include "support/Accessible.h"
+#include "support/MouseTrackings.h"
 
 namespace {
 
@@ -15,13 +16,15 @@ TEST(CMyHyperLink, HasTheColorOfItsState) {
       {false, true, true, kHover},   {true, false, false, kLink},  {true, false, true, kHover},
       {true, true, false, kVisited}, {true, true, true, kVisited},
   };
-  for (const auto& row : rows) {
-    LinkPage test;
-    if (row.markVisited) test.MarkVisited();
-    if (row.visit) test.Click();
-    test.MoveMouse(row.hover ? 5 : -5, 5);
-    EXPECT_EQ(row.color, test.Color()) << row.markVisited << row.visit << row.hover;
-  }
+  for (const bool notify : {false, true})
+    for (const auto& row : rows) {
+      LinkPage test;
+      if (row.markVisited) test.MarkVisited();
+      test.link->SetNotifyParent(notify);
+      if (row.visit) test.Click();
+      test.MoveMouse(row.hover ? 5 : -5, 5);
+      EXPECT_EQ(row.color, test.Color()) << row.markVisited << row.visit << row.hover << notify;
+    }
 }
 
 TEST(CMyHyperLink, HasASystemColorInHighContrast) {
@@ -76,6 +79,13 @@ TEST(CMyHyperLink, StopsHoveringWhenTheMouseIsTakenAway) {
   ::SetCapture(test.page.Handle());
   EXPECT_EQ(kLink, test.Color());
   EXPECT_EQ(test.page.Handle(), ::GetCapture());
+}
+
+TEST(CMyHyperLink, AsksToHearWhenTheMouseLeaves) {
+  LinkPage test;
+  const MouseTrackings trackings;
+  test.MoveMouse(5, 5);
+  EXPECT_EQ(std::vector<HWND>{test.control.Handle()}, trackings.Askers());
 }
 
 TEST(CMyHyperLink, StopsHoveringWhenTheMouseGoesToAnotherProgram) {
@@ -284,6 +294,19 @@ TEST_F(LinkReader, FollowsALinkLater) {
   EXPECT_TRUE(test.page.Received(0x465).empty()) << "the reader does not wait for it";
   RunPostedMessages();
   EXPECT_EQ(1u, test.page.Received(0x465).size());
+}
+
+TEST_F(LinkReader, FollowsNoDisabledLink) {
+  LinkPage test;
+  test.link->SetNotifyParent(true);
+  const Accessible reader(test.control.Handle());
+  ASSERT_TRUE(reader);
+  reader->accDoDefaultAction(Accessible::Part(CHILDID_SELF));
+  test.control.Enable(false);
+  RunPostedMessages();
+  reader->accDoDefaultAction(Accessible::Part(CHILDID_SELF));
+  RunPostedMessages();
+  EXPECT_TRUE(test.page.Received(0x465).empty());
 }
 
 TEST_F(LinkReader, FindsNobodyWhenTheLinkIsGone) {

@@ -80,6 +80,20 @@ TEST(CMyHyperLink, OpensNothingWithoutAnAddress) {
   EXPECT_TRUE(openedAddresses.empty());
 }
 
+// The first of a double click's two messages has followed it already.
+TEST(CMyHyperLink, IsFollowedByClicksAlone) {
+  for (const bool notify : {true, false}) {
+    LinkPage test;
+    test.link->SetUrl(L"https://www.nem-software.example/");
+    test.link->SetNotifyParent(notify);
+    for (const int code : {STN_DBLCLK, STN_ENABLE, STN_DISABLE}) {
+      test.page.Send(WM_COMMAND, MAKEWPARAM(kLinkId, code), reinterpret_cast<LPARAM>(test.control.Handle()));
+      EXPECT_TRUE(openedAddresses.empty()) << code;
+      EXPECT_TRUE(test.page.Received(0x465).empty()) << code;
+    }
+  }
+}
+
 TEST(CMyHyperLink, RepaintsAfterAClick) {
   LinkPage test;
   test.link->SetNotifyParent(true);

@@ -5,6 +5,7 @@
 #include "controls/ToolTipPlacement.h"
 #include "PlatformSpy.h"
 #include "support/Accessible.h"
+#include "support/MouseTrackings.h"
 
 namespace {
 
@@ -50,6 +51,24 @@ TEST(CToolTipBox, OpensBesideTheMouse) {
     EXPECT_EQ(expected, (IntRect{place.left, place.top, place.right, place.bottom}));
     EXPECT_EQ(test.tip->Handle(), ::GetTopWindow(test.page.Handle()));
     EXPECT_TRUE(::IsWindowVisible(test.tip->Handle()));
+  }
+}
+
+// The page may reach beyond the window around it.
+TEST(CToolTipBox, KeepsToWhatIsSeenOfThePage) {
+  for (const auto layout : {ControlDialog::Layout::LeftToRight, ControlDialog::Layout::RightToLeft}) {
+    ControlDialog outer(layout), page(layout, outer.Handle());
+    const RECT seen = outer.ClientRect();
+    page.Move({-20, -30, seen.right + 80, seen.bottom + 80});
+    CToolTipBox tip;
+    tip.lineCount = 3;
+    tip.widthInCharacters = 20;
+    tip.mousePosition = {seen.right + 15, 60};  // the page has room to the right of it and above it
+    ASSERT_TRUE(tip.Open(page, kId));
+    const IntRect expected =
+        PlaceToolTip(3, 20, tip.mousePosition, {20, 30, seen.right + 20, seen.bottom + 30}, page.Dpi());
+    const RECT place = tip.RectIn(page);
+    EXPECT_EQ(expected, (IntRect{place.left, place.top, place.right, place.bottom}));
   }
 }
 
@@ -162,6 +181,13 @@ TEST(CToolTipBox, KeepsQuietWhileTheMouseStands) {
   TipPage test;
   test.tip->Send(WM_MOUSEMOVE, 0, test.OnTip(kMouse.x, kMouse.y));
   EXPECT_TRUE(test.page.Received(WM_MOUSEMOVE).empty()) << "else a box would end and come again for ever";
+}
+
+TEST(CToolTipBox, AsksToHearWhenTheMouseLeavesThoughItStands) {
+  TipPage test;
+  const MouseTrackings trackings;
+  test.tip->Send(WM_MOUSEMOVE, 0, test.OnTip(kMouse.x, kMouse.y));
+  EXPECT_EQ(std::vector<HWND>{test.tip->Handle()}, trackings.Askers());
 }
 
 TEST(CToolTipBox, MayEndAtAMovement) {

@@ -1,8 +1,8 @@
 // Mouse and keyboard of the navigation bar.
 #include <gtest/gtest.h>
 
-#include "driver/ImportPatch.h"
 #include "sheet/BarOwner.h"
+#include "support/MouseTrackings.h"
 
 namespace {
 
@@ -81,28 +81,16 @@ TEST_F(BarMouse, WhoTakesTheCaptureEndsTheHotState) {
   EXPECT_EQ(owner.button, ::GetCapture());
 }
 
-std::vector<TRACKMOUSEEVENT> trackings;
-BOOL WINAPI NoteTracking(TRACKMOUSEEVENT* tracking) {
-  trackings.push_back(*tracking);
-  return TRUE;
-}
-
 // A capture without a pressed button does not reach over other programs' windows.
 TEST_F(BarMouse, ThatLeavesForAnotherProgramLeavesNothingHot) {
-  trackings.clear();
-  ASSERT_GT(PatchImport("user32.dll", "TrackMouseEvent", reinterpret_cast<void*>(&NoteTracking)), 0);
+  const MouseTrackings trackings;
   for (const size_t times : {1u, 2u}) {
     MoveTo(owner.FolderPoint(2));
     MoveTo(owner.FolderPoint(0));
-    EXPECT_EQ(times, trackings.size()) << "once for each stay";
+    EXPECT_EQ(std::vector<HWND>(times, owner.bar->Handle()), trackings.Askers()) << "once for each stay";
     owner.bar->Send(WM_MOUSELEAVE);
     EXPECT_EQ(BarTarget(), Hot());
     EXPECT_EQ(nullptr, ::GetCapture());
-  }
-  RestoreImport("user32.dll", "TrackMouseEvent");
-  for (const TRACKMOUSEEVENT& tracking : trackings) {
-    EXPECT_EQ(DWORD{TME_LEAVE}, tracking.dwFlags);
-    EXPECT_EQ(owner.bar->Handle(), tracking.hwndTrack);
   }
 }
 

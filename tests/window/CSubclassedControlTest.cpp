@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <stdexcept>
 #include <thread>
@@ -22,6 +23,7 @@ class Watcher final : public CSubclassed<CEdit> {
   std::vector<UINT> seen;
   std::string life;
   std::unique_ptr<Watcher>* owner = nullptr;  // destroyed by kQuestion
+  bool endsControl = false;                   // so does kQuestion, and lets it through
   bool throws = false;
   bool answersText = false;
   using CSubclassedControl::Detach;
@@ -32,6 +34,10 @@ class Watcher final : public CSubclassed<CEdit> {
   bool OnWindowMessage(WindowMessage& message) override {
     seen.push_back(message.message);
     if (throws) throw std::runtime_error("test");
+    if (message.message == kQuestion && endsControl) {
+      DestroyWindow(message.window);
+      return false;
+    }
     if (message.message == kQuestion) {
       message.result = 42;
       if (auto* const self = owner) self->reset();
@@ -112,6 +118,26 @@ TEST_F(SubclassedControl, ObjectMayDieInItsOwnHandler) {
   EXPECT_EQ(L"text", Dialog().Item(kFirst).Text());
 }
 
+WNDPROC belowAll = nullptr;
+std::vector<UINT> seenBelow;
+LRESULT CALLBACK BelowAll(HWND window, UINT message, WPARAM wParam, LPARAM lParam) {
+  seenBelow.push_back(message);
+  return CallWindowProcW(belowAll, window, message, wParam, lParam);
+}
+
+TEST_F(SubclassedControl, AMessageThatEndsTheControlGoesNoFurther) {
+  seenBelow.clear();
+  belowAll = reinterpret_cast<WNDPROC>(
+      SetWindowLongPtrW(Control(kFirst), GWLP_WNDPROC, reinterpret_cast<LONG_PTR>(&BelowAll)));
+  Watcher watcher;
+  watcher.endsControl = true;
+  watcher.Attach(Dialog(), kFirst);
+  EXPECT_EQ(0, SendMessageW(Control(kFirst), kQuestion, 0, 0));
+  EXPECT_EQ(nullptr, watcher.Handle());
+  EXPECT_EQ(1, std::count(seenBelow.begin(), seenBelow.end(), UINT{WM_NCDESTROY}));
+  EXPECT_EQ(0, std::count(seenBelow.begin(), seenBelow.end(), kQuestion)) << "for a window that is gone";
+}
+
 TEST_F(SubclassedControl, LetsGoOfTheControlBefore) {
   Watcher watcher;
   watcher.Attach(Dialog(), kFirst);
@@ -160,6 +186,18 @@ TEST_F(SubclassedControl, AProcedureAboveItsOwnMayStayLonger) {
   EXPECT_EQ(42, SendMessageW(Control(kFirst), kQuestion, 0, 0));
   DestroyWindow(Control(kFirst));
   EXPECT_EQ("attached destroyed ", next.life);
+}
+
+TEST_F(SubclassedControl, AControlThatEndsUnderAnotherProcedureLeavesNothing) {
+  for (const int id : {int{kFirst}, int{kSecond}}) {
+    auto watcher = std::make_unique<Watcher>();
+    watcher->Attach(Dialog(), id);
+    ASSERT_TRUE(SetWindowSubclass(Control(id), AboveAll, 1, 0));
+    if (id == kSecond) watcher.reset();  // the object may have ended before
+    EXPECT_NE(nullptr, CurrentWindowThreadState()->controls) << id;
+    DestroyWindow(Control(id));
+    EXPECT_EQ(nullptr, CurrentWindowThreadState()->controls) << id;
+  }
 }
 
 TEST_F(SubclassedControl, AControlOfAnotherThreadIsRefused) {
