@@ -13,6 +13,9 @@ void KeepLibraryLoaded() {
                        reinterpret_cast<const wchar_t*>(reinterpret_cast<void*>(&KeepLibraryLoaded)), &module);
 }
 
+// A box that lies over the window disables the root of it, and leaves the controls as they are.
+bool CanBeUsed(HWND window) { return ::IsWindowEnabled(window) && ::IsWindowEnabled(::GetAncestor(window, GA_ROOT)); }
+
 }  // namespace
 
 bool CAccessibility::OnMessage(CAccessibleSource& source, WindowMessage& message) {
@@ -21,8 +24,8 @@ bool CAccessibility::OnMessage(CAccessibleSource& source, WindowMessage& message
       return static_cast<LONG>(message.lParam) == OBJID_CLIENT && OnGetObject(source, message);
     case kAccessibleActionMessage: {
       const int part = static_cast<int>(message.wParam);
-      if (::IsWindowEnabled(source.AccessibleWindow()) && part >= CAccessibleSource::kSelf &&
-          part <= source.PartCount() && source.HasPartAction(part))
+      if (CanBeUsed(source.AccessibleWindow()) && part >= CAccessibleSource::kSelf && part <= source.PartCount() &&
+          source.HasPartAction(part))
         source.DoPartAction(part);
       return true;
     }

@@ -31,7 +31,7 @@ class CAccessibleSource {
   // The word for what a click does ("Press"), or an empty text.
   virtual CUString PartAction(int) const { return {}; }
   virtual bool HasPartAction(int) const { return false; }
-  // Does it, as a click would: not while the window is disabled. It may end the control.
+  // Does it, as a click would: not while the window is disabled, or all around it. It may end the control.
   virtual void DoPartAction(int) {}
   // The part that has the keyboard's focus while the control has it.
   virtual int FocusedPart() const { return kSelf; }

@@ -296,17 +296,20 @@ TEST_F(LinkReader, FollowsALinkLater) {
   EXPECT_EQ(1u, test.page.Received(0x465).size());
 }
 
-TEST_F(LinkReader, FollowsNoDisabledLink) {
-  LinkPage test;
-  test.link->SetNotifyParent(true);
-  const Accessible reader(test.control.Handle());
-  ASSERT_TRUE(reader);
-  reader->accDoDefaultAction(Accessible::Part(CHILDID_SELF));
-  test.control.Enable(false);
-  RunPostedMessages();
-  reader->accDoDefaultAction(Accessible::Part(CHILDID_SELF));
-  RunPostedMessages();
-  EXPECT_TRUE(test.page.Received(0x465).empty());
+// A box over the sheet disables the sheet, not its links.
+TEST_F(LinkReader, FollowsNoDisabledLinkAndNoneUnderABox) {
+  for (const bool whole : {false, true}) {
+    LinkPage test;
+    test.link->SetNotifyParent(true);
+    const Accessible reader(test.control.Handle());
+    ASSERT_TRUE(reader);
+    reader->accDoDefaultAction(Accessible::Part(CHILDID_SELF));
+    ::EnableWindow(whole ? ::GetAncestor(test.page.Handle(), GA_ROOT) : test.control.Handle(), FALSE);
+    RunPostedMessages();
+    reader->accDoDefaultAction(Accessible::Part(CHILDID_SELF));
+    RunPostedMessages();
+    EXPECT_TRUE(test.page.Received(0x465).empty()) << whole;
+  }
 }
 
 TEST_F(LinkReader, FindsNobodyWhenTheLinkIsGone) {
