@@ -10,6 +10,7 @@
 
 #include "driver/ImportPatch.h"
 #include "environment/CPrinterHandle.h"
+#include "support/FailingNew.h"
 #include "support/PrintText.h"
 #include "support/TestPrinter.h"
 #include "support/TracedThread.h"
@@ -292,4 +293,14 @@ TEST_F(PrinterQueriesTest, ListNothingWithoutMemory) {
   CUStringArray names;
   const PatchedAllocation patched(OnAllocation::kFail);
   EXPECT_FALSE(GetPrinterNames(names, kTestDriverName));
+}
+
+TEST_F(PrinterQueriesTest, ListNothingWhenTheListCannotGrow) {
+  CUStringArray names;
+  bool listed = true;
+  {
+    const FailingNew exhausted;
+    listed = GetPrinterNames(names, kTestDriverName);
+  }
+  EXPECT_FALSE(listed);
 }

@@ -219,16 +219,23 @@ namespace {
 
 constexpr wchar_t kServerPrinter[] = L"\\\\server\\Alpha";
 
-// One printer, which belongs to a print server and is connected to it.
-PRINTER_INFO_2W ServerPrinter() {
+PRINTER_INFO_2W PrinterNamed(const wchar_t* name) {
   PRINTER_INFO_2W info = {};
-  info.pServerName = const_cast<wchar_t*>(L"\\\\server");
-  info.pPrinterName = const_cast<wchar_t*>(kServerPrinter);
+  info.pPrinterName = const_cast<wchar_t*>(name);
   info.pDriverName = const_cast<wchar_t*>(kTestDriverName);
   return info;
 }
 
-BOOL AnswerWith(const PRINTER_INFO_2W& info, BYTE* buffer, DWORD size, DWORD* needed) {
+// One printer, which belongs to a print server and is connected to it.
+PRINTER_INFO_2W ServerPrinter() {
+  PRINTER_INFO_2W info = PrinterNamed(kServerPrinter);
+  info.pServerName = const_cast<wchar_t*>(L"\\\\server");
+  return info;
+}
+
+// With one record, or with an array of them.
+template <class Info>
+BOOL AnswerWith(const Info& info, BYTE* buffer, DWORD size, DWORD* needed) {
   *needed = sizeof info;
   if (size < sizeof info) {
     SetLastError(ERROR_INSUFFICIENT_BUFFER);
@@ -243,7 +250,10 @@ BOOL WINAPI OpenAny(wchar_t*, HANDLE* printer, PRINTER_DEFAULTSW*) {
   return TRUE;
 }
 BOOL WINAPI CloseAny(HANDLE) { return TRUE; }
-BOOL WINAPI OpenNone(wchar_t*, HANDLE*, PRINTER_DEFAULTSW*) {
+std::wstring openedName;  // of the printer that was to be opened
+
+BOOL WINAPI OpenNone(wchar_t* name, HANDLE*, PRINTER_DEFAULTSW*) {
+  openedName = name;
   SetLastError(ERROR_ACCESS_DENIED);
   return FALSE;
 }
@@ -273,6 +283,13 @@ DWORD WINAPI GetEmptyData(HANDLE, wchar_t*, DWORD*, BYTE*, DWORD, DWORD* needed)
   *needed = 0;
   return ERROR_SUCCESS;
 }
+// Refuses to tell the size, and tells it all the same.
+DWORD WINAPI GetRefusedData(HANDLE, wchar_t*, DWORD*, BYTE* buffer, DWORD, DWORD* needed) {
+  *needed = 2;
+  if (!buffer) return ERROR_ACCESS_DENIED;
+  memcpy(buffer, "ab", 2);
+  return ERROR_SUCCESS;
+}
 std::vector<DWORD> listed;  // the kinds of printers, one for each call
 
 BOOL WINAPI EnumServerPrinters(DWORD flags, wchar_t*, DWORD, BYTE* buffer, DWORD size, DWORD* needed, DWORD* count) {
@@ -284,11 +301,28 @@ BOOL WINAPI EnumServerPrinters(DWORD flags, wchar_t*, DWORD, BYTE* buffer, DWORD
   *count = 1;
   return TRUE;
 }
+BOOL WINAPI EnumTwoPrinters(DWORD flags, wchar_t*, DWORD, BYTE* buffer, DWORD size, DWORD* needed, DWORD* count) {
+  const PRINTER_INFO_2W both[] = {PrinterNamed(L"Alpha"), PrinterNamed(kTestDriverName)};
+  *count = 0;
+  *needed = 0;
+  if (flags != PRINTER_ENUM_LOCAL) return TRUE;
+  if (!AnswerWith(both, buffer, size, needed)) return FALSE;
+  *count = 2;
+  return TRUE;
+}
+// What it counts means nothing.
+BOOL WINAPI EnumNothing(DWORD, wchar_t*, DWORD, BYTE*, DWORD, DWORD* needed, DWORD* count) {
+  *needed = 0;
+  *count = 7;
+  SetLastError(RPC_S_SERVER_UNAVAILABLE);
+  return FALSE;
+}
 BOOL WINAPI EnumThrowing(DWORD, wchar_t*, DWORD, BYTE*, DWORD, DWORD*, DWORD*) { throw std::runtime_error("no"); }
 
 decltype(&OpenAny) openPrinter = OpenAny;
 decltype(&GetServerPrinter) getPrinter = GetServerPrinter;
 decltype(&EnumServerPrinters) enumPrinters = EnumServerPrinters;
+decltype(&GetEmptyData) getPrinterData = GetEmptyData;
 
 FARPROC WINAPI GetSpoolerProc(HMODULE module, const char* name) {
   if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF) {
@@ -298,7 +332,7 @@ FARPROC WINAPI GetSpoolerProc(HMODULE module, const char* name) {
     if (wanted == "GetPrinterW") return reinterpret_cast<FARPROC>(getPrinter);
     if (wanted == "EnumPrintersW") return reinterpret_cast<FARPROC>(enumPrinters);
     if (wanted == "GetPrinterDriverW") return reinterpret_cast<FARPROC>(&GetDriverAtOnce);
-    if (wanted == "GetPrinterDataW") return reinterpret_cast<FARPROC>(&GetEmptyData);
+    if (wanted == "GetPrinterDataW") return reinterpret_cast<FARPROC>(getPrinterData);
   }
   return realGetProcAddress(module, name);
 }
@@ -335,6 +369,16 @@ TEST(FakeSpooler, DISABLED_PrinterThatCannotBeOpened) {
   EXPECT_EQ(1, thread.Error().trace->errorCount);
 }
 
+// They may have directories of their own.
+TEST(FakeSpooler, DISABLED_TwoPrinters) {
+  openPrinter = OpenNone;
+  enumPrinters = EnumTwoPrinters;
+  PatchSpooler();
+  TracedThread thread;
+  GetAddInNEMDllPath();
+  EXPECT_EQ(kTestDriverName, openedName) << "the first once that named like its driver has come to the front";
+}
+
 TEST(FakeSpooler, DISABLED_PrinterThatIsNotValid) {
   getPrinter = GetNoPrinter;
   PatchSpooler();
@@ -363,6 +407,30 @@ TEST(FakeSpooler, DISABLED_PrinterThatNeedsNoBlock) {
   EXPECT_EQ(3, thread.Error().trace->errorCount);
 }
 
+// What it reads counts.
+TEST(FakeSpooler, DISABLED_PrinterThatRefusesASize) {
+  getPrinterData = GetRefusedData;
+  PatchSpooler();
+  TracedThread thread;
+  DWORD size = 99;
+  EXPECT_TRUE(GetPrinterRegData(nullptr, L"Odd", &size));
+  EXPECT_EQ(2u, size);
+  EXPECT_EQ(Lines{L"GetPrinterRegData: 1st GetPrinterData(Odd) failed, Error=5"}, thread.Lines());
+  EXPECT_EQ(1, thread.Error().trace->errorCount);
+}
+
+// It lists nothing, and that is no failure.
+TEST(FakeSpooler, DISABLED_SpoolerThatIsStopped) {
+  enumPrinters = EnumNothing;
+  PatchSpooler();
+  TracedThread thread;
+  CUStringArray names;
+  EXPECT_TRUE(GetPrinterNames(names, kTestDriverName));
+  EXPECT_EQ(0, names.Count());
+  EXPECT_EQ(ProgramDirectory(), GetAddInNEMDllPath().Text());
+  EXPECT_EQ(Lines{}, thread.Lines());
+}
+
 TEST(FakeSpooler, DISABLED_SpoolerThatThrows) {
   enumPrinters = EnumThrowing;
   PatchSpooler();
@@ -383,4 +451,5 @@ TEST_P(FakeSpoolerProcess, Passes) {
 
 INSTANTIATE_TEST_SUITE_P(All, FakeSpoolerProcess,
                          testing::Values(L"ServerPrinter", L"PrinterOfAnEmptyServer", L"PrinterThatCannotBeOpened",
-                                         L"PrinterThatIsNotValid", L"PrinterThatNeedsNoBlock", L"SpoolerThatThrows"));
+                                         L"TwoPrinters", L"PrinterThatIsNotValid", L"PrinterThatNeedsNoBlock",
+                                         L"PrinterThatRefusesASize", L"SpoolerThatIsStopped", L"SpoolerThatThrows"));
