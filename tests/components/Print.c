@@ -15,12 +15,15 @@ COMMON_FUNCTIONS(NemPr)
 NOTED_ONE(NemPrPrint)
 EXPORT int NemPrShowPrintDialog(void* owner) { return Note("NemPrShowPrintDialog", owner ? "owner" : 0, 0); }
 
-#ifndef MINOR_0
-NOTED_ONE(NemPrLoad)
-NOTED_ONE(NemPrSave)
+#if !defined(MINOR_0) || defined(HAS_SECOND_FORM)
 NOTED_ONE(NemPrLoad2)
 NOTED_ONE(NemPrSave2)
 NOTED_ONE(NemPrPrint2)
+#endif
+
+#ifndef MINOR_0
+NOTED_ONE(NemPrLoad)
+NOTED_ONE(NemPrSave)
 EXPORT int NemPrShowPrintSetupDialog(void* owner) { return Note("NemPrShowPrintSetupDialog", owner ? "owner" : 0, 0); }
 NOTED_ONE(NemMailSend)
 #endif

@@ -395,7 +395,7 @@ bool LoadNoted(Binding& component, int mode, const wchar_t* folder, const wchar_
   return loaded;
 }
 
-// The names are looked up in this order, and each of them is needed.
+// The names are looked up in this order, and each of them is needed. A second load changes nothing about that.
 template <class Binding>
 void ExpectLookUps(int mode, const wchar_t* folder, const wchar_t* filename, const Names& names) {
   for (size_t missingName = 0; missingName < names.size(); ++missingName) {
@@ -404,6 +404,8 @@ void ExpectLookUps(int mode, const wchar_t* folder, const wchar_t* filename, con
     EXPECT_EQ(Names(names.begin(), names.begin() + static_cast<int>(missingName) + 1), lookedUp);
     EXPECT_TRUE(component.IsLoaded()) << names[missingName];
     EXPECT_EQ(static_cast<DWORD>(ERROR_PROC_NOT_FOUND), component.lastError) << names[missingName];
+    EXPECT_TRUE(LoadNoted(component, mode, folder, filename, missingName)) << "is loaded already";
+    EXPECT_EQ(Names{}, lookedUp) << names[missingName];
   }
   Binding component;
   EXPECT_TRUE(LoadNoted(component, mode, folder, filename, names.size()));
@@ -458,8 +460,9 @@ TEST(LookUps, OfPrintByModeAndVersion) {
                      "NemPrJobPrint",       "NemPrJobConvert",  "NemPrJobMailSend",     "NemPrJobSetProperty",
                      "NemPrJobGetProperty", "NemPrJobGetError", "NemPrJobGetErrorText", "NemPrGetVersionText"};
   ExpectLookUps<NemPrintDll>(1, L"complete", kPrint, usual);
-  ExpectLookUps<NemPrintDll>(2, L"complete", kPrint,
-                             Joined({"NemPrGetVersion", "NemPrLoad2", "NemPrSave2", "NemPrPrint2"}, behind));
+  const Names second = {"NemPrGetVersion", "NemPrLoad2", "NemPrSave2", "NemPrPrint2"};
+  ExpectLookUps<NemPrintDll>(2, L"complete", kPrint, Joined(second, behind));
+  ExpectLookUps<NemPrintDll>(2, L"minor0second", kPrint, Joined(Joined(second, {"NemPrShowPrintDialog"}), common));
   ExpectLookUps<NemPrintDll>(1, L"minor0", kPrint,
                              Joined({"NemPrGetVersion", "NemPrPrint", "NemPrShowPrintDialog"}, common));
   ExpectLookUps<NemPrintJobDll>(1, L"complete", kPrint, Joined(usual, job));
