@@ -54,6 +54,7 @@ std::string missingFunction;
 // Taken before anything is patched: finding them takes these functions themselves.
 const auto realGetProcAddress = RealFunction("kernel32.dll", "GetProcAddress", &GetProcAddress);
 const auto realLoadLibrary = RealFunction("kernel32.dll", "LoadLibraryExW", &LoadLibraryExW);
+const auto realFreeLibrary = RealFunction("kernel32.dll", "FreeLibrary", &FreeLibrary);
 
 FARPROC WINAPI WithoutOneFunction(HMODULE module, const char* name) {
   if (reinterpret_cast<ULONG_PTR>(name) > 0xFFFF && name == missingFunction) return nullptr;
@@ -62,6 +63,25 @@ FARPROC WINAPI WithoutOneFunction(HMODULE module, const char* name) {
 
 HMODULE WINAPI WithoutShell(const wchar_t* name, HANDLE file, DWORD flags) {
   return lstrcmpiW(name, L"shell32.dll") == 0 ? nullptr : realLoadLibrary(name, file, flags);
+}
+
+int shellFreed;
+
+BOOL WINAPI CountFree(HMODULE library) {
+  shellFreed += library == GetModuleHandleW(L"shell32.dll");
+  return realFreeLibrary(library);
+}
+
+// With a shell whose functions `lookUp` finds. Its library is freed in any case.
+bool SelectBy(decltype(&WithoutOneFunction) lookUp, CBrowseForFolder& picker) {
+  shellFreed = 0;
+  EXPECT_GT(PatchImport("kernel32.dll", "FreeLibrary", reinterpret_cast<void*>(&CountFree)), 0);
+  EXPECT_GT(PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(lookUp)), 0);
+  const bool selected = picker.SelectFolder();
+  RestoreImport("kernel32.dll", "GetProcAddress");
+  RestoreImport("kernel32.dll", "FreeLibrary");
+  EXPECT_EQ(1, shellFreed);
+  return selected;
 }
 
 }  // namespace
@@ -89,6 +109,7 @@ TEST_F(CBrowseForFolderTest, KeepsTheFormerFolderWhenCancelled) {
   popups.ExpectDialog(DismissDialog);
   EXPECT_FALSE(picker.SelectFolder());
   EXPECT_EQ(0, lstrcmpiW(kFolder, picker.GetFolder().Text()));
+  EXPECT_TRUE(picker.selectedFolder == picker.GetFolder());
 }
 
 TEST_F(CBrowseForFolderTest, ShowsItsTitle) {
@@ -247,10 +268,7 @@ FARPROC WINAPI WithFakeShell(HMODULE module, const char* name) {
 
 bool SelectIn(FakeShell& shell, CBrowseForFolder& picker) {
   fakeShell = &shell;
-  PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithFakeShell));
-  const bool selected = picker.SelectFolder();
-  RestoreImport("kernel32.dll", "GetProcAddress");
-  return selected;
+  return SelectBy(WithFakeShell, picker);
 }
 
 }  // namespace
@@ -334,10 +352,7 @@ TEST_F(CBrowseForFolderTest, TellsOfAllFunctionsWhenOneIsMissing) {
   for (const char* name : {"SHBrowseForFolderW", "SHGetPathFromIDListW", "SHGetMalloc"}) {
     missingFunction = name;
     CBrowseForFolder picker;
-    ASSERT_GT(PatchImport("kernel32.dll", "GetProcAddress", reinterpret_cast<void*>(&WithoutOneFunction)), 0);
-    const bool selected = picker.SelectFolder();
-    RestoreImport("kernel32.dll", "GetProcAddress");
-    EXPECT_FALSE(selected);
+    EXPECT_FALSE(SelectBy(WithoutOneFunction, picker));
     const Lines expected = {L"CBrowseForFolder::SelectFolder: GetProcAddress(\"SHBrowseForFolder\") failed",
                             L"CBrowseForFolder::SelectFolder: GetProcAddress(\"SHGetPathFromIDList\") failed",
                             L"CBrowseForFolder::SelectFolder: GetProcAddress(\"SHGetMalloc\") failed"};

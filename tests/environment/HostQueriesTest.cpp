@@ -151,7 +151,7 @@ TEST_F(DefaultPaperTest, GoesByTheCountry) {
     country.Set(code);
     ExpectPaper(false, {std::wstring(L"IsA4PaperDefault: Country = ") + code, kNo});
   }
-  for (const wchar_t* code : {L"3", L"49", L"60", L"499", L"600", L"  49x"}) {
+  for (const wchar_t* code : {L"3", L"49", L"60", L"499", L"600", L"  49x", L"", L"x"}) {
     country.Set(code);
     ExpectPaper(true, {std::wstring(L"IsA4PaperDefault: Country = ") + code, kYes});
   }

@@ -670,6 +670,7 @@ TEST_F(SavingPage, WithAFolderAloneTheFolderPickerIsAskedAndEmptiesTheName) {
       GetWindowTextW(child, text, 16);
       titled |= std::wstring(text) == L"Title";
     }
+    EXPECT_EQ(GetAncestor(test_.Page().Handle(), GA_ROOT), GetWindow(dialog, GW_OWNER));
     ChooseFolder(dialog, L"C:\\windows\\system32");
   });
   Control(IDC_SAVING_BROWSE).Click();
