@@ -82,6 +82,14 @@ TEST(ParseDouble, TakesThePointForTheDecimalSignUnderEveryLocale) {
   EXPECT_STREQ(L"10.5", format.GetSizeText().Text());
 }
 
+TEST(FormatDouble, ChangesNothingButTheDecimalSign) {
+  for (const double number : {-10.5, 1.5e20, -2.5e-7, HUGE_VAL}) {
+    CUString raw;
+    raw.Format(L"%g", number);
+    EXPECT_STREQ(raw.Text(), FormatDouble(L"%g", number).Text());
+  }
+}
+
 #ifdef _WIN32
 TEST(FormatDouble, WritesAPointForEachDecimalSign) {
   const DecimalSignScope slash('/');
@@ -89,6 +97,7 @@ TEST(FormatDouble, WritesAPointForEachDecimalSign) {
   raw.Format(L"%.1f", 10.5);
   ASSERT_STREQ(L"10/5", raw.Text()) << "the sign does not count here";
   EXPECT_STREQ(L"10.5", FormatDouble(L"%g", 10.5).Text());
+  EXPECT_STREQ(L"-10.5", FormatDouble(L"%g", -10.5).Text());
   EXPECT_STREQ(L"10", FormatDouble(L"%.0f", 10).Text());
   EXPECT_EQ(10.5, ParseDouble("10.5"));
   CBookmarkFormat format;
