@@ -26,7 +26,7 @@ class ListEntryDialog {
     dialog_ = std::make_unique<Dialog>(std::forward<decltype(arguments)>(arguments)...);
     return *dialog_;
   }
-  // By keyboard there is no other way into a dialog that is open already.
+  // For Enter, by keyboard the only way into a dialog that is open already, and for an entry that has just been made.
   void ActivateIfOpen() const {
     if (IsOpen()) dialog_->Activate();
   }
