@@ -1,6 +1,7 @@
 #include "pages/CNemUIMailPage.h"
 
 #include "driver/Popups.h"
+#include "LongText.h"
 #include "MessageIds.h"
 #include "pages/CActionPage.h"
 #include "PageTable.h"
@@ -8,15 +9,16 @@
 
 namespace {
 
-const std::wstring kLong(40000, L'x');
+const std::wstring kLongLine = LongLine();
+const std::wstring kLongText = LongText();
 
 // A text of the mail: any length, and empty as well.
-PropertyRow MailText(const wchar_t* property, int edit) {
+PropertyRow MailText(const wchar_t* property, int edit, const std::wstring& longest = kLongLine) {
   return Field(property, edit)
       .Stores({{L"first", L"first", L"first"},
                {L"", L"", L""},
                {L"a@example.com; \u00E4 \u0645", L"a@example.com; \u00E4 \u0645", L"a@example.com; \u00E4 \u0645"},
-               {kLong.c_str(), kLong, kLong.c_str()}})
+               {longest.c_str(), longest, longest.c_str()}})
       .Types({{L"someone", L"someone", L"someone"}, {L"", L"", L""}})
       .Given({{L"StartAction", 2}});
 }
@@ -36,7 +38,7 @@ const PageTable kTable = {
                 .LockedBy<&AdminSettings::MailRecipient_Override>({IDC_MAIL_RECIPIENT, IDC_MAIL_RECIPIENT_LABEL}),
             MailText(L"MailSubject", IDC_MAIL_SUBJECT)
                 .LockedBy<&AdminSettings::MailSubject_Override>({IDC_MAIL_SUBJECT, IDC_MAIL_SUBJECT_LABEL}),
-            MailText(L"MailNotetext", IDC_MAIL_NOTE)
+            MailText(L"MailNotetext", IDC_MAIL_NOTE, kLongText)
                 .Stores({{L"one\r\ntwo\r\n", L"one\r\ntwo\r\n", L"one\r\ntwo\r\n"}})
                 .LockedBy<&AdminSettings::MailNoteText_Override>({IDC_MAIL_NOTE, IDC_MAIL_NOTE_LABEL}),
         },
