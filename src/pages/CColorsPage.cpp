@@ -1,5 +1,8 @@
 #include "pages/CColorsPage.h"
 
+#include "pages/ColorspaceAccess.h"
+#include "pages/FindPageAs.h"
+
 namespace {
 
 // By the order of the radio buttons.
@@ -9,6 +12,13 @@ constexpr uint16_t kCmyk = 1;
 
 void CColorsPage::ExchangeCockpitValues(const CockpitExchange& exchange, ColorsCockpitValues& values) {
   exchange.Value(colorspace, values.colorspace, colorspaceOverride.IsSet());
+  if (exchange.IsToPage() && !colorspaceOverride.IsSet()) TellWatermarkPage();
+}
+
+// The watermark page holds the colour space, too. Over a choice on this page it writes an older one back, on purpose; a
+// restored one has to outlast that.
+void CColorsPage::TellWatermarkPage() {
+  if (auto* watermark = FindPageAs<ColorspaceAccess>(*this, kWatermarkPage)) watermark->SetColorspace(colorspace);
 }
 
 // A number that neither button has shows none on, and is stored as CMYK.

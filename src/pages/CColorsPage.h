@@ -20,5 +20,6 @@ class CColorsPage : public CTrackedPage<ColorsCockpitValues> {
   void ExchangeCockpitValues(const CockpitExchange& exchange, ColorsCockpitValues& values) override;
 
  private:
+  void TellWatermarkPage();
   void ApplyOverrides();
 };

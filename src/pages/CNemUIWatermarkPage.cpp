@@ -1,7 +1,7 @@
 #include "pages/CNemUIWatermarkPage.h"
 
 // The colour space goes along as it was read: a page that stands behind the one for colours in the exchange of the host
-// puts its older value back, on purpose.
+// puts its older value back, on purpose. A restored value comes from that page (SetColorspace).
 auto CNemUIWatermarkPage::Bindings() const -> BindingTable {
   static constexpr Binding kBindings[] = {
       Bind<&CWatermarkPage::watermarkEnabled, &CDialogProperties::WatermarkEnabled>(),

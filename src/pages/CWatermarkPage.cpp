@@ -132,6 +132,12 @@ void CWatermarkPage::SaveStationeries() {
   dialog_.Close(*this);
 }
 
+// No control shows it.
+void CWatermarkPage::SetColorspace(uint16_t value) {
+  ReadProperties();
+  colorspace = value;
+}
+
 // --- Files ----------------------------------------------------------------------------------------------------------
 
 // Empty when the user has chosen none, or the page has come to its end meanwhile.

@@ -7,12 +7,13 @@
 #include "controls/CImageStatic.h"
 #include "controls/CMyHyperLink.h"
 #include "environment/Override.h"
+#include "pages/ColorspaceAccess.h"
 #include "pages/CStationeryPropertiesDialog.h"
 #include "pages/StationeryAccess.h"
 #include "pages/StationeryRow.h"
 #include "resources/ResourceIds.h"
 
-class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public StationeryAccess {
+class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public StationeryAccess, public ColorspaceAccess {
  public:
   using CTrackedPage::CTrackedPage;
   ~CWatermarkPage() override;
@@ -24,7 +25,7 @@ class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public Stati
   uint16_t stationeryAsForeground = 0;
   uint16_t stationerySelected = 0;  // row of the list
   CUString stationeryInfos;         // the list as text (pages/StationeryList.h); holds passwords, and is wiped
-  uint16_t colorspace = 0;          // written back as it was read
+  uint16_t colorspace = 0;          // written back as it was read or restored
 
   // What an administrator has fixed.
   BooleanOverride watermarkEnabledOverride;
@@ -34,6 +35,8 @@ class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public Stati
   BooleanOverride stationeryAsForegroundOverride;
   NumberOverride stationerySelectedOverride;
   TextOverride stationeryInfosOverride;  // with passwords, too
+
+  void SetColorspace(uint16_t value) override;
 
  protected:
   BOOL OnInitDialog() override;

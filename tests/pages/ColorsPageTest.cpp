@@ -36,6 +36,34 @@ TEST(ColorsPage, AValueOfNeitherKindIsStoredAsCmykUnderAnOverrideToo) {
   EXPECT_EQ(L"1", test.Value(L"Colorspace"));
 }
 
+// The watermark page puts back what it read over a choice, and not over a restored value; what is fixed is not
+// restored.
+TEST(ColorsPage, ARestoredValueReachesTheWatermarkPage) {
+  struct Row {
+    bool watermarkHasRead;
+    int32_t fixed;
+    const wchar_t* afterRestoring;
+  };
+  for (const Row& row : {Row{true, kUnsetNumber, L"0"}, Row{false, kUnsetNumber, L"0"}, Row{true, 1, L"7"}}) {
+    PageUnderTest test(kColorsPage);
+    test.Set(L"Colorspace", 7);
+    test.Admin().Colorspace_Override = row.fixed;
+    const auto watermark = MakeCataloguePage(&test.Sheet(), kWatermarkPage, 0);
+    test.Sheet().pages[kWatermarkPage] = watermark.get();
+    if (row.watermarkHasRead) watermark->ReadProperties();
+    ASSERT_TRUE(test.Open());
+    ASSERT_TRUE(test.Save());
+    EXPECT_EQ(L"1", test.Value(L"Colorspace"));
+    if (row.watermarkHasRead) {
+      watermark->WriteProperties();
+      EXPECT_EQ(L"7", test.Value(L"Colorspace"));
+    }
+    test.As<CColorsPage>().SetCockpitValues({0});
+    watermark->WriteProperties();
+    EXPECT_EQ(row.afterRestoring, test.Value(L"Colorspace")) << row.watermarkHasRead << ' ' << row.fixed;
+  }
+}
+
 // A radio that gets the keyboard may take itself for chosen.
 TEST(ColorsPage, TheKeyboardAloneChoosesNothing) {
   PageUnderTest test(kColorsPage);

@@ -1,5 +1,5 @@
-// What the pages of a sheet do to each other's values: format and invoice, format and stationery, and the switch
-// for attachments.
+// What the pages of a sheet do to each other's values: format and invoice, format and stationery, the switch for
+// attachments, and the colour space.
 #include <windows.h>
 // behind windows.h
 #include <gtest/gtest.h>
@@ -10,8 +10,8 @@
 
 namespace {
 
-constexpr int kCockpitPage = 120, kWatermarkPage = 101, kZugferdPage = 112, kLinksPage = 113, kAttachmentsPage = 114,
-              kFormFieldsPage = 115, kFormatPage = 118;
+constexpr int kCockpitPage = 120, kWatermarkPage = 101, kColorsPage = 111, kZugferdPage = 112, kLinksPage = 113,
+              kAttachmentsPage = 114, kFormFieldsPage = 115, kFormatPage = 118;
 constexpr int kRestoreLink = 1444;
 constexpr int kPlain17 = 4, kPdfA1b = 7, kPdfA3b = 12;  // rows of the versions
 constexpr wchar_t kFiles[] = L"\"C:\\not there\\a.doc\"";
@@ -202,6 +202,20 @@ TEST_F(PagesTogether, RestoredDefaultsOutlastALinksPageThatWasShown) {
               sheet.PressOk();
             }));
   EXPECT_EQ(0, host.Long(0, L"EmbedFilenamesEnabled"));
+}
+
+TEST_F(PagesTogether, OnlyRestoringTakesTheColourSpaceOfAWatermarkPageThatWasShown) {
+  host.Set(0, L"Colorspace", 1);
+  for (const bool restored : {false, true}) {
+    EXPECT_EQ(1, Run([restored](Sheet& sheet) -> SheetTask {
+                co_await Show(sheet, kWatermarkPage);
+                co_await Show(sheet, kColorsPage);
+                sheet.Control(IDC_COLORS_RGB).Click();
+                if (restored) co_await RestoreDefaults(sheet);
+                sheet.PressOk();
+              }));
+    EXPECT_EQ(restored ? 0 : 1, host.Long(0, L"Colorspace"));
+  }
 }
 
 // The format page has read its properties long before: the cockpit asks all pages when the sheet opens.
