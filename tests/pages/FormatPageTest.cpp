@@ -13,6 +13,7 @@
 #include "pages/ZugferdAccess.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
+#include "support/ControlPictures.h"
 #include "support/FakeSheet.h"
 #include "support/InvalidDataBox.h"
 #include "ui/PropertyAccess.h"
@@ -357,6 +358,16 @@ TEST_F(FormatPage, DefaultsAreToldToThoseWhoComeFromElsewhere) {
   }
 }
 
+// The row that is selected already can be selected again.
+TEST_F(FormatPage, PdfUAIsToldThoseWhoComeFromItToo) {
+  OpenWith(200);
+  const HWND combo = Control(IDC_FORMAT_VERSION).Window();
+  ExpectNotice(kDefaultsUA);
+  for (int i = 0; i < 2; ++i)
+    page_->Send(WM_COMMAND, MAKEWPARAM(IDC_FORMAT_VERSION, CBN_SELCHANGE), reinterpret_cast<LPARAM>(combo));
+  EXPECT_EQ(1u, BoxCount());
+}
+
 TEST_F(FormatPage, EachNoticeComesOnceInThePagesLife) {
   OpenWith(14);
   const std::pair<int, const std::wstring*> families[] = {
@@ -580,14 +591,35 @@ TEST_F(FormatPage, APageUnderTheBoxOfTheQuestionMayEnd) {
   EXPECT_EQ(Log{}, log_);
 }
 
-TEST_F(FormatPage, SavingLetsTheInvoicePageWriteWhatItHasRead) {
+TEST_F(FormatPage, AnInvoiceOfADocumentAsksAsWell) {
   sheet_.pages[kZugferdPage] = &zugferd_;
-  Open();
-  ASSERT_TRUE(page_->UpdateData(true));
-  EXPECT_EQ(Log{}, TakeLog()) << "it has read nothing, and would write over what the host has set";
-  zugferd_.ReadProperties();
-  ASSERT_TRUE(page_->UpdateData(true));
-  EXPECT_EQ(Log{"write"}, TakeLog());
+  OpenWith(106, 1);
+  ExpectQuestion(IDCANCEL);
+  Choose(17);
+  EXPECT_EQ(106, Shown());
+  EXPECT_EQ(Log{}, TakeLog());
+  ExpectQuestion(IDOK);
+  Choose(17);
+  EXPECT_EQ((Log{"clear overrides", "invoice 0"}), TakeLog());
+  ASSERT_TRUE(Save());
+  EXPECT_EQ(17, StoredVersion(1));
+  EXPECT_EQ(14, StoredVersion(0));
+}
+
+TEST_F(FormatPage, SavingLetsTheInvoicePageWriteWhatItHasRead) {
+  for (const int set : {0, 1}) {
+    FakeZugferdPage zugferd(log_);
+    sheet_.pages[kZugferdPage] = &zugferd;
+    Open(set);
+    ASSERT_TRUE(page_->UpdateData(true));
+    EXPECT_EQ(Log{}, TakeLog()) << "it has read nothing, and would write over what the host has set";
+    zugferd.ReadProperties();
+    ASSERT_TRUE(page_->UpdateData(true));
+    EXPECT_EQ(Log{"write"}, TakeLog()) << set;
+    SendMessageW(Control(IDC_FORMAT_VERSION).Window(), CB_SETCURSEL, static_cast<WPARAM>(-1), 0);
+    EXPECT_FALSE(page_->UpdateData(true));
+    EXPECT_EQ(Log{"write"}, TakeLog()) << set << ": in front of the step that fails";
+  }
 }
 
 // --- What a version switches off on other pages --------------------------------------------------------------------
@@ -601,12 +633,13 @@ Log ExpectedAsks(int version) {
 
 TEST_F(FormatPage, LoadingSwitchesOffWhatTheVersionForbids) {
   AddOtherPages();
-  for (const int version : {13, 14, 15, 16, 17, 18, 99, 100, 101, 102, 103, 104, 105, 106, 107, 108, 150, 200, 201}) {
-    OpenWith(version);
-    EXPECT_EQ(ExpectedAsks(version), TakeLog()) << version;
-    ASSERT_TRUE(page_->UpdateData(false));
-    EXPECT_EQ(ExpectedAsks(version), TakeLog()) << version << " at each loading";
-  }
+  for (const int set : {0, 1})
+    for (const int version : {13, 14, 15, 16, 17, 18, 99, 100, 101, 102, 103, 104, 105, 106, 107, 108, 150, 200, 201}) {
+      OpenWith(version, set);
+      EXPECT_EQ(ExpectedAsks(version), TakeLog()) << version << " of set " << set;
+      ASSERT_TRUE(page_->UpdateData(false));
+      EXPECT_EQ(ExpectedAsks(version), TakeLog()) << version << " at each loading";
+    }
 }
 
 TEST_F(FormatPage, ChoosingAVersionSwitchesOffWhatItForbids) {
@@ -1225,6 +1258,7 @@ TEST_F(FormatPage, HintStandsBesideItsSign) {
     ASSERT_TRUE(sign) << id;
     EXPECT_TRUE(sign->IsLoaded()) << id;
   }
+  ExpectPictures(*page_, {{1275, Pictures::kSignInformation32}, {1276, Pictures::kSignWarning32}});
 }
 
 TEST_F(FormatPage, CaptionsThatNoTemplateCanHoldAreThere) {
