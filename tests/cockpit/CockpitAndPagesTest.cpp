@@ -1,9 +1,10 @@
-// The cockpit with the real pages side by side, none of them ever shown: from a property to its row, and the factory
-// state back into the properties.
+// The cockpit with the real pages side by side, none of them ever shown unless a test says so: from a property to its
+// row, and the factory state back into the properties.
 #include "CockpitTest.h"
 
 #include <iterator>
 
+#include "sheet/BarContents.h"
 #include "support/CockpitFields.h"
 #include "support/PageUnderTest.h"
 
@@ -142,7 +143,29 @@ class CockpitAndPages : public CockpitRestore {
     }
   }
 
+  // The same with all pages of the tab shown before: at OK each writes what its controls hold, one behind the other.
+  // `others` are the fields that have another value then than the factory's.
+  void ExpectRestoredWhenShown(int set, int pdfVersion, const std::map<int, std::wstring>& others) {
+    ChangeAllProperties(set);
+    sheet_.properties.PdfVersion[set].SetLong(pdfVersion);
+    MakePages(set);
+    for (const auto& [pageId, page] : realPages_) ASSERT_TRUE(page->Create(parent_.Window())) << pageId;
+    Open();
+    Restore(IDYES);
+    for (const int pageId : TabOrder()) {
+      CNemUIPage* page = sheet_.FindPage(pageId);
+      EXPECT_TRUE(!page || page->OnApply()) << pageId;
+    }
+    for (const Field& field : kFields) {
+      if (!field.hasDefault) continue;
+      const auto other = others.find(field.number);
+      EXPECT_EQ(other == others.end() ? field.read(factory_) : other->second, Stored(field.number, set)) << field.name;
+    }
+  }
+
   static constexpr int kPaperCategory = 2, kStartAction = 40;
+  // The factory's kind of file, in its bits.
+  const std::map<int, std::wstring> kStoredAtOk = {{38, L"258"}};
   const CCockpitSettings factory_{Settings::IsA4()};
   std::map<int, std::unique_ptr<CNemUIPage>> realPages_;
 };
@@ -210,6 +233,16 @@ TEST_F(CockpitAndPagesOfTheDocument, RestoringReachesTheTabsOwnPropertiesAlone) 
   EXPECT_EQ(L"(Conversion engine)", RowText(10));
 }
 
+// No page brings back what another one has restored, nor what the former version made it show.
+TEST_F(CockpitAndPages, WhatIsRestoredOutlastsAllPagesThatWereShown) { ExpectRestoredWhenShown(0, 17, kStoredAtOk); }
+TEST_F(CockpitAndPages, WhatIsRestoredOutlastsAllPagesOfAPdfA) { ExpectRestoredWhenShown(0, 101, kStoredAtOk); }
+
+TEST_F(CockpitAndPagesOfTheDocument, WhatIsRestoredOutlastsAllPagesThatWereShown) {
+  std::map<int, std::wstring> others;
+  for (const int number : {35, 36, 38, 39, 40}) others[number] = Changed(FieldOf(number));
+  ExpectRestoredWhenShown(1, 200, others);
+}
+
 // What fixes a field, and what then stands in the property at OK.
 struct Fixed {
   int number;
@@ -236,6 +269,7 @@ const Fixed kFixed[] = {
     {40, &AdminSettings::StartActionViewerCheck_Override, L"6"},  // 2 and 4; 8 is nobody's
     {40, &AdminSettings::StartActionMailCheck_Override, L"6"},
     {40, &AdminSettings::StartActionProgramCheck_Override, L"6"},
+    {40, &AdminSettings::StartActionProgramBeforeCheck_Override, L"6"},  // fixes nothing: the bit is always stored
     {41, &AdminSettings::Colorspace_Override},
     {55, &AdminSettings::EncryptOwnerPasswordEnabled_Override},
     {56, &AdminSettings::EncryptUserPasswordEnabled_Override},

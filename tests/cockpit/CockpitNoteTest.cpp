@@ -137,6 +137,17 @@ TEST_F(CockpitNote, OnlyTheTextIsHot) {
   }
 }
 
+// The text lets the mouse through, and so does the group box around it, or the page would never hear of it.
+TEST_F(CockpitNote, TheMouseOverATextIsThePages) {
+  Open();
+  for (int category = 1; category <= kCockpitCategoryCount; ++category) {
+    const RECT place = Item(TextId(category)).WindowRect();
+    const LPARAM middle = MAKELPARAM((place.left + place.right) / 2, (place.top + place.bottom) / 2);
+    for (const int id : {TextId(category), kRows[category - 1].groupId})
+      EXPECT_EQ(HTTRANSPARENT, Item(id).Send(WM_NCHITTEST, 0, middle)) << id;
+  }
+}
+
 TEST_F(CockpitNote, EndsAtTheNextMovement) {
   Open();
   MoveMouseTo(TextId(2));

@@ -1,9 +1,12 @@
 // What the cockpit shows, where it leads, and how it restores the factory state.
 #include "CockpitTest.h"
 
+#include <new>
+
 #include "pages/CNemUIPdfGraphicPage.h"
 #include "sheet/CNemUIGlobalSettingsPage.h"
 #include "support/CockpitFields.h"
+#include "support/FailingMalloc.h"
 
 namespace cockpit_test {
 namespace {
@@ -143,6 +146,36 @@ TEST_F(CockpitTest, APageOfAnotherKindIsPassedOver) {
   Open();
   EXPECT_FALSE(MarkedRows().contains(9));
   EXPECT_TRUE(MarkedRows().contains(1));
+}
+
+// Refused at each place in turn: the first time that it is not, the comparison comes to its end.
+TEST_F(CockpitTest, AComparisonWithoutMemoryThrowsAndGivesBackWhatItHad) {
+  constexpr int kSecurity = 17;  // with three items
+  CCockpitSettings baseline(true), current(true);
+  current.security = {1, 1, 1};
+  const auto compare = [&] {
+    CUString label, detail;
+    int32_t lines = 0, width = 0;
+    return CompareCategory(baseline, current, kSecurity, label, detail, lines, width);
+  };
+  EXPECT_EQ(1.0, compare());  // what is allocated once in a process is there then
+  int failures = 0;
+  for (int granted = 0; failures == granted; ++granted) {
+    int left = 0;
+    double weight = -1;
+    {
+      const FailingMalloc exhausted(granted);
+      try {
+        weight = compare();
+      } catch (const std::bad_alloc&) {
+        ++failures;
+      }
+      left = exhausted.BlocksLeft();
+    }
+    EXPECT_EQ(failures > granted ? -1 : 1.0, weight) << granted;
+    EXPECT_EQ(0, left) << granted;
+  }
+  EXPECT_LT(5, failures);
 }
 
 // --- Links and squares ----------------------------------------------------------------------------------------------
