@@ -59,6 +59,7 @@ TEST(ColorsPage, ARestoredValueReachesTheWatermarkPage) {
       EXPECT_EQ(L"7", test.Value(L"Colorspace"));
     }
     test.As<CColorsPage>().SetCockpitValues({0});
+    watermark->ReadProperties();
     watermark->WriteProperties();
     EXPECT_EQ(row.afterRestoring, test.Value(L"Colorspace")) << row.watermarkHasRead << ' ' << row.fixed;
   }
