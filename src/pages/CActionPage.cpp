@@ -30,7 +30,7 @@ void CActionPage::ExchangeCockpitValues(const CockpitExchange& exchange, ActionC
 
 BOOL CActionPage::OnInitDialog() {
   Item(IDC_ACTION_VIEWER).SetText(MessageText(MSG_ACTION_VIEWER).Text());
-  for (const int edit : {IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS}) CEdit(Item(edit)).ReadLeftToRight();
+  for (const int edit : {IDC_ACTION_PROGRAM, IDC_ACTION_PARAMETERS}) Item(edit).ReadLeftToRight();
   return CTrackedPage::OnInitDialog();
 }
 

@@ -89,7 +89,7 @@ BOOL CProgramPage::OnInitDialog() {
   const CUString program = CEPathString::ModulePath(nullptr).GetNameAndExtension();
   Item(IDC_SAVING_INSTANCES).SetText(MessageText(MSG_SAVING_INSTANCES, WithoutAccessKey(program)).Text());
   Item(IDC_SAVING_ADD_IN).SetText(MessageText(MSG_SAVING_ADD_IN, program).Text());
-  for (const int edit : {IDC_SAVING_FOLDER, IDC_SAVING_FILE, IDC_SAVING_SUFFIX}) CEdit(Item(edit)).ReadLeftToRight();
+  for (const int edit : {IDC_SAVING_FOLDER, IDC_SAVING_FILE, IDC_SAVING_SUFFIX}) Item(edit).ReadLeftToRight();
   if (tiffVariant) {
     Item(IDC_SAVING_SUFFIX).Show(false);
     Item(IDC_SAVING_SUFFIX_CHECK).SetText(MessageText(MSG_SAVING_TIFF_PAGES).Text());

@@ -41,7 +41,7 @@ bool CStationeryPropertiesDialog::OnWindowMessage(WindowMessage& message) {
 
 BOOL CStationeryPropertiesDialog::OnInitDialog() {
   CEdit(Item(IDC_STATIONERY_NAME)).LimitText(kMaxDescription);
-  CEdit(Item(IDC_STATIONERY_FILE)).ReadLeftToRight();
+  Item(IDC_STATIONERY_FILE).ReadLeftToRight();
   // A radio that gets the focus tells a click otherwise, which nobody made.
   for (const int radio : kModeRadios) Item(radio).Send(BM_SETDONTCLICK, TRUE);
   Fill();

@@ -46,6 +46,8 @@ uint16_t ReadCounter(const wchar_t* subkey, const wchar_t* value) {
 BOOL CStatisticsPage::OnInitDialog() {
   if (!CNemUIPage::OnInitDialog()) return FALSE;
   ShowControls(kUnusedControls, false);
+  for (const CounterRow& row : kCounters)
+    for (const int number : {row.totalId, row.monthId}) Item(number).ReadLeftToRight();
   for (size_t i = 0; i < std::size(kLinks); ++i) {
     links_[i].Attach(*this, kLinks[i].controlId);
     links_[i].SetUrl(WebAddress(kLinks[i].path).Text());

@@ -52,7 +52,7 @@ void CZugferdPage::ExchangeCockpitValues(const CockpitExchange& exchange, Zugfer
 
 BOOL CZugferdPage::OnInitDialog() {
   ChangeExtendedStyle(0, WS_EX_ACCEPTFILES);
-  CEdit(Item(IDC_ZUGFERD_XML_FILE)).ReadLeftToRight();
+  Item(IDC_ZUGFERD_XML_FILE).ReadLeftToRight();
   return CTrackedPage::OnInitDialog();
 }
 

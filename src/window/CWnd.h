@@ -50,6 +50,9 @@ class CWnd {
   void ChangeExtendedStyle(DWORD remove, DWORD add) const;
   // The window lays out from right to left.
   bool IsMirrored() const { return (ExtendedStyle() & WS_EX_LAYOUTRTL) != 0; }
+  // In a mirrored dialog too. For paths, parts of them and command lines, whose parts would change places; and for
+  // numbers in a column, whose last digits stand one above the other.
+  void ReadLeftToRight() const { ChangeExtendedStyle(WS_EX_LAYOUTRTL | WS_EX_RTLREADING | WS_EX_RIGHT, 0); }
 
   HFONT Font() const { return reinterpret_cast<HFONT>(Send(WM_GETFONT)); }
   void SetFont(HFONT font) const { Send(WM_SETFONT, reinterpret_cast<WPARAM>(font), TRUE); }

@@ -31,8 +31,6 @@ class CEdit : public CWnd {
   // What stands for each character of the text; 0 shows the text itself.
   void SetPasswordCharacter(wchar_t character) const { Send(EM_SETPASSWORDCHAR, character); }
   void SetReadOnly(bool readOnly) const { Send(EM_SETREADONLY, readOnly); }
-  // For paths, parts of them and command lines: in a mirrored dialog their parts would change places.
-  void ReadLeftToRight() const { ChangeExtendedStyle(WS_EX_LAYOUTRTL | WS_EX_RTLREADING | WS_EX_RIGHT, 0); }
 };
 
 class CComboBox : public CWnd {

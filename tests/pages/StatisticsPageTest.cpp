@@ -53,6 +53,18 @@ class StatisticsPage : public testing::Test {
 
 }  // namespace
 
+// Their last digits stand one above the other.
+TEST_F(StatisticsPage, NumbersReadFromLeftToRightInAMirroredPageToo) {
+  const LanguageScope arabic(0x0401);
+  ASSERT_TRUE(test.Open());
+  EXPECT_TRUE(CWnd(test.Page().Handle()).IsMirrored());
+  for (const CounterCase& row : kCounters)
+    for (const int id : {row.total, row.month}) {
+      EXPECT_TRUE(test.Control(id).ReadsLeftToRight()) << id;
+      EXPECT_EQ(SS_RIGHT, GetWindowLongW(test.Control(id).Window(), GWL_STYLE) & SS_TYPEMASK) << id;
+    }
+}
+
 TEST_F(StatisticsPage, WithoutCountersAllNumbersAreZero) {
   ASSERT_TRUE(test.Open());
   for (const CounterCase& row : kCounters) {
