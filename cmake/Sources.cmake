@@ -37,8 +37,8 @@ else()
   endif()
 endif()
 
-# The standard headers that take most of a unit's compile time are compiled once for each library. A unit includes what it
-# uses all the same: it also builds with CMAKE_DISABLE_PRECOMPILE_HEADERS.
+# The standard headers that take most of a unit's compile time are compiled once for each library. A unit includes what
+# it uses all the same; the fuzzers' build does without, and finds what a window-free one lacks.
 set(NEMPDF_STANDARD_HEADERS <algorithm> <functional> <memory> <string> <string_view> <utility> <vector>)
 
 add_library(NemPdfCore STATIC)

@@ -13,10 +13,11 @@ void KeepLibraryLoaded() {
                        reinterpret_cast<const wchar_t*>(reinterpret_cast<void*>(&KeepLibraryLoaded)), &module);
 }
 
-// A box that lies over the window disables the root of it, and leaves the controls as they are.
-bool CanBeUsed(HWND window) { return ::IsWindowEnabled(window) && ::IsWindowEnabled(::GetAncestor(window, GA_ROOT)); }
-
 }  // namespace
+
+bool CanBeUsed(HWND control) {
+  return ::IsWindowEnabled(control) && ::IsWindowEnabled(::GetAncestor(control, GA_ROOT));
+}
 
 bool CAccessibility::OnMessage(CAccessibleSource& source, WindowMessage& message) {
   switch (message.message) {

@@ -31,11 +31,11 @@ class CAccessibleSource {
   // The word for what a click does ("Press"), or an empty text.
   virtual CUString PartAction(int) const { return {}; }
   virtual bool HasPartAction(int) const { return false; }
-  // Does it, as a click would: not while the window is disabled, or all around it. It may end the control.
+  // Does it, as a click would: only while the control can be used. It may end the control.
   virtual void DoPartAction(int) {}
   // The part that has the keyboard's focus while the control has it.
   virtual int FocusedPart() const { return kSelf; }
-  // Moves the focus to the part; the control has it already.
+  // Moves the focus to the part; the control has it already, and can be used.
   virtual void FocusPart(int) {}
 
  protected:
@@ -64,6 +64,9 @@ class CAccessibility {
 
   CAccessibleObject* object_ = nullptr;
 };
+
+// A box that lies over a control disables the root around it, and leaves the control as it is.
+bool CanBeUsed(HWND control);
 
 // A reader's action, posted to the control's window with the part in the first argument: the reader is not kept waiting
 // while the action shows a box.

@@ -201,6 +201,7 @@ STDMETHODIMP CAccessibleObject::get_accSelection(VARIANT* children) {
 STDMETHODIMP CAccessibleObject::accSelect(LONG flags, VARIANT child) {
   return AskPart(child, [&](int part) -> HRESULT {
     if (flags & ~(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION)) return E_INVALIDARG;
+    if (!CanBeUsed(Window())) return S_FALSE;
     if (flags & SELFLAG_TAKEFOCUS) {
       // Whoever loses the focus, and whoever gets it, may end the control or take the part away.
       ::SetFocus(Window());

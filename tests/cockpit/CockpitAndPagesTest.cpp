@@ -165,7 +165,7 @@ class CockpitAndPages : public CockpitRestore {
 
   static constexpr int kPaperCategory = 2, kStartAction = 40;
   // The factory's kind of file, in its bits.
-  const std::map<int, std::wstring> kStoredAtOk = {{38, L"258"}};
+  static inline const std::map<int, std::wstring> kStoredAtOk = {{38, L"258"}};
   const CCockpitSettings factory_{Settings::IsA4()};
   std::map<int, std::unique_ptr<CNemUIPage>> realPages_;
 };

@@ -49,7 +49,7 @@ BOOL WINAPI OtherTokenInformation(HANDLE, TOKEN_INFORMATION_CLASS, void* buffer,
   return fits ? !refuseUser : sizeError == ERROR_SUCCESS;
 }
 
-// All tokens of Wine name one user, so what a thread's own token tells of its user is another's; the tokens are real.
+// The tokens are real. All of Wine's name one user, so a thread's own is made to name another.
 BOOL WINAPI OtherUserOfThreads(HANDLE token, TOKEN_INFORMATION_CLASS kind, void* buffer, DWORD size, DWORD* needed) {
   static auto* const real = RealFunction(kSystem, "GetTokenInformation", GetTokenInformation);
   TOKEN_TYPE type = TokenPrimary;

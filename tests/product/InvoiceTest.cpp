@@ -211,7 +211,10 @@ TEST_F(PagesTogether, OnlyRestoringTakesTheColourSpaceOfAWatermarkPageThatWasSho
                 co_await Show(sheet, kWatermarkPage);
                 co_await Show(sheet, kColorsPage);
                 sheet.Control(IDC_COLORS_RGB).Click();
-                if (restored) co_await RestoreDefaults(sheet);
+                if (restored)
+                  co_await RestoreDefaults(sheet);
+                else
+                  co_await Show(sheet, kCockpitPage);  // asks the pages for their values, and tells them none
                 sheet.PressOk();
               }));
     EXPECT_EQ(restored ? 0 : 1, host.Long(0, L"Colorspace"));

@@ -221,6 +221,16 @@ TEST_F(CAccessibilityTest, SelectFocusesAndActs) {
   EXPECT_EQ(E_INVALIDARG, object->accSelect(SELFLAG_EXTENDSELECTION, Accessible::Part(1)));
 }
 
+TEST_F(CAccessibilityTest, SelectDoesNothingToADisabledControl) {
+  const Accessible object(control.window);
+  ::EnableWindow(control.window, FALSE);
+  ASSERT_EQ(1, control.focused);
+  EXPECT_EQ(S_FALSE, object->accSelect(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION, Accessible::Part(3)));
+  control.RunPosted();
+  EXPECT_EQ(1, control.focused);
+  EXPECT_EQ(0, control.done);
+}
+
 TEST_F(CAccessibilityTest, PartsAreNoObjectsOfTheirOwn) {
   const Accessible object(control.window);
   IDispatch* child = nullptr;
