@@ -1,5 +1,7 @@
 #include "driver/RowDialogs.h"
 
+#include "driver/Bar.h"
+
 namespace {
 
 constexpr RowDialog kDialogs[] = {
@@ -26,8 +28,9 @@ std::span<const std::pair<const wchar_t*, const wchar_t*>> FilledLists() { retur
 std::span<const wchar_t* const> FilledListSwitches() { return kSwitches; }
 
 SheetTask SelectFirstRow(Sheet& sheet, const RowDialog& row) {
-  EXPECT_TRUE(sheet.SelectPage(row.pageId) || sheet.PageId() == row.pageId) << row.name;
-  co_await sheet.Settled();
+  bool shown = sheet.PageId() == row.pageId;
+  if (!shown) co_await ClickPage(sheet, row.pageId, shown);
+  EXPECT_TRUE(shown) << row.name;
   sheet.Control(row.list).Select(0);
   co_await sheet.Settled();
 }
