@@ -1,7 +1,7 @@
 #include "pages/CColorsPage.h"
 
-#include "pages/ColorspaceAccess.h"
 #include "pages/FindPageAs.h"
+#include "pages/WatermarkAccess.h"
 
 namespace {
 
@@ -18,7 +18,7 @@ void CColorsPage::ExchangeCockpitValues(const CockpitExchange& exchange, ColorsC
 // The watermark page holds the colour space, too. Over a choice on this page it writes an older one back, on purpose; a
 // restored one has to outlast that.
 void CColorsPage::TellWatermarkPage() {
-  if (auto* watermark = FindPageAs<ColorspaceAccess>(*this, kWatermarkPage)) watermark->SetColorspace(colorspace);
+  if (auto* watermark = FindPageAs<WatermarkAccess>(*this, kWatermarkPage)) watermark->SetColorspace(colorspace);
 }
 
 // A number that neither button has shows none on, and is stored as CMYK.

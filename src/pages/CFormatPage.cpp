@@ -9,7 +9,7 @@
 #include "pages/HostBits.h"
 #include "pages/PdfVersions.h"
 #include "pages/SecurityAccess.h"
-#include "pages/StationeryAccess.h"
+#include "pages/WatermarkAccess.h"
 #include "pages/ZugferdAccess.h"
 #include "window/RadioTable.h"
 #include "window/ValueScope.h"
@@ -169,7 +169,7 @@ void CFormatPage::ShowDefaults(int previousVersion) {
 }
 
 bool CFormatPage::UsesStationery() {
-  auto* watermark = FindPageAs<StationeryAccess>(*this, kWatermarkPage);
+  auto* watermark = FindPageAs<WatermarkAccess>(*this, kWatermarkPage);
   return watermark ? watermark->IsStationeryEnabled() : stationeryEnabled != 0;
 }
 

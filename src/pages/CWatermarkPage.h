@@ -7,13 +7,12 @@
 #include "controls/CImageStatic.h"
 #include "controls/CMyHyperLink.h"
 #include "environment/Override.h"
-#include "pages/ColorspaceAccess.h"
 #include "pages/CStationeryPropertiesDialog.h"
-#include "pages/StationeryAccess.h"
 #include "pages/StationeryRow.h"
+#include "pages/WatermarkAccess.h"
 #include "resources/ResourceIds.h"
 
-class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public StationeryAccess, public ColorspaceAccess {
+class CWatermarkPage : public CTrackedPage<WatermarkCockpitValues>, public WatermarkAccess {
  public:
   using CTrackedPage::CTrackedPage;
   ~CWatermarkPage() override;

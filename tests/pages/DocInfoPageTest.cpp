@@ -73,7 +73,7 @@ TEST_F(DocInfoPage, TextsOfAnyLengthCanBeTyped) {
     EXPECT_LE(0x7FFFFFFEu, static_cast<UINT>(SendMessageW(Control(id).Window(), EM_GETLIMITTEXT, 0, 0))) << id;
   for (size_t i = 0; i < std::size(kEdits); ++i) {
     const bool hasLines = (GetWindowLongPtrW(Control(kEdits[i]).Window(), GWL_STYLE) & ES_MULTILINE) != 0;
-    const std::wstring longText = hasLines ? LongText() : LongLine();
+    const std::wstring& longText = hasLines ? kLongText : kLongLine;
     NewPage();
     test_->Set(kProperties[i], longText);
     ASSERT_TRUE(Open());

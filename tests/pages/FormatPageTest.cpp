@@ -9,7 +9,7 @@
 #include "pages/CNemUIFormatPage.h"
 #include "pages/EmbedFilenamesAccess.h"
 #include "pages/SecurityAccess.h"
-#include "pages/StationeryAccess.h"
+#include "pages/WatermarkAccess.h"
 #include "pages/ZugferdAccess.h"
 #include "PageTable.h"
 #include "resources/ResourceIds.h"
@@ -109,10 +109,11 @@ class FakeAttachmentsPage final : public OtherPage, public EmbedFilenamesAccess 
   const std::string name_;
 };
 
-class FakeWatermarkPage final : public OtherPage, public StationeryAccess {
+class FakeWatermarkPage final : public OtherPage, public WatermarkAccess {
  public:
   using OtherPage::OtherPage;
   bool IsStationeryEnabled() override { return on; }
+  void SetColorspace(uint16_t) override {}
   bool on = true;
 };
 

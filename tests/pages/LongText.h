@@ -3,13 +3,11 @@
 
 #include <string>
 
-constexpr size_t kLongTextSize = 33'000;
-
-inline std::wstring LongLine() { return std::wstring(kLongTextSize, L'x'); }
+inline const std::wstring kLongLine(33'000, L'x');
 
 // For an edit of several lines: to wrap one long line costs Wine seconds.
-inline std::wstring LongText() {
+inline const std::wstring kLongText = [] {
   std::wstring text;
-  while (text.size() < kLongTextSize) text += L"one of many lines\r\n";
+  while (text.size() < kLongLine.size()) text += L"one of many lines\r\n";
   return text;
-}
+}();

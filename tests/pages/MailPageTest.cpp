@@ -9,9 +9,6 @@
 
 namespace {
 
-const std::wstring kLongLine = LongLine();
-const std::wstring kLongText = LongText();
-
 // A text of the mail: any length, and empty as well.
 PropertyRow MailText(const wchar_t* property, int edit, const std::wstring& longest = kLongLine) {
   return Field(property, edit)
