@@ -65,7 +65,8 @@ class CAccessibility {
   CAccessibleObject* object_ = nullptr;
 };
 
-// A box that lies over a control disables the root around it, and leaves the control as it is.
+// Neither the control nor the root around it is disabled. A box that lies over a control disables the root, and leaves
+// the control as it is.
 bool CanBeUsed(HWND control);
 
 // A reader's action, posted to the control's window with the part in the first argument: the reader is not kept waiting

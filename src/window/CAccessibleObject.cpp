@@ -201,8 +201,8 @@ STDMETHODIMP CAccessibleObject::get_accSelection(VARIANT* children) {
 STDMETHODIMP CAccessibleObject::accSelect(LONG flags, VARIANT child) {
   return AskPart(child, [&](int part) -> HRESULT {
     if (flags & ~(SELFLAG_TAKEFOCUS | SELFLAG_TAKESELECTION)) return E_INVALIDARG;
-    if (!CanBeUsed(Window())) return S_FALSE;
     if (flags & SELFLAG_TAKEFOCUS) {
+      if (!CanBeUsed(Window())) return S_FALSE;
       // Whoever loses the focus, and whoever gets it, may end the control or take the part away.
       ::SetFocus(Window());
       if (!source_) return CO_E_OBJNOTCONNECTED;

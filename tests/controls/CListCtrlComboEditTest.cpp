@@ -664,10 +664,14 @@ TEST(CListCtrlComboEdit, RowsAreSpokenWithAllTheirCells) {
   EXPECT_EQ(plain | STATE_SYSTEM_OFFSCREEN, reader.State(40));
   ::EnableWindow(test.control.Handle(), FALSE);
   EXPECT_EQ(STATE_SYSTEM_UNAVAILABLE, reader.State(1));
-  const int marked = test.list->SelectionMark();
-  reader->accSelect(SELFLAG_TAKEFOCUS, Accessible::Part(3));
-  EXPECT_EQ(marked, test.list->SelectionMark());
   ::EnableWindow(test.control.Handle(), TRUE);
+  const int marked = test.list->SelectionMark();
+  for (const HWND window : {test.control.Handle(), ::GetAncestor(test.control.Handle(), GA_ROOT)}) {
+    ::EnableWindow(window, FALSE);
+    reader->accSelect(SELFLAG_TAKEFOCUS, Accessible::Part(3));
+    EXPECT_EQ(marked, test.list->SelectionMark());
+    ::EnableWindow(window, TRUE);
+  }
   reader->accSelect(SELFLAG_TAKEFOCUS, Accessible::Part(3));
   EXPECT_EQ(2, test.list->SelectionMark());
   ::DestroyWindow(test.control.Handle());
